@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QHashFunctions>
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+/// A KNX group address of three levels, main / middle / sub (KNX Standard, 3/3/2 "Data Link Layer General").
+///
+/// On the bus it is a 16-bit number, main * 2048 + middle * 256 + sub, so main is 0..31, middle 0..7, sub 0..255.
+/// Records may hold main groups above 31, which no bus can carry; such an address is valid here but not `isOnBus()`.
+class Group_Address {
+public:
+  static constexpr int cMainMax = 31;
+  static constexpr int cMiddleMax = 7;
+  static constexpr int cSubMax = 255;
+
+  constexpr Group_Address() = default;
+  constexpr Group_Address(int main, int middle, int sub) : mMain(main), mMiddle(middle), mSub(sub) {}
+
+  /// From the 16-bit number on the bus.
+  [[nodiscard]] static constexpr Group_Address fromNumber(quint16 number) {
+    return {number >> 11, (number >> 8) & 7, number & 255};
+  }
+
+  /// Reads "1/2/3" (three levels), "1/515" (two levels: main 0..31, sub 0..2047), "2563", "$0A03" or "0x0a03" (free).
+  /// On failure the result is empty and `error`, if given, tells what is allowed (German).
+  [[nodiscard]] static std::optional<Group_Address> parse(QStringView text, QString* error = nullptr);
+
+  [[nodiscard]] constexpr int main() const { return mMain; }
+  [[nodiscard]] constexpr int middle() const { return mMiddle; }
+  [[nodiscard]] constexpr int sub() const { return mSub; }
+  [[nodiscard]] constexpr bool isOnBus() const {
+    return mMain >= 0 && mMain <= cMainMax && mMiddle >= 0 && mMiddle <= cMiddleMax && mSub >= 0 && mSub <= cSubMax;
+  }
+
+  /// "1/2/3".
+  [[nodiscard]] QString toString() const;
+  /// "1/*" and "1/2/*", the forms for whole groups.
+  [[nodiscard]] static QString mainGroupText(int main);
+  [[nodiscard]] static QString middleGroupText(int main, int middle);
+
+  friend constexpr auto operator<=>(const Group_Address&, const Group_Address&) = default;
+  friend size_t qHash(const Group_Address& address, size_t seed = 0) {
+    return qHashMulti(seed, address.mMain, address.mMiddle, address.mSub);
+  }
+
+private:
+  int mMain = 0;
+  int mMiddle = 0;
+  int mSub = 0;
+};

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "base/Group_Address.h"
+#include "db/DB_Address_Groups.h"
+
+#include <QHash>
+#include <QObject>
+#include <QUuid>
+
+#include <functional>
+#include <memory>
+
+/// The project's group addresses: main groups, each with its middle groups, each with its group addresses, every level
+/// ordered by number (equal numbers in the order in which they came).
+///
+/// Groups are found by key and by number in constant time, also while many are added. Where several share a number or a
+/// key, the first in order is found. Several changes at once are framed by `beginChange` and `endChange`, which may be
+/// nested; listeners hear of the whole once.
+class Address_Tree : public QObject {
+  Q_OBJECT
+
+public:
+  using QObject::QObject;
+
+  [[nodiscard]] const DB_Children<DB_Address_MainGroup>& mainGroups() const { return mMainGroups; }
+  [[nodiscard]] qsizetype middleGroupCount() const { return mMiddleByKey.size(); }
+  [[nodiscard]] qsizetype subGroupCount() const { return mSubByKey.size(); }
+
+  /// Each of these answers null when there is none.
+  [[nodiscard]] DB_Address_MainGroup* mainGroup(const QUuid& key) const { return mMainByKey.value(key); }
+  [[nodiscard]] DB_Address_Middle_Group* middleGroup(const QUuid& key) const { return mMiddleByKey.value(key); }
+  [[nodiscard]] DB_Address_Sub_Group* subGroup(const QUuid& key) const { return mSubByKey.value(key); }
+  [[nodiscard]] DB_Address_MainGroup* mainGroup(int main) const { return mMainByNumber.value(main); }
+  [[nodiscard]] DB_Address_Middle_Group* middleGroup(int main, int middle) const;
+  [[nodiscard]] DB_Address_Sub_Group* subGroup(const Group_Address& address) const {
+    return mSubByAddress.value(address);
+  }
+
+  /// Where a group address that is in the tree stands.
+  [[nodiscard]] Group_Address addressOf(const DB_Address_Sub_Group& group) const;
+
+  /// Takes a group over, at its place by number; a null or already used key is replaced by a fresh one. A middle or sub
+  /// group is put under the group that its parent key names; null (and the group is gone) when there is none. Among
+  /// groups of the same number it goes to `place` in its parent's list where that fits, else behind them.
+  DB_Address_MainGroup* add(std::unique_ptr<DB_Address_MainGroup> group, qsizetype place = -1);
+  DB_Address_Middle_Group* add(std::unique_ptr<DB_Address_Middle_Group> group, qsizetype place = -1);
+  DB_Address_Sub_Group* add(std::unique_ptr<DB_Address_Sub_Group> group, qsizetype place = -1);
+
+  /// Takes the group of that key out, of any level; a main or middle group only when it is empty. Null otherwise.
+  std::unique_ptr<DB_Data_Base> take(const QUuid& key);
+
+  /// The group of that key, of any level, as a record; null when there is none.
+  [[nodiscard]] DB_Data_Base* record(const QUuid& key) const;
+  /// Its index in its parent's list; -1 when there is none.
+  [[nodiscard]] qsizetype placeOf(const QUuid& key) const;
+
+  /// Applies `change` to the record of that key, keeps order and indices right when it changes the number, and tells.
+  /// The group's own key and its parent's key must stay as they are. False when there is no such group.
+  bool change(const QUuid& key, const std::function<void(DB_Data_Base& record)>& change);
+
+  void clear();
+
+  void beginChange();
+  void endChange();
+
+signals:
+  /// One group's texts or attributes changed; the structure did not.
+  void recordChanged(const QUuid& key);
+  void structureAboutToChange();
+  void structureChanged();
+
+private:
+  void indexMiddleGroup(const DB_Address_MainGroup& main, DB_Address_Middle_Group& middle);
+  void indexSubGroup(const DB_Address_MainGroup& main, const DB_Address_Middle_Group& middle,
+                     DB_Address_Sub_Group& sub);
+  void rebuildNumberIndex();
+
+  DB_Children<DB_Address_MainGroup> mMainGroups;
+  QHash<QUuid, DB_Address_MainGroup*> mMainByKey;
+  QHash<QUuid, DB_Address_Middle_Group*> mMiddleByKey;
+  QHash<QUuid, DB_Address_Sub_Group*> mSubByKey;
+  QHash<int, DB_Address_MainGroup*> mMainByNumber;
+  QHash<Group_Address, DB_Address_Middle_Group*> mMiddleByNumber; ///< sub is 0
+  QHash<Group_Address, DB_Address_Sub_Group*> mSubByAddress;
+  bool mHasDuplicates = false; ///< some number stands twice: taking one out may bring the other to light
+  int mChangeDepth = 0;
+};

@@ -1,0 +1,208 @@
+#include "db/DB_Fields.h"
+
+#include <charconv>
+#include <limits>
+
+namespace {
+
+/// Texts from outside may carry the marker bytes, which would end an item early: they are left out.
+void appendText(QByteArray& data, const QString& text) {
+  const QByteArray bytes = text.toUtf8();
+  if (!bytes.contains(DB_Data_Reader::cKeyEnd) && !bytes.contains(DB_Data_Reader::cValueEnd)) {
+    data.append(bytes);
+    return;
+  }
+  for (const char c : bytes) {
+    if (c != DB_Data_Reader::cKeyEnd && c != DB_Data_Reader::cValueEnd) {
+      data.append(c);
+    }
+  }
+}
+
+template <class Number>
+void appendNumber(QByteArray& data, Number number) {
+  std::array<char, 32> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
+  data.append(buffer.data(), result.ptr - buffer.data());
+}
+
+/// The key without the index suffixes at its end.
+QByteArrayView listStem(QByteArrayView key) {
+  for (;;) {
+    qsizetype size = key.size();
+    while (size > 0 && key[size - 1] >= '0' && key[size - 1] <= '9') {
+      --size;
+    }
+    if (size == key.size() || size < 2 || key[size - 1] != '_') {
+      return key;
+    }
+    key = key.first(size - 1);
+  }
+}
+
+} // namespace
+
+QByteArray DB_Fields::undeclared(const DB_Data_Reader& reader, const Keys& keys) {
+  QByteArray items;
+  for (const DB_Data_Reader::Item& item : reader.unusedItems()) {
+    const QByteArrayView stem = listStem(item.mKey);
+    const bool isDeclared = stem.size() == item.mKey.size() ? keys.mPlain.contains(item.mKey.toByteArray())
+                                                            : keys.mLists.contains(stem.toByteArray());
+    if (!isDeclared) {
+      items.append(item.mWhole);
+    }
+  }
+  return items;
+}
+
+qsizetype DB_Fields::pushPrefix(Key key) {
+  const qsizetype size = mPrefix.size();
+  mPrefix.append(key.data(), static_cast<qsizetype>(key.size()));
+  mPrefix.append('.');
+  return size;
+}
+
+void DB_Fields::pushIndex(qsizetype index) {
+  std::array<char, 24> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), index);
+  mSuffix.append('_');
+  mSuffix.append(buffer.data(), result.ptr - buffer.data());
+}
+
+QByteArrayView DB_Fields::fullKey(Key key) {
+  const auto keySize = static_cast<qsizetype>(key.size());
+  if (mPrefix.isEmpty() && mSuffix.isEmpty()) {
+    return {key.data(), keySize};
+  }
+  mFullKey.resize(mPrefix.size() + keySize + mSuffix.size());
+  char* out = std::copy(mPrefix.cbegin(), mPrefix.cend(), mFullKey.data());
+  out = std::copy(key.begin(), key.end(), out);
+  std::copy(mSuffix.cbegin(), mSuffix.cend(), out);
+  return {mFullKey.data(), mFullKey.size()};
+}
+
+std::optional<QByteArrayView> DB_Fields::find(Key key) {
+  if (mProbe == Probe::Missing) {
+    return std::nullopt; // behind the end of a list: nothing of this element is asked for any more
+  }
+  const std::optional<QByteArrayView> value = mReader->find(fullKey(key));
+  if (mProbe == Probe::Pending) {
+    mProbe = value ? Probe::None : Probe::Missing;
+  }
+  return value;
+}
+
+void DB_Fields::collect(Key key) {
+  QSet<QByteArray>& keys = mListDepth > 0 ? mKeys->mLists : mKeys->mPlain;
+  keys.insert(fullKey(key).toByteArray());
+}
+
+void DB_Fields::beginItem(Key key) {
+  mWriter->append(mPrefix.constData(), mPrefix.size());
+  mWriter->append(key.data(), static_cast<qsizetype>(key.size()));
+  mWriter->append(mSuffix.constData(), mSuffix.size());
+  mWriter->append(DB_Data_Reader::cKeyEnd);
+}
+
+void DB_Fields::text(Key key, QString& value, const QString& defaultValue) {
+  if (mReader) {
+    const std::optional<QByteArrayView> found = find(key);
+    value = found ? QString::fromUtf8(*found) : defaultValue;
+  } else if (mWriter) {
+    beginItem(key);
+    appendText(*mWriter, value);
+    endItem();
+  } else {
+    collect(key);
+  }
+}
+
+void DB_Fields::writeNumber(Key key, qint64 value) {
+  if (mWriter) {
+    beginItem(key);
+    appendNumber(*mWriter, value);
+    endItem();
+  } else {
+    collect(key);
+  }
+}
+
+qint64 DB_Fields::readNumber(Key key, qint64 defaultValue, qint64 lowest, qint64 highest) {
+  const std::optional<QByteArrayView> found = find(key);
+  qint64 value = 0;
+  if (!found) {
+    return defaultValue;
+  }
+  const auto [end, error] = std::from_chars(found->begin(), found->end(), value);
+  const bool isNumber = error == std::errc() && end == found->end() && value >= lowest && value <= highest;
+  return isNumber ? value : defaultValue;
+}
+
+void DB_Fields::number(Key key, int& value, int defaultValue) {
+  if (mReader) {
+    value = static_cast<int>(
+        readNumber(key, defaultValue, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+  } else {
+    writeNumber(key, value);
+  }
+}
+
+void DB_Fields::number(Key key, qint64& value, qint64 defaultValue) {
+  if (mReader) {
+    value = readNumber(key, defaultValue, std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max());
+  } else {
+    writeNumber(key, value);
+  }
+}
+
+void DB_Fields::flag(Key key, bool& value, bool defaultValue) {
+  if (mReader) {
+    value = readNumber(key, defaultValue ? 1 : 0, 0, 1) == 1;
+  } else {
+    writeNumber(key, value ? 1 : 0);
+  }
+}
+
+void DB_Fields::real(Key key, double& value, double defaultValue) {
+  if (mReader) {
+    const std::optional<QByteArrayView> found = find(key);
+    value = defaultValue;
+    double number = 0.0;
+    if (found) {
+      const auto [end, error] = std::from_chars(found->begin(), found->end(), number);
+      const bool isFinite = number - number == 0.0;
+      if (error == std::errc() && end == found->end() && isFinite) {
+        value = number;
+      }
+    }
+  } else if (mWriter) {
+    beginItem(key);
+    appendNumber(*mWriter, value);
+    endItem();
+  } else {
+    collect(key);
+  }
+}
+
+void DB_Fields::uuid(Key key, QUuid& value) {
+  if (mReader) {
+    const std::optional<QByteArrayView> found = find(key);
+    value = found && !found->isEmpty() ? QUuid::fromString(QLatin1StringView(*found)) : QUuid();
+  } else if (mWriter) {
+    beginItem(key);
+    if (!value.isNull()) {
+      mWriter->append(value.toByteArray(QUuid::WithoutBraces));
+    }
+    endItem();
+  } else {
+    collect(key);
+  }
+}
+
+void DB_Fields::list(Key key, QStringList& values) {
+  walkList(values, [this, key](QString& value) { text(key, value); });
+}
+
+void DB_Fields::list(Key key, std::vector<int>& values) {
+  walkList(values, [this, key](int& value) { number(key, value); });
+}

@@ -1,0 +1,252 @@
+#include "db/ProjectDatabase.h"
+
+#include "db/DB_Legacy_Import.h"
+#include "db/DB_Scramble.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+QByteArray quoted(DB_Table table) {
+  return QByteArray("`") + DB_Tables::name(table) + '`';
+}
+
+} // namespace
+
+std::array<ProjectDatabase::Single, 8> ProjectDatabase::singles() {
+  return {{{DB_Table::Project, &mProject},
+           {DB_Table::Connections, &mConnections},
+           {DB_Table::Module_Bus, &mM8800},
+           {DB_Table::Mail, &mMail},
+           {DB_Table::Styles, &mStyle},
+           {DB_Table::Statistics, &mStatistic},
+           {DB_Table::Telegram_Monitor, &mTgmMon},
+           {DB_Table::Project_Generator, &mGenerator}}};
+}
+
+bool ProjectDatabase::fail(const QString& text) {
+  mLastError = text;
+  return false;
+}
+
+void ProjectDatabase::close() {
+  for (const Single& single : singles()) {
+    single.mRecord->clearData();
+  }
+  mControllerInformations.clearData();
+  mAddresses.clear();
+  mWidgetPages.clear();
+  mFbPages.clear();
+  mReport = {};
+  for (std::vector<QByteArray>& orphans : mOrphans) {
+    orphans.clear();
+  }
+  mWrongLayouts.clear();
+  mFileName.clear();
+  mDatabase.close();
+}
+
+bool ProjectDatabase::isOlderLayout(const QString& path) {
+  DB_Sqlite database;
+  return QFileInfo(path).size() > 0 && database.open(path, DB_Sqlite::Mode::ReadOnly) &&
+         DB_Legacy_Import::isOlderLayout(database);
+}
+
+bool ProjectDatabase::open(const QString& path, DB_Sqlite::Mode mode) {
+  const bool hasContent = QFileInfo(path).size() > 0;
+  if (!mDatabase.open(path, mode)) {
+    return fail(mDatabase.errorText());
+  }
+  if (!hasContent) {
+    return true;
+  }
+  DB_Statement probe = mDatabase.prepare("select 1 from sqlite_master");
+  if (!probe.isValid() || probe.step() == DB_Statement::Step::Error) {
+    mLastError = mDatabase.errorText();
+    probe = {};
+    mDatabase.close();
+    return false;
+  }
+  probe = {};
+  int found = 0;
+  for (const DB_Table_Row& row : DB_Tables::all()) {
+    const bool exists = tableExists(row.mName);
+    found += exists ? 1 : 0;
+    if (!exists) {
+      mReport.setMissing(row.mTable);
+    }
+  }
+  if (found == 0 && !DB_Legacy_Import::isOlderLayout(mDatabase)) {
+    mDatabase.close();
+    return fail(tr("Die Datei ist kein Projekt des Quarna-Studio."));
+  }
+  return true;
+}
+
+bool ProjectDatabase::openProject(const QString& path, bool allowConversion) {
+  close();
+  mLastError.clear();
+  const bool isOlder = isOlderLayout(path);
+  if (!open(path, DB_Sqlite::Mode::Create)) {
+    mReport = {};
+    return false;
+  }
+  mFileName = path;
+  mDatabase.execute("PRAGMA synchronous=NORMAL");
+  if (isOlder && allowConversion) {
+    mLegacy = true;
+    DB_Legacy_Import::convert(mDatabase, path);
+    mLegacy = false;
+    mReport = {};
+  }
+  createTables();
+  readAll();
+  return true;
+}
+
+bool ProjectDatabase::openProjectReadOnly(const QString& path) {
+  close();
+  mLastError.clear();
+  if (!open(path, DB_Sqlite::Mode::ReadOnly)) {
+    mReport = {};
+    return false;
+  }
+  mFileName = path;
+  readAll();
+  return true;
+}
+
+void ProjectDatabase::detach() {
+  mDatabase.close();
+}
+
+bool ProjectDatabase::attach(const QString& path) {
+  mFileName = path;
+  if (!mDatabase.open(path, DB_Sqlite::Mode::ReadWrite)) {
+    return fail(mDatabase.errorText());
+  }
+  mDatabase.execute("PRAGMA synchronous=NORMAL");
+  return true;
+}
+
+void ProjectDatabase::createTables() {
+  for (const DB_Table_Row& row : DB_Tables::all()) {
+    mDatabase.execute("CREATE TABLE IF NOT EXISTS " + quoted(row.mTable) + '(' + DB_Tables::layout(row.mTable) + ')');
+  }
+}
+
+bool ProjectDatabase::execute(const QByteArray& sql) {
+  mLastError.clear();
+  return mDatabase.execute(sql) || fail(mDatabase.errorText());
+}
+
+bool ProjectDatabase::tableExists(const QByteArray& name) {
+  DB_Statement statement = mDatabase.prepare("select 1 from sqlite_master where type='table' and name=?");
+  return statement.isValid() && statement.bindText(1, name) && statement.step() == DB_Statement::Step::Row;
+}
+
+QByteArray ProjectDatabase::rowData(DB_Table table, QByteArrayView scrambled) {
+  bool isWhole = false;
+  QByteArray data = DB_Scramble::unscramble(scrambled, &isWhole);
+  if (!data.contains(DB_Data_Reader::cKeyEnd)) {
+    mReport.addLostRow(table);
+    return {};
+  }
+  if (!isWhole) {
+    mReport.addPartialRow(table);
+  }
+  return data;
+}
+
+bool ProjectDatabase::readRows(DB_Table table, const std::function<void(QByteArray data)>& onRow) {
+  DB_Statement statement = mDatabase.prepare("SELECT * FROM " + quoted(table));
+  if (!statement.isValid()) {
+    mReport.setUnreadable(table, mDatabase.errorText());
+    return fail(mDatabase.errorText());
+  }
+  if (statement.columnCount() != 1 || statement.columnName(0) != "DATA") {
+    mReport.setWrongLayout(table);
+    mWrongLayouts.push_back(table);
+  }
+  for (;;) {
+    switch (statement.step()) {
+    case DB_Statement::Step::Row: {
+      QByteArray data = rowData(table, statement.text(0));
+      if (!data.isEmpty()) {
+        onRow(std::move(data));
+      }
+      break;
+    }
+    case DB_Statement::Step::Done:
+      return true;
+    case DB_Statement::Step::Error:
+      std::printf("sqlite3_step: %s\n", qPrintable(mDatabase.errorText()));
+      mReport.setUnreadable(table, mDatabase.errorText());
+      return fail(mDatabase.errorText());
+    }
+  }
+}
+
+bool ProjectDatabase::readSingle(DB_Table table, DB_Data_Base& record) {
+  bool isFirst = true;
+  readRows(table, [&](const QByteArray& data) {
+    if (isFirst) {
+      record.setData(data);
+    }
+    isFirst = false;
+  });
+  return !isFirst;
+}
+
+template <class Record>
+void ProjectDatabase::readList(DB_Table table, const std::function<bool(std::unique_ptr<Record>)>& place) {
+  readRows(table, [&](const QByteArray& data) {
+    auto record = std::make_unique<Record>();
+    record->setData(data);
+    if (!place(std::move(record))) {
+      mReport.addOrphan(table);
+      mOrphans[static_cast<size_t>(table)].push_back(data);
+    }
+  });
+}
+
+void ProjectDatabase::readAddresses() {
+  mAddresses.beginChange();
+  const auto place = [this](auto group) { return mAddresses.add(std::move(group)) != nullptr; };
+  readList<DB_Address_MainGroup>(DB_Table::Main_Groups, place);
+  readList<DB_Address_Middle_Group>(DB_Table::Middle_Groups, place);
+  readList<DB_Address_Sub_Group>(DB_Table::Sub_Groups, place);
+  mAddresses.endChange();
+}
+
+void ProjectDatabase::readAll() {
+  readAddresses();
+  for (const Single& single : singles()) {
+    readSingle(single.mTable, *single.mRecord);
+  }
+  const auto readPages = [this]<class Page>(DB_Page_List<Page>& list, DB_Table pageTable, DB_Table childTable) {
+    readList<Page>(pageTable, [&](std::unique_ptr<Page> page) {
+      list.appendPage(std::move(page));
+      return true;
+    });
+    readList<typename Page::Child>(childTable, [&](std::unique_ptr<typename Page::Child> child) {
+      return list.appendChild(std::move(child)) != nullptr;
+    });
+  };
+  readPages(mWidgetPages, DB_Table::Visu_Pages, DB_Table::Visu_Elements);
+  readPages(mFbPages, DB_Table::Logic_Pages, DB_Table::Logic_Blocks);
+}
+
+DB_Widget* ProjectDatabase::findWidgetByName(const QString& name) const {
+  for (const auto& page : mWidgetPages.pages()) {
+    const auto at = std::find_if(page->mChildren.begin(), page->mChildren.end(),
+                                 [&name](const auto& widget) { return widget->mName == name; });
+    if (at != page->mChildren.end()) {
+      return at->get();
+    }
+  }
+  return nullptr;
+}

@@ -1,0 +1,261 @@
+#include "db/DB_Scramble.h"
+#include "db/ProjectDatabase.h"
+
+#include <QDateTime>
+
+namespace {
+
+QByteArray quoted(DB_Table table) {
+  return QByteArray("`") + DB_Tables::name(table) + '`';
+}
+
+} // namespace
+
+DB_Statement ProjectDatabase::prepareInsert(DB_Table table) {
+  DB_Statement insert = mDatabase.prepare("INSERT INTO " + quoted(table) + "(DATA) VALUES(?)");
+  if (!insert.isValid()) {
+    mLastError = mDatabase.errorText();
+  }
+  return insert;
+}
+
+bool ProjectDatabase::writeRow(DB_Statement& insert, const QByteArray& data) {
+  if (!insert.isValid()) {
+    return false;
+  }
+  const QByteArray scrambled = DB_Scramble::scramble(data);
+  const bool isDone = insert.bindText(1, scrambled) && insert.step() == DB_Statement::Step::Done;
+  if (!isDone) {
+    mLastError = mDatabase.errorText();
+  }
+  insert.reset();
+  return isDone;
+}
+
+bool ProjectDatabase::emptyTable(DB_Table table) {
+  return mDatabase.execute("DELETE FROM " + quoted(table)) || fail(mDatabase.errorText());
+}
+
+bool ProjectDatabase::writeSingle(DB_Table table, const DB_Data_Base& record) {
+  if (!mDatabase.isOpen()) {
+    return fail(QStringLiteral("Database not open"));
+  }
+  mDatabase.execute("DELETE FROM " + quoted(table));
+  mLastError.clear();
+  DB_Statement insert = prepareInsert(table);
+  return writeRow(insert, record.toData());
+}
+
+bool ProjectDatabase::writeOrphans(DB_Table table, DB_Statement& insert) {
+  bool isOk = true;
+  for (const QByteArray& data : mOrphans[static_cast<size_t>(table)]) {
+    isOk = writeRow(insert, data) && isOk;
+  }
+  return isOk;
+}
+
+bool ProjectDatabase::writeAddresses() {
+  bool isOk = true;
+  for (const DB_Table table : {DB_Table::Main_Groups, DB_Table::Middle_Groups, DB_Table::Sub_Groups}) {
+    isOk = emptyTable(table) && isOk;
+  }
+  DB_Statement insertMain = prepareInsert(DB_Table::Main_Groups);
+  DB_Statement insertMiddle = prepareInsert(DB_Table::Middle_Groups);
+  DB_Statement insertSub = prepareInsert(DB_Table::Sub_Groups);
+  for (const auto& main : mAddresses.mainGroups()) {
+    isOk = writeRow(insertMain, main->toData()) && isOk;
+    for (const auto& middle : main->mMiddleGroups) {
+      isOk = writeRow(insertMiddle, middle->toData()) && isOk;
+      for (const auto& sub : middle->mSubGroups) {
+        isOk = writeRow(insertSub, sub->toData()) && isOk;
+      }
+    }
+  }
+  isOk = writeOrphans(DB_Table::Middle_Groups, insertMiddle) && isOk;
+  isOk = writeOrphans(DB_Table::Sub_Groups, insertSub) && isOk;
+  return isOk || fail(QStringLiteral("Error: recordWriteAddress"));
+}
+
+template <class Page>
+bool ProjectDatabase::writePages(DB_Table pageTable, DB_Table childTable, const DB_Page_List<Page>& list) {
+  bool isOk = emptyTable(childTable);
+  isOk = emptyTable(pageTable) && isOk;
+  DB_Statement insertPage = prepareInsert(pageTable);
+  DB_Statement insertChild = prepareInsert(childTable);
+  for (const auto& page : list.pages()) {
+    if (!writeRow(insertPage, page->toData())) {
+      return false;
+    }
+    for (const auto& child : page->mChildren) {
+      if (!writeRow(insertChild, child->toData())) {
+        isOk = false;
+        break;
+      }
+    }
+  }
+  return writeOrphans(childTable, insertChild) && isOk;
+}
+
+/// A table of ours with foreign columns cannot take our rows; what of it was readable is in memory.
+bool ProjectDatabase::repairLayouts() {
+  for (const DB_Table table : mWrongLayouts) {
+    if (!mDatabase.execute("DROP TABLE IF EXISTS " + quoted(table))) {
+      return fail(mDatabase.errorText());
+    }
+  }
+  mWrongLayouts.clear();
+  return true;
+}
+
+bool ProjectDatabase::recordWriteAll(bool stampTime) {
+  if (mFileName.isEmpty()) {
+    return fail(QStringLiteral("Empty Filename"));
+  }
+  if (!mDatabase.isOpen()) {
+    return fail(QStringLiteral("Database not open"));
+  }
+  mLastError.clear();
+  repairLayouts();
+  createTables();
+  const qint64 previousTimestamp = mProject.mTimestamp;
+  if (stampTime) {
+    mProject.mTimestamp = QDateTime::currentSecsSinceEpoch();
+  }
+  mDatabase.execute("BEGIN TRANSACTION");
+  bool isOk = writeAddresses();
+  QString error = mLastError;
+  const auto note = [&](bool isStepOk) {
+    if (!isStepOk && isOk) {
+      error = mLastError;
+    }
+    isOk = isStepOk && isOk;
+  };
+  for (const Single& single : singles()) {
+    note(writeSingle(single.mTable, *single.mRecord));
+  }
+  note(writePages(DB_Table::Visu_Pages, DB_Table::Visu_Elements, mWidgetPages));
+  note(writePages(DB_Table::Logic_Pages, DB_Table::Logic_Blocks, mFbPages));
+  if (!mDatabase.execute("END TRANSACTION")) {
+    // Nothing was committed (a full disk shows here): that is a failed save, and the next one must find no transaction.
+    mLastError = mDatabase.errorText();
+    note(false);
+    if (mDatabase.isInTransaction()) {
+      mDatabase.execute("ROLLBACK TRANSACTION");
+    }
+  }
+  if (!isOk) {
+    mProject.mTimestamp = previousTimestamp;
+    return fail(error);
+  }
+  mLastError.clear();
+  return true;
+}
+
+bool ProjectDatabase::checkResourceName(const QString& name) {
+  const qsizetype size = name.toUtf8().size();
+  if (size < 1 || size > cResourceNameLimit) {
+    return fail(tr("Der Name der Ressource muss 1 bis %1 Byte lang sein, er hat %2: \"%3\".")
+                    .arg(cResourceNameLimit)
+                    .arg(size)
+                    .arg(name.left(60)));
+  }
+  return true;
+}
+
+bool ProjectDatabase::ressourceWriteRaw(const QString& name, const QByteArray& bytes) {
+  if (!mDatabase.isOpen()) {
+    return fail(QStringLiteral("ressourceWriteRaw: Database not open"));
+  }
+  if (bytes.isEmpty()) {
+    return fail(QStringLiteral("ressourceWriteRaw: Error size/data"));
+  }
+  if (!checkResourceName(name) || !ressourceDelete(name)) {
+    return false;
+  }
+  mLastError.clear();
+  mDatabase.execute("BEGIN TRANSACTION");
+  DB_Statement insert = mDatabase.prepare("INSERT INTO " + quoted(DB_Table::Resources) + "(FILENAME,DATA) VALUES(?,?)");
+  const QByteArray nameBytes = name.toUtf8();
+  const bool isDone = insert.isValid() && insert.bindText(1, nameBytes) && insert.bindBlob(2, bytes) &&
+                      insert.step() == DB_Statement::Step::Done;
+  if (!isDone) {
+    mLastError = mDatabase.errorText();
+  }
+  insert = {};
+  if (isDone && mDatabase.execute("END TRANSACTION")) {
+    emit resourcesChanged();
+    return true;
+  }
+  if (isDone) {
+    mLastError = mDatabase.errorText();
+  }
+  mDatabase.execute("ROLLBACK TRANSACTION");
+  return false;
+}
+
+bool ProjectDatabase::ressourceReadRaw(const QString& name, QByteArray& bytes) {
+  bytes.clear();
+  if (!mDatabase.isOpen()) {
+    return fail(QStringLiteral("Database not open"));
+  }
+  DB_Statement select = mDatabase.prepare("SELECT DATA FROM " + quoted(DB_Table::Resources) + " WHERE FILENAME = ?");
+  const QByteArray nameBytes = name.toUtf8();
+  if (!select.isValid() || !select.bindText(1, nameBytes)) {
+    return fail(mDatabase.errorText());
+  }
+  switch (select.step()) {
+  case DB_Statement::Step::Row:
+    bytes = select.blob(0).toByteArray();
+    return true;
+  case DB_Statement::Step::Done:
+    return false;
+  case DB_Statement::Step::Error:
+    break;
+  }
+  return fail(mDatabase.errorText());
+}
+
+bool ProjectDatabase::ressourceDelete(const QString& name) {
+  if (!mDatabase.isOpen()) {
+    return fail(QStringLiteral("Database not open"));
+  }
+  mLastError.clear();
+  DB_Statement statement = mDatabase.prepare("DELETE FROM " + quoted(DB_Table::Resources) + " WHERE FILENAME = ?");
+  const QByteArray nameBytes = name.toUtf8();
+  if (!statement.isValid() || !statement.bindText(1, nameBytes) || statement.step() != DB_Statement::Step::Done) {
+    return fail(mDatabase.errorText());
+  }
+  emit resourcesChanged();
+  return true;
+}
+
+bool ProjectDatabase::ressourceDeleteAll() {
+  if (!mDatabase.isOpen()) {
+    return fail(QStringLiteral("Database not open"));
+  }
+  mLastError.clear();
+  if (!emptyTable(DB_Table::Resources)) {
+    return false;
+  }
+  emit resourcesChanged();
+  return true;
+}
+
+bool ProjectDatabase::ressourceList(QStringList& names) {
+  names.clear();
+  if (!mDatabase.isOpen()) {
+    return fail(QStringLiteral("Database not open"));
+  }
+  DB_Statement select = mDatabase.prepare("SELECT FILENAME FROM " + quoted(DB_Table::Resources));
+  if (!select.isValid()) {
+    return fail(mDatabase.errorText());
+  }
+  for (;;) {
+    const DB_Statement::Step step = select.step();
+    if (step == DB_Statement::Step::Row) {
+      names.append(QString::fromUtf8(select.text(0)));
+    } else {
+      return step == DB_Statement::Step::Done || fail(mDatabase.errorText());
+    }
+  }
+}
