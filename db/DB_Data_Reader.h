@@ -27,6 +27,7 @@ public:
   [[nodiscard]] std::optional<QByteArrayView> find(QByteArrayView key);
 
   [[nodiscard]] qsizetype cursor() const { return mCursor; }
+  [[nodiscard]] qsizetype size() const { return mText.size(); }
   [[nodiscard]] qsizetype itemCount() const { return mMarks.size(); }
 
   /// True while some terminated item has not yet been found under its whole key.

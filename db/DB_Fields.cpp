@@ -5,6 +5,15 @@
 
 namespace {
 
+/// How many bytes the values of one record may yield beyond the size of its text.
+constexpr qsizetype cRepeatedValuesLimit = 16 * 1024 * 1024;
+
+/// The toolkit takes a leading byte order mark away, but a text that begins with one must stay as it is.
+QString fromUtf8(QByteArrayView bytes) {
+  const QString text = QString::fromUtf8(bytes);
+  return bytes.startsWith("\xef\xbb\xbf") ? QChar(QChar::ByteOrderMark) + text : text;
+}
+
 /// Texts from outside may carry the marker bytes, which would end an item early: they are left out.
 void appendText(QByteArray& data, const QString& text) {
   const QByteArray bytes = text.toUtf8();
@@ -85,7 +94,14 @@ std::optional<QByteArrayView> DB_Fields::find(Key key) {
   if (mProbe == Probe::Missing) {
     return std::nullopt; // behind the end of a list: nothing of this element is asked for any more
   }
-  const std::optional<QByteArrayView> value = mReader->find(fullKey(key));
+  std::optional<QByteArrayView> value = mReader->find(fullKey(key));
+  if (value) {
+    // In a broken text every value may hold all that follow, which would decode to many times its size.
+    mTaken += value->size();
+    if (mTaken > mReader->size() + cRepeatedValuesLimit) {
+      value.reset();
+    }
+  }
   if (mProbe == Probe::Pending) {
     mProbe = value ? Probe::None : Probe::Missing;
   }
@@ -107,7 +123,7 @@ void DB_Fields::beginItem(Key key) {
 void DB_Fields::text(Key key, QString& value, const QString& defaultValue) {
   if (mReader) {
     const std::optional<QByteArrayView> found = find(key);
-    value = found ? QString::fromUtf8(*found) : defaultValue;
+    value = found ? fromUtf8(*found) : defaultValue;
   } else if (mWriter) {
     beginItem(key);
     appendText(*mWriter, value);
