@@ -27,6 +27,14 @@ qsizetype indexIn(const DB_Children<Group>& siblings, const Group& group) {
   return at == siblings.end() ? -1 : at - siblings.begin();
 }
 
+/// The first group of that number among its ordered siblings, or null.
+template <class Group>
+Group* firstOfNumber(const DB_Children<Group>& siblings, int number) {
+  const auto lessThan = [](const auto& other, int value) { return other->mNumber < value; };
+  const auto at = std::lower_bound(siblings.begin(), siblings.end(), number, lessThan);
+  return at != siblings.end() && (*at)->mNumber == number ? at->get() : nullptr;
+}
+
 template <class Group>
 Group* insertSorted(DB_Children<Group>& siblings, std::unique_ptr<Group> group, qsizetype place) {
   const qsizetype index = placeFor(siblings, group->mNumber, place);
@@ -59,7 +67,7 @@ DB_Address_MainGroup* Address_Tree::add(std::unique_ptr<DB_Address_MainGroup> gr
   DB_Address_MainGroup* const added = insertSorted(mMainGroups, std::move(group), place);
   mMainByKey.insert(added->mKey, added);
   if (mMainByNumber.contains(added->mNumber)) {
-    mHasDuplicates = true;
+    mHasDuplicateGroups = true;
   } else {
     mMainByNumber.insert(added->mNumber, added);
   }
@@ -70,7 +78,7 @@ DB_Address_MainGroup* Address_Tree::add(std::unique_ptr<DB_Address_MainGroup> gr
 void Address_Tree::indexMiddleGroup(const DB_Address_MainGroup& main, DB_Address_Middle_Group& middle) {
   const Group_Address number(main.mNumber, middle.mNumber, 0);
   if (mMiddleByNumber.contains(number)) {
-    mHasDuplicates = true;
+    mHasDuplicateGroups = true;
   } else {
     mMiddleByNumber.insert(number, &middle);
   }
@@ -95,9 +103,7 @@ DB_Address_Middle_Group* Address_Tree::add(std::unique_ptr<DB_Address_Middle_Gro
 void Address_Tree::indexSubGroup(const DB_Address_MainGroup& main, const DB_Address_Middle_Group& middle,
                                  DB_Address_Sub_Group& sub) {
   const Group_Address address(main.mNumber, middle.mNumber, sub.mNumber);
-  if (mSubByAddress.contains(address)) {
-    mHasDuplicates = true;
-  } else {
+  if (!mSubByAddress.contains(address)) {
     mSubByAddress.insert(address, &sub);
   }
 }
@@ -146,9 +152,13 @@ std::unique_ptr<DB_Data_Base> Address_Tree::take(const QUuid& key) {
   if (DB_Address_Sub_Group* const sub = subGroup(key)) {
     beginChange();
     const Group_Address address = addressOf(*sub);
-    taken = middleGroup(sub->mMiddleKey)->mSubGroups.take(place);
+    DB_Children<DB_Address_Sub_Group>& siblings = middleGroup(sub->mMiddleKey)->mSubGroups;
+    taken = siblings.take(place);
     mSubByKey.remove(key);
     mSubByAddress.remove(address);
+    if (DB_Address_Sub_Group* const other = firstOfNumber(siblings, address.sub())) {
+      mSubByAddress.insert(address, other);
+    }
   } else if (DB_Address_Middle_Group* const middle = middleGroup(key); middle && middle->mSubGroups.isEmpty()) {
     beginChange();
     DB_Address_MainGroup* const main = mainGroup(middle->mMainKey);
@@ -163,7 +173,7 @@ std::unique_ptr<DB_Data_Base> Address_Tree::take(const QUuid& key) {
     mMainByKey.remove(key);
   }
   if (taken) {
-    if (mHasDuplicates) {
+    if (mHasDuplicateGroups) {
       rebuildNumberIndex();
     }
     endChange();
@@ -201,10 +211,10 @@ void Address_Tree::rebuildNumberIndex() {
   mMainByNumber.clear();
   mMiddleByNumber.clear();
   mSubByAddress.clear();
-  mHasDuplicates = false;
+  mHasDuplicateGroups = false;
   for (const auto& main : mMainGroups) {
     if (mMainByNumber.contains(main->mNumber)) {
-      mHasDuplicates = true;
+      mHasDuplicateGroups = true;
     } else {
       mMainByNumber.insert(main->mNumber, main.get());
     }
@@ -226,7 +236,7 @@ void Address_Tree::clear() {
   mMiddleByNumber.clear();
   mSubByAddress.clear();
   mMainGroups.clear();
-  mHasDuplicates = false;
+  mHasDuplicateGroups = false;
   endChange();
 }
 

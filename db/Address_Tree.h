@@ -82,6 +82,6 @@ private:
   QHash<int, DB_Address_MainGroup*> mMainByNumber;
   QHash<Group_Address, DB_Address_Middle_Group*> mMiddleByNumber; ///< sub is 0
   QHash<Group_Address, DB_Address_Sub_Group*> mSubByAddress;
-  bool mHasDuplicates = false; ///< some number stands twice: taking one out may bring the other to light
+  bool mHasDuplicateGroups = false; ///< a main or middle group's number stands twice
   int mChangeDepth = 0;
 };
