@@ -26,6 +26,8 @@ App_Settings::App_Settings(const QString& file) : mStore(openStore(file)) {
   if (file.isEmpty()) {
     return;
   }
+  // The sections are read late; a file that is none would be told as empty and then written over.
+  static_cast<void>(mStore->allKeys());
   if (QFileInfo(file).isDir() || mStore->status() != QSettings::NoError) {
     mError = QCoreApplication::translate("App_Settings", "Die Einstellungsdatei \"%1\" kann nicht gelesen werden.")
                  .arg(file);

@@ -14,11 +14,6 @@ namespace {
 constexpr char cOlderVersion[] = "mVersion\x02"
                                  "0.000\x03";
 
-/// The older layout had no devices table.
-bool hadTable(DB_Table table) {
-  return table != DB_Table::Devices;
-}
-
 /// What the older layout left behind and nobody reads.
 constexpr const char* cTidyUp[] = {
     "DROP TABLE IF EXISTS `undo`",          "DROP TABLE IF EXISTS `clipboard`",
@@ -36,7 +31,10 @@ bool scrambleRows(DB_Sqlite& database, const QByteArray& table) {
   }
   select = {};
   // The clear rows are deleted only when every one of them has been read.
-  bool isOk = step == DB_Statement::Step::Done && database.execute("DELETE FROM " + table);
+  bool isOk = step == DB_Statement::Step::Done;
+  // One transaction for all rows: one flush to the disk instead of one per row, and all of them or none.
+  database.execute("BEGIN TRANSACTION");
+  isOk = isOk && database.execute("DELETE FROM " + table);
   DB_Statement insert = database.prepare("INSERT INTO " + table + "(DATA) VALUES(?)");
   for (size_t i = 0; isOk && i < rows.size(); ++i) {
     const QByteArray scrambled = DB_Scramble::scramble(rows[i]);
@@ -46,10 +44,16 @@ bool scrambleRows(DB_Sqlite& database, const QByteArray& table) {
   if (!isOk) {
     std::printf("sqlite3_step ERROR: %s\n", qPrintable(database.errorText()));
   }
-  return isOk;
+  insert = {};
+  const bool isCommitted = database.execute(isOk ? "END TRANSACTION" : "ROLLBACK TRANSACTION");
+  return isOk && isCommitted;
 }
 
 } // namespace
+
+bool DB_Legacy_Import::hadTable(DB_Table table) {
+  return table != DB_Table::Devices;
+}
 
 bool DB_Legacy_Import::isOlderLayout(DB_Sqlite& database) {
   DB_Statement statement = database.prepare("SELECT DATA FROM `project`");

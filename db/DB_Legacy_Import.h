@@ -3,6 +3,7 @@
 #include <QString>
 
 class DB_Sqlite;
+enum class DB_Table;
 
 /// Files of the older layout: tables with plain names, DATA texts in clear, version text "0.000".
 namespace DB_Legacy_Import {
@@ -12,6 +13,9 @@ inline constexpr QStringView cExtension = u".zprj";
 
 /// True when the older project table's record carries the version "0.000".
 [[nodiscard]] bool isOlderLayout(DB_Sqlite& database);
+
+/// False for the tables that came after the older layout.
+[[nodiscard]] bool hadTable(DB_Table table);
 
 /// Copies the file at `path` beside itself with the suffix ".import", then brings every table to its present name and
 /// form. Nothing is undone when it fails half-way: the copy is the backup.

@@ -78,10 +78,11 @@ bool ProjectDatabase::open(const QString& path, DB_Sqlite::Mode mode) {
   return true;
 }
 
-int ProjectDatabase::noteMissingTables() {
+int ProjectDatabase::noteMissingTables(bool wasOlder) {
   int missing = 0;
   for (const DB_Table_Row& row : DB_Tables::all()) {
-    if (!tableExists(row.mName)) {
+    const bool isExpected = !wasOlder || DB_Legacy_Import::hadTable(row.mTable);
+    if (isExpected && !tableExists(row.mName)) {
       mReport.setMissing(row.mTable);
       ++missing;
     }
@@ -95,7 +96,8 @@ bool ProjectDatabase::convertOlderLayout(const QString& path) {
   const bool isWhole = DB_Legacy_Import::convert(mDatabase, path);
   mLegacy = false;
   mReport = {};
-  if (!isWhole && noteMissingTables() == DB_Tables::cCount) {
+  noteMissingTables(true);
+  if (!isWhole && DB_Legacy_Import::isOlderLayout(mDatabase)) {
     close();
     return fail(tr("Das ältere Projekt konnte nicht umgewandelt werden, seine Sicherungskopie \"%1.import\" ließ sich "
                    "nicht anlegen.")

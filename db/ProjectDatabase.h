@@ -116,7 +116,7 @@ signals:
 
 private:
   bool open(const QString& path, DB_Sqlite::Mode mode);
-  int noteMissingTables();
+  int noteMissingTables(bool wasOlder = false);
   bool convertOlderLayout(const QString& path);
   void checkResourceTable();
   void createTables();

@@ -266,7 +266,8 @@ bool ProjectDatabase::ressourceList(QStringList& names) {
   if (!mDatabase.isOpen()) {
     return fail(QStringLiteral("Database not open"));
   }
-  DB_Statement select = mDatabase.prepare("SELECT FILENAME FROM " + quoted(DB_Table::Resources));
+  // Without the order the engine walks the index of the names.
+  DB_Statement select = mDatabase.prepare("SELECT FILENAME FROM " + quoted(DB_Table::Resources) + " ORDER BY rowid");
   if (!select.isValid()) {
     return fail(mDatabase.errorText());
   }

@@ -13,6 +13,7 @@
 #include "db/DB_TgmMon.h"
 #include "db/DB_Widget_Page.h"
 
+#include <QHash>
 #include <QList>
 
 #include <memory>
@@ -105,6 +106,10 @@ inline QByteArray withLists(const Kind& kind, int elements) {
 /// A DATA text in which every item has a value of its own that is not the default, with three elements in every list.
 /// `seed` above 0 makes another one.
 inline QByteArray filled(const Kind& kind, int seed = 0) {
+  static QHash<std::pair<QByteArray, int>, QByteArray> known;
+  if (const QByteArray data = known.value({kind.mName, seed}); !data.isEmpty()) {
+    return data;
+  }
   const std::unique_ptr<DB_Data_Base> record = kind.mMake();
   const QList<Item> defaults = items(withLists(kind, 3));
   QList<Item> result = defaults;
@@ -132,7 +137,7 @@ inline QByteArray filled(const Kind& kind, int seed = 0) {
   offer([](qsizetype) { return QByteArray("2"); });
   offer([](qsizetype) { return QByteArray("1"); });
   offer([](qsizetype) { return QByteArray("0"); });
-  return isAccepted.contains(false) ? QByteArray() : text(result);
+  return known[{kind.mName, seed}] = isAccepted.contains(false) ? QByteArray() : text(result);
 }
 
 } // namespace Record_Kinds

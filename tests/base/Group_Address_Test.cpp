@@ -1,0 +1,79 @@
+#include "base/Group_Address.h"
+
+#include <QtTest>
+
+class Group_Address_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  void parse_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("address"); // empty when refused
+    const auto row = [](const char* text, const char* address) {
+      QTest::newRow(*text ? text : "empty") << QString::fromUtf8(text) << QString::fromUtf8(address);
+    };
+    row("1/2/3", "1/2/3");
+    row("0/0/0", "0/0/0");
+    row("31/7/255", "31/7/255");
+    row(" 1/2/3 ", "1/2/3");
+    row("01/02/003", "1/2/3");
+    row("1/515", "1/2/3");
+    row("31/2047", "31/7/255");
+    row("2563", "1/2/3");
+    row("0", "0/0/0");
+    row("65535", "31/7/255");
+    row("$0A03", "1/2/3");
+    row("0x0a03", "1/2/3");
+    row("0XFFFF", "31/7/255");
+    for (const char* const refused :
+         {"",       " ",       "/",      "//",     "1/",      "/2/3",        "1//3",   "1/2/3/4", "32/0/0",
+          "1/8/0",  "1/2/256", "32/0",   "1/2048", "65536",   "99999999999", "0x",     "$",       "0x10000",
+          "$1FFFF", "-1/2/3",  "+1/2/3", "1/-2/3", "-5",      "１/2/3",      "1/2/３", "1/ 2/3",  "1 /2/3",
+          "1.2.3",  "a/b/c",   "1/2/x",  "0a03",   "1/0x2/3", "0000001/2/3", "1/2/*"}) {
+      row(refused, "");
+    }
+  }
+
+  void parse() {
+    QFETCH(QString, text);
+    QFETCH(QString, address);
+    QString error;
+    const std::optional<Group_Address> parsed = Group_Address::parse(text, &error);
+    QCOMPARE(parsed ? parsed->toString() : QString(), address);
+    QCOMPARE(error.isEmpty(), parsed.has_value());
+    QVERIFY(error.isEmpty() || error.contains(text.trimmed()));
+    QCOMPARE(Group_Address::parse(text), parsed);
+  }
+
+  void everyNumber() {
+    for (int number = 0; number < 65'536; ++number) {
+      const Group_Address address = Group_Address::fromNumber(static_cast<quint16>(number));
+      QVERIFY(address.isOnBus());
+      QCOMPARE(address.main() * 2048 + address.middle() * 256 + address.sub(), number);
+      QCOMPARE(Group_Address::parse(address.toString()), std::optional(address));
+      QVERIFY(number == 0 || Group_Address::fromNumber(static_cast<quint16>(number - 1)) < address);
+    }
+  }
+
+  void onBus_data() {
+    QTest::addColumn<int>("main");
+    QTest::addColumn<int>("middle");
+    QTest::addColumn<int>("sub");
+    QTest::addColumn<bool>("isOnBus");
+    QTest::newRow("highest") << 31 << 7 << 255 << true;
+    QTest::newRow("main group of a record") << 32 << 0 << 0 << false;
+    QTest::newRow("middle group") << 0 << 8 << 0 << false;
+    QTest::newRow("sub group") << 0 << 0 << 256 << false;
+    QTest::newRow("negative") << 0 << 0 << -1 << false;
+  }
+
+  void onBus() {
+    QFETCH(int, main);
+    QFETCH(int, middle);
+    QFETCH(int, sub);
+    QTEST(Group_Address(main, middle, sub).isOnBus(), "isOnBus");
+  }
+};
+
+QTEST_APPLESS_MAIN(Group_Address_Test)
+#include "Group_Address_Test.moc"

@@ -1,0 +1,136 @@
+#include "tests/db/Project_Dump.h"
+#include "tests/db/Project_Sample.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Project_Sample;
+
+class DB_Legacy_Import_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  /// A file of the older layout, made from one of today: plain names, texts in clear, no devices.
+  void init() {
+    mFolder = std::make_unique<QTemporaryDir>();
+    QVERIFY(mFolder->isValid());
+    mPath = mFolder->filePath(QStringLiteral("alt.zpro"));
+    ProjectDatabase store;
+    QVERIFY(store.openProject(mPath, true));
+    fill(store);
+    store.mProject.mVersion = QStringLiteral("0.000");
+    QVERIFY(store.ressourceWriteRaw(QStringLiteral("bild.png"), "\x89PNG\x02\x03!="));
+    QVERIFY(store.recordWriteAll(false));
+    mDump = Project_Dump::project(store);
+    store.close();
+    QVERIFY(!ProjectDatabase::isOlderLayout(mPath));
+    QMap<int, QByteArrayList> clear;
+    for (const DB_Table_Row& row : DB_Tables::all()) {
+      clear.insert(static_cast<int>(row.mTable), rows(mPath, row.mTable));
+    }
+    DB_Sqlite database;
+    QVERIFY(database.open(mPath, DB_Sqlite::Mode::ReadWrite));
+    QVERIFY(database.execute("BEGIN"));
+    for (const DB_Table_Row& row : DB_Tables::all()) {
+      const QByteArray plain = QByteArray("`") + row.mPlainName + '`';
+      QVERIFY(database.execute("ALTER TABLE " + quoted(row.mTable) + " RENAME TO " + plain));
+      if (row.mTable != DB_Table::Resources) {
+        QVERIFY(database.execute("DELETE FROM " + plain));
+        DB_Statement insert = database.prepare("INSERT INTO " + plain + " VALUES(?)");
+        for (const QByteArray& data : clear.value(static_cast<int>(row.mTable))) {
+          QVERIFY(insert.bindText(1, data) && insert.step() == DB_Statement::Step::Done);
+          insert.reset();
+        }
+      }
+    }
+    QVERIFY(database.execute("DROP TABLE devices; CREATE TABLE undo(a); CREATE TABLE search_cache(b); COMMIT"));
+  }
+
+  void converts() {
+    const QByteArray before = bytesOf(mPath);
+    QVERIFY(ProjectDatabase::isOlderLayout(mPath));
+    QCOMPARE(bytesOf(mPath), before);
+    QVERIFY(writeFile(mPath + ".import", "of an earlier try"));
+    ProjectDatabase store;
+    QVERIFY2(store.openProject(mPath, true), qPrintable(store.lastError()));
+    QCOMPARE(bytesOf(mPath + ".import"), before);
+    QCOMPARE(Project_Dump::project(store), mDump);
+    QVERIFY(!store.loadReport().isDamaged());
+    for (const DB_Table_Row& row : DB_Tables::all()) {
+      QVERIFY2(store.tableExists(row.mName), row.mPlainName);
+      QVERIFY2(!store.tableExists(row.mPlainName), row.mPlainName);
+    }
+    QVERIFY(!store.tableExists("undo") && !store.tableExists("search_cache"));
+    store.close();
+    QVERIFY(!ProjectDatabase::isOlderLayout(mPath));
+    for (const QByteArray& row : rawRows(mPath, quoted(DB_Table::Sub_Groups))) {
+      QCOMPARE(DB_Scramble::scramble(DB_Scramble::unscramble(row)), row);
+    }
+    QVERIFY(run(mPath, "VACUUM"));
+    QVERIFY(!bytesOf(mPath).contains("mAuthor"));
+  }
+
+  void isNotConvertedUnasked() {
+    ProjectDatabase store;
+    QVERIFY(store.openProject(mPath, false));
+    QVERIFY(store.mProject.mName.isEmpty());
+    QVERIFY(store.tableExists("project"));
+    QVERIFY(!QFile::exists(mPath + ".import"));
+    store.close();
+    QVERIFY(ProjectDatabase::isOlderLayout(mPath));
+  }
+
+  void readOnlyConvertsNothing() {
+    const QByteArray before = bytesOf(mPath);
+    ProjectDatabase store;
+    QVERIFY(store.openProjectReadOnly(mPath));
+    QVERIFY(store.loadReport().isDamaged());
+    store.close();
+    QCOMPARE(bytesOf(mPath), before);
+    QVERIFY(!QFile::exists(mPath + ".import"));
+  }
+
+  /// Without a backup nothing is touched, and no empty project takes the place of the older one.
+  void noBackupNoConversion() {
+    QVERIFY(QDir().mkpath(mPath + ".import/a"));
+    const QByteArray before = bytesOf(mPath);
+    ProjectDatabase store;
+    QVERIFY(!store.openProject(mPath, true));
+    QVERIFY(store.lastError().contains(QStringLiteral(".import")));
+    QVERIFY(!store.isOpen() && store.fileName().isEmpty());
+    QCOMPARE(bytesOf(mPath), before);
+  }
+
+  /// What an incomplete older file holds is brought over, and what it lacks is told.
+  void tableMissing() {
+    QVERIFY(run(mPath, "DROP TABLE logic_blocks"));
+    ProjectDatabase store;
+    QVERIFY(store.openProject(mPath, true));
+    QCOMPARE(store.mFbPages.childCount(), 0);
+    QCOMPARE(store.mAddresses.subGroupCount(), 12);
+    QCOMPARE(store.loadReport().lines(), QStringList{QStringLiteral("Funktionsbausteine: Die Tabelle fehlt.")});
+  }
+
+  void otherVersions_data() {
+    QTest::addColumn<QByteArray>("version");
+    QTest::addColumn<bool>("isOlder");
+    QTest::newRow("older") << QByteArray("0.000") << true;
+    QTest::newRow("no digits") << QByteArray("0") << false;
+    QTest::newRow("of today") << QByteArray("2.3146") << false;
+    QTest::newRow("longer") << QByteArray("0.0001") << false;
+  }
+
+  void otherVersions() {
+    QFETCH(QByteArray, version);
+    QVERIFY(run(mPath, "UPDATE project SET DATA='mVersion\x02" + version + "\x03'"));
+    QTEST(ProjectDatabase::isOlderLayout(mPath), "isOlder");
+  }
+
+private:
+  std::unique_ptr<QTemporaryDir> mFolder;
+  QString mPath;
+  QByteArray mDump;
+};
+
+QTEST_GUILESS_MAIN(DB_Legacy_Import_Test)
+#include "DB_Legacy_Import_Test.moc"

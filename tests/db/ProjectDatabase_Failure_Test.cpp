@@ -1,0 +1,161 @@
+#include "tests/db/Project_Dump.h"
+#include "tests/db/Project_Sample.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Project_Sample;
+
+/// Saves that fail in the middle: what is still written, what is told, and that memory and the next save are right.
+class ProjectDatabase_Failure_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init() {
+    mFolder = std::make_unique<QTemporaryDir>();
+    QVERIFY(mFolder->isValid());
+    mPath = mFolder->filePath(QStringLiteral("a.zpro"));
+    mStore = std::make_unique<ProjectDatabase>();
+    QVERIFY(mStore->openProject(mPath, true));
+    fill(*mStore);
+    QVERIFY(mStore->recordWriteAll(false));
+  }
+
+  void rowsThatFail_data() {
+    QTest::addColumn<int>("table");
+    QTest::addColumn<int>("row"); // counted from 1
+    QTest::addColumn<QByteArray>("how");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QByteArray>("written");
+    const auto row = [](const char* name, DB_Table table, int row, const char* how, const char* error,
+                        const char* written) {
+      QTest::newRow(name) << static_cast<int>(table) << row << QByteArray(how) << QString::fromLatin1(error)
+                          << QByteArray(written);
+    };
+    const char* const addressError = "Error: recordWriteAddress";
+    // Main, middle, sub groups; single records; visualisation pages, elements; logic pages, blocks.
+    row("first sub group", DB_Table::Sub_Groups, 1, "ABORT", addressError, "2,4,11;8;3,6;2,6");
+    row("third sub group", DB_Table::Sub_Groups, 3, "FAIL", addressError, "2,4,11;8;3,6;2,6");
+    row("main group, its middle groups go on", DB_Table::Main_Groups, 2, "ABORT", addressError, "1,4,12;8;3,6;2,6");
+    row("middle group", DB_Table::Middle_Groups, 1, "FAIL", addressError, "2,3,12;8;3,6;2,6");
+    row("first single record", DB_Table::Project, 1, "ABORT", "voll", "2,4,12;7;3,6;2,6");
+    row("last single record", DB_Table::Project_Generator, 1, "FAIL", "voll", "2,4,12;7;3,6;2,6");
+    row("first visualisation page", DB_Table::Visu_Pages, 1, "ABORT", "voll", "2,4,12;8;0,0;2,6");
+    row("second visualisation page", DB_Table::Visu_Pages, 2, "FAIL", "voll", "2,4,12;8;1,2;2,6");
+    row("first element of a page", DB_Table::Visu_Elements, 3, "ABORT", "voll", "2,4,12;8;3,4;2,6");
+    row("last element of a page", DB_Table::Visu_Elements, 4, "FAIL", "voll", "2,4,12;8;3,5;2,6");
+    row("second logic page", DB_Table::Logic_Pages, 2, "ABORT", "voll", "2,4,12;8;3,6;1,3");
+    row("second block", DB_Table::Logic_Blocks, 2, "FAIL", "voll", "2,4,12;8;3,6;2,4");
+    // The engine takes everything back: the file stays as it was.
+    row("everything rolled back", DB_Table::Sub_Groups, 5, "ROLLBACK", addressError, "2,4,12;8;3,6;2,6");
+    row("everything rolled back late", DB_Table::Logic_Blocks, 2, "ROLLBACK", "voll", "2,4,12;8;3,6;2,6");
+  }
+
+  void rowsThatFail() {
+    QFETCH(int, table);
+    QFETCH(int, row);
+    QFETCH(QByteArray, how);
+    QFETCH(QString, error);
+    const QByteArray name = quoted(static_cast<DB_Table>(table));
+    const QByteArray refused = rawRows(mPath, name).value(row - 1);
+    QVERIFY(mStore->execute("CREATE TRIGGER refusal BEFORE INSERT ON " + name + " WHEN NEW.DATA='" + refused +
+                            "' BEGIN SELECT RAISE(" + how + ", 'voll'); END"));
+    const QByteArray dump = Project_Dump::project(*mStore);
+
+    QVERIFY(!mStore->recordWriteAll(false));
+    QTEST(mStore->lastError(), "error");
+    QTEST(written(), "written");
+    QCOMPARE(Project_Dump::project(*mStore), dump);
+
+    QVERIFY(mStore->execute("DROP TRIGGER refusal"));
+    QVERIFY2(mStore->recordWriteAll(false), qPrintable(mStore->lastError()));
+    QVERIFY(mStore->openProject(mPath, true));
+    QCOMPARE(Project_Dump::project(*mStore), dump);
+  }
+
+  void firstErrorIsTold() {
+    for (const DB_Table table : {DB_Table::Mail, DB_Table::Logic_Pages}) {
+      const QByteArray text = DB_Tables::all()[static_cast<size_t>(table)].mPlainName;
+      QVERIFY(mStore->execute("CREATE TRIGGER " + text + " BEFORE INSERT ON " + quoted(table) +
+                              " BEGIN SELECT RAISE(FAIL, '" + text + "'); END"));
+    }
+    const qint64 timestamp = mStore->mProject.mTimestamp;
+    QVERIFY(!mStore->recordWriteAll(true));
+    QCOMPARE(mStore->lastError(), QStringLiteral("mail"));
+    QCOMPARE(mStore->mProject.mTimestamp, timestamp);
+  }
+
+  void fileFull_data() {
+    QTest::addColumn<int>("blocks");
+    QTest::newRow("many blocks") << 2000;
+    QTest::newRow("one page more") << 1;
+  }
+
+  /// The file stays as it was saved last, nothing is doubled in it, and with room again the next save is whole.
+  void fileFull() {
+    QFETCH(int, blocks);
+    const QByteArray saved = savedDump();
+    const QUuid page = mStore->mFbPages.pages().at(0).mGuid;
+    for (int i = 0; i < blocks; ++i) {
+      auto block = std::make_unique<DB_FB_Control>();
+      block->mPageGuid = page;
+      block->mTitle = QString(blocks == 1 ? 100'000 : 100, u'x');
+      mStore->mFbPages.appendChild(std::move(block));
+    }
+    const QByteArray dump = Project_Dump::project(*mStore);
+    QVERIFY(mStore->execute("PRAGMA max_page_count=1"));
+    QVERIFY(!mStore->recordWriteAll(true));
+    QVERIFY(!mStore->lastError().isEmpty());
+    QCOMPARE(Project_Dump::project(*mStore), dump);
+    QCOMPARE(savedDump(), saved);
+    QVERIFY(mStore->execute("PRAGMA max_page_count=1000000"));
+    QVERIFY2(mStore->recordWriteAll(false), qPrintable(mStore->lastError()));
+    QCOMPARE(savedDump(), dump);
+  }
+
+  /// Another process that reads holds the commit up until the engine gives up.
+  void commitRefused() {
+    const QByteArray saved = savedDump();
+    mStore->mProject.mAuthor = QStringLiteral("Neu");
+    const QByteArray dump = Project_Dump::project(*mStore);
+    DB_Sqlite other;
+    QVERIFY(other.open(mPath, DB_Sqlite::Mode::ReadWrite));
+    QVERIFY(other.execute("BEGIN; SELECT * FROM " + quoted(DB_Table::Project)));
+    DB_Statement reading = other.prepare("SELECT * FROM " + quoted(DB_Table::Sub_Groups));
+    QCOMPARE(reading.step(), DB_Statement::Step::Row);
+    QVERIFY(!mStore->recordWriteAll(true));
+    QVERIFY2(mStore->lastError().contains(QStringLiteral("locked")), qPrintable(mStore->lastError()));
+    reading = {};
+    QVERIFY(other.execute("COMMIT"));
+    other.close();
+    QCOMPARE(savedDump(), saved);
+    QCOMPARE(Project_Dump::project(*mStore), dump);
+    QVERIFY(mStore->recordWriteAll(false));
+    QCOMPARE(savedDump(), dump);
+  }
+
+private:
+  [[nodiscard]] QByteArray savedDump() const {
+    ProjectDatabase store;
+    store.openProjectReadOnly(mPath);
+    return Project_Dump::project(store);
+  }
+
+  [[nodiscard]] QByteArray written() const {
+    const auto count = [this](DB_Table table) { return QByteArray::number(rows(mPath, table).size()); };
+    qsizetype singles = 0;
+    for (const ProjectDatabase::Single& single : mStore->singles()) {
+      singles += rows(mPath, single.mTable).size();
+    }
+    return count(DB_Table::Main_Groups) + ',' + count(DB_Table::Middle_Groups) + ',' + count(DB_Table::Sub_Groups) +
+           ';' + QByteArray::number(singles) + ';' + count(DB_Table::Visu_Pages) + ',' +
+           count(DB_Table::Visu_Elements) + ';' + count(DB_Table::Logic_Pages) + ',' + count(DB_Table::Logic_Blocks);
+  }
+
+  std::unique_ptr<QTemporaryDir> mFolder;
+  QString mPath;
+  std::unique_ptr<ProjectDatabase> mStore;
+};
+
+QTEST_GUILESS_MAIN(ProjectDatabase_Failure_Test)
+#include "ProjectDatabase_Failure_Test.moc"
