@@ -100,7 +100,7 @@ private slots:
     QTest::newRow("right") << QByteArray("[Settings]\nmMcpPort=1\n") << false;
     QTest::newRow("empty") << QByteArray() << false;
     QTest::newRow("a letter") << QByteArray("Das ist ein Brief.\nUnd keine Liste von Werten.\n") << true;
-    QTest::newRow("a project file") << QByteArray("SQLite format 3\0\x10\0\x01\x01\0\x40", 24) + QByteArray(4000, '\0')
+    QTest::newRow("a project file") << QByteArray("SQLite format 3\0\x10\0\x01\x01\0\x40", 22) + QByteArray(4000, '\0')
                                     << true;
     QTest::newRow("group that does not end") << QByteArray("[Settings\nmMcpPort=1\n") << true;
   }
