@@ -2,6 +2,8 @@
 
 #include <typeinfo>
 
+DB_Data_Base::~DB_Data_Base() = default;
+
 QByteArray DB_Data_Base::toData() const {
   // The one list of fields serves reading too, so it cannot be const; writing changes nothing.
   return DB_Fields::write(const_cast<DB_Data_Base&>(*this), mUnknownItems);
