@@ -117,13 +117,14 @@ qsizetype DB_Data_Reader::lookUp(QByteArrayView key, qsizetype fromMark) {
     buildIndex();
   }
   const auto compareEnd = [this, key](quint32 index) {
-    const QByteArrayView other = keyBefore(mMarks[index]);
-    auto i = other.rbegin();
-    for (auto k = key.rbegin(); k != key.rend(); ++k, ++i) {
-      if (i == other.rend() || *i < *k) {
+    qsizetype i = mMarks[index];
+    for (auto k = key.rbegin(); k != key.rend(); ++k) {
+      // Walked only as far as `key` reaches: a foreign key may be as long as the whole text.
+      const bool isOver = i == 0 || mText[i - 1] == cKeyEnd || mText[i - 1] == cValueEnd;
+      if (isOver || mText[i - 1] < *k) {
         return -1;
       }
-      if (*i > *k) {
+      if (mText[--i] > *k) {
         return 1;
       }
     }
@@ -192,12 +193,19 @@ std::vector<DB_Data_Reader::Item> DB_Data_Reader::unusedItems() const {
   }
   std::vector<Item> items;
   for (qsizetype i = 0; i < mMarks.size(); ++i) {
+    if (mUsed[i]) {
+      continue;
+    }
     const QByteArrayView key = keyBefore(mMarks[i]);
-    const qsizetype valueEnd = mText.indexOf(cValueEnd, mMarks[i]);
     const qsizetype start = qsizetype(mMarks[i]) - key.size();
     const bool isInsideValue = start > 0 && mText[start - 1] == cKeyEnd;
-    if (mUsed[i] || key.isEmpty() || isInsideValue || valueEnd < 0) {
+    if (key.isEmpty() || isInsideValue) {
       continue;
+    }
+    // Only asked for items of their own, so that every byte is passed once even when no value ends.
+    const qsizetype valueEnd = mText.indexOf(cValueEnd, mMarks[i]);
+    if (valueEnd < 0) {
+      break;
     }
     items.push_back({key, mText.sliced(start, valueEnd + 1 - start)});
   }

@@ -28,6 +28,7 @@ public:
   [[nodiscard]] std::optional<QByteArrayView> find(QByteArrayView key);
 
   [[nodiscard]] qsizetype cursor() const { return mCursor; }
+  [[nodiscard]] qsizetype size() const { return mText.size(); }
   [[nodiscard]] qsizetype itemCount() const { return std::count(mText.begin(), mText.end(), cKeyEnd); }
 
   /// True while some terminated item has not yet been found under its whole key.

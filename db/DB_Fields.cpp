@@ -7,6 +7,18 @@
 
 namespace {
 
+/// How many bytes the values of one record may yield beyond the size of its text.
+constexpr qsizetype cRepeatedValuesLimit = 16 * 1024 * 1024;
+
+/// The toolkit takes a leading byte order mark away, but a text that begins with one must stay as it is.
+QString fromUtf8(QByteArrayView bytes) {
+  QString text = QString::fromUtf8(bytes);
+  if (bytes.startsWith("\xef\xbb\xbf")) {
+    text.prepend(QChar(QChar::ByteOrderMark));
+  }
+  return text;
+}
+
 /// Texts from outside may carry the marker bytes, which would end an item early: they are left out.
 void appendText(QByteArray& data, const QString& text) {
   const QByteArray bytes = text.toUtf8();
@@ -128,7 +140,14 @@ std::optional<QByteArrayView> DB_Fields::find(Key key) {
   if (mProbe == Probe::Missing) {
     return std::nullopt; // behind the end of a list: nothing of this element is asked for any more
   }
-  const std::optional<QByteArrayView> value = mReader->find(fullKey(key));
+  std::optional<QByteArrayView> value = mReader->find(fullKey(key));
+  if (value) {
+    // In a broken text every value may hold all that follow, which would decode to many times its size.
+    mTaken += value->size();
+    if (mTaken > mReader->size() + cRepeatedValuesLimit) {
+      value.reset();
+    }
+  }
   if (mProbe == Probe::Pending) {
     mProbe = value ? Probe::None : Probe::Missing;
   }
@@ -155,7 +174,7 @@ void DB_Fields::text(Key key, QString& value, const QString& defaultValue) {
     } else if (found->isEmpty()) {
       value.clear();
     } else {
-      value = QString::fromUtf8(*found);
+      value = fromUtf8(*found);
     }
   } else if (mWriter) {
     beginItem(key);

@@ -8,7 +8,7 @@ class DB_Sqlite;
 namespace DB_Legacy_Import {
 
 /// The extension of older project files, with its point. A file of that name is brought over to ".zpro" first.
-inline constexpr char16_t cExtension[] = u".zprj";
+inline constexpr QStringView cExtension = u".zprj";
 
 /// True when the older project table's record carries the version "0.000".
 [[nodiscard]] bool isOlderLayout(DB_Sqlite& database);

@@ -103,7 +103,7 @@ QByteArray DB_Scramble::unscramble(QByteArrayView scrambled, bool* isWhole) {
     *out++ = static_cast<quint8>(bits >> 8);
   }
   if (isWhole) {
-    *isWhole = in == end ? count != 1 : *in == quint8(cPadding);
+    *isWhole = count != 1 && (in == end || *in == quint8(cPadding));
   }
   result.truncate(out - outBegin);
   return result;

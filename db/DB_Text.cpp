@@ -1,0 +1,11 @@
+#include "db/DB_Text.h"
+
+QString DB_Text::clean(const QString& text) {
+  QString result = text;
+  result.removeIf([](QChar c) { return c < u' ' && c != u'\t' && c != u'\n'; });
+  return result;
+}
+
+QString DB_Text::singleLine(const QString& text) {
+  return clean(text).simplified();
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// Texts that come from outside (typed, pasted, imported) on their way into a record.
+namespace DB_Text {
+
+/// Without the marker bytes 0x02 and 0x03 and other control characters but tab and line break.
+[[nodiscard]] QString clean(const QString& text);
+
+/// As `clean`, with every run of white space as one blank and none at the ends.
+[[nodiscard]] QString singleLine(const QString& text);
+
+} // namespace DB_Text

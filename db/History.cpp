@@ -1,0 +1,204 @@
+#include "db/History.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+History::History(Session_State& state, QObject* parent) : QObject(parent), mState(state) {
+  mTimer.setSingleShot(true);
+  mTimer.setInterval(0);
+  connect(&mTimer, &QTimer::timeout, this, &History::commit);
+}
+
+QString History::undoText() const {
+  if (!mPending.empty()) {
+    return mPendingText;
+  }
+  return mPosition > 0 ? mSteps[mPosition - 1].mText : QString();
+}
+
+QString History::redoText() const {
+  return canRedo() ? mSteps[mPosition].mText : QString();
+}
+
+bool History::mayEdit(QString* refusal) const {
+  const bool isRefused = mState.operatingMode();
+  if (isRefused && refusal) {
+    *refusal = Session_State::operatingModeRefusal();
+  }
+  return !isRefused;
+}
+
+void History::record(Entry entry) {
+  // One copy, from before the first change, tells all; a record made in this step needs none.
+  const auto known = std::pair(entry.mOwner, entry.mId);
+  if (entry.mKind == Kind::Modified && mPendingKnown.contains(known)) {
+    return;
+  }
+  if (entry.mKind == Kind::Deleted) {
+    mPendingKnown.remove(known);
+  } else {
+    mPendingKnown.insert(known);
+  }
+  mPending.push_back(std::move(entry));
+  if (mPending.size() == 1) {
+    emit changed();
+  }
+}
+
+void History::enterScope(const QString& text, bool isOwn) {
+  if (mScopeDepth == 0) {
+    if (isOwn) {
+      commit(); // what the turn did before is a step of its own
+    }
+    mOwnScope = isOwn;
+    if (mPending.empty()) {
+      mPendingText = text;
+    }
+  }
+  ++mScopeDepth;
+}
+
+void History::leaveScope() {
+  if (--mScopeDepth > 0) {
+    return;
+  }
+  if (mOwnScope) {
+    mOwnScope = false;
+    commit();
+  } else if (!mPending.empty()) {
+    mTimer.start();
+  }
+}
+
+bool History::isWithoutEffect(const Entry& entry) {
+  if (entry.mKind != Kind::Modified) {
+    return false;
+  }
+  const std::unique_ptr<DB_Data_Base> present = entry.mOwner->find(entry.mId);
+  return present && entry.mPlace == entry.mOwner->placeOf(entry.mId) && entry.mOwner->isEqual(*entry.mRecord, *present);
+}
+
+void History::commit() {
+  if (mScopeDepth > 0 || mPending.empty()) {
+    return;
+  }
+  mTimer.stop();
+  Entries entries = std::move(mPending);
+  mPending.clear();
+  mPendingKnown.clear();
+  entries.erase(std::remove_if(entries.begin(), entries.end(), isWithoutEffect), entries.end());
+  if (!entries.empty()) {
+    if (mSavedPosition > static_cast<qsizetype>(mPosition)) {
+      mSavedPosition = cSavedGone;
+    }
+    mSteps.erase(mSteps.begin() + static_cast<qsizetype>(mPosition), mSteps.end());
+    mSteps.push_back({mPendingText, std::move(entries)});
+    if (mSteps.size() > cLimit) {
+      mSteps.pop_front();
+      mSavedPosition = std::max<qsizetype>(mSavedPosition - 1, cSavedGone);
+    }
+    mPosition = mSteps.size();
+  }
+  emit changed();
+}
+
+/// Applies the entry and yields its inverse.
+History::Entry History::applyEntry(const Entry& entry) {
+  Undo_Adapter& owner = *entry.mOwner;
+  Entry inverse{entry.mOwner, entry.mKind, entry.mId, owner.placeOf(entry.mId), nullptr};
+  switch (entry.mKind) {
+  case Kind::Modified:
+    inverse.mRecord = owner.find(entry.mId);
+    owner.apply(entry.mId, *entry.mRecord);
+    if (owner.placeOf(entry.mId) != entry.mPlace) {
+      owner.move(entry.mId, entry.mPlace);
+    }
+    break;
+  case Kind::Created:
+    inverse.mKind = Kind::Deleted;
+    inverse.mRecord = owner.find(entry.mId);
+    owner.remove(entry.mId);
+    break;
+  case Kind::Deleted:
+    inverse.mKind = Kind::Created;
+    owner.create(*entry.mRecord, entry.mPlace);
+    break;
+  }
+  return inverse;
+}
+
+/// Turns a step into its inverse by applying it.
+void History::applyStep(Step& step) {
+  std::set<Undo_Adapter*> owners;
+  for (const Entry& entry : step.mEntries) {
+    owners.insert(entry.mOwner);
+  }
+  for (Undo_Adapter* const owner : owners) {
+    owner->begin();
+  }
+  Entries inverse;
+  inverse.reserve(step.mEntries.size());
+  for (auto entry = step.mEntries.crbegin(); entry != step.mEntries.crend(); ++entry) {
+    inverse.push_back(applyEntry(*entry));
+  }
+  step.mEntries = std::move(inverse);
+  for (Undo_Adapter* const owner : owners) {
+    owner->end();
+  }
+}
+
+bool History::undo(QString* refusal) {
+  if (!mayEdit(refusal) || mScopeDepth > 0) {
+    return false;
+  }
+  commit();
+  if (mPosition == 0) {
+    return false;
+  }
+  applyStep(mSteps[mPosition - 1]);
+  --mPosition;
+  emit changed();
+  return true;
+}
+
+bool History::redo(QString* refusal) {
+  if (!mayEdit(refusal) || mScopeDepth > 0) {
+    return false;
+  }
+  commit();
+  if (mPosition == mSteps.size()) {
+    return false;
+  }
+  applyStep(mSteps[mPosition]);
+  ++mPosition;
+  emit changed();
+  return true;
+}
+
+void History::setSaved() {
+  commit();
+  mSavedPosition = static_cast<qsizetype>(mPosition);
+  mChangedOutside = false;
+  emit changed();
+}
+
+void History::setChangedOutside() {
+  mChangedOutside = true;
+  emit changed();
+}
+
+bool History::isModified() const {
+  return !mPending.empty() || mChangedOutside || mSavedPosition != static_cast<qsizetype>(mPosition);
+}
+
+void History::clear() {
+  mTimer.stop();
+  mPending.clear();
+  mPendingKnown.clear();
+  mSteps.clear();
+  mPosition = 0;
+  mSavedPosition = 0;
+  mChangedOutside = false;
+  emit changed();
+}

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "base/Session_State.h"
+#include "db/Undo_Adapter.h"
+
+#include <QObject>
+#include <QSet>
+#include <QString>
+#include <QTimer>
+
+#include <deque>
+#include <memory>
+#include <utility>
+#include <vector>
+
+/// The one undo history of a project.
+///
+/// A step is a list of entries: owner, kind, place in its list, copy of the record. Entries are recorded through an
+/// `Edit_Scope` only. Those of one turn of the event loop are one step, closed by a zero-delay timer; a scope of its
+/// own closes its step when it is left. At most 500 steps are kept.
+class History : public QObject {
+  Q_OBJECT
+
+public:
+  static constexpr size_t cLimit = 500;
+
+  explicit History(Session_State& state, QObject* parent = nullptr);
+
+  [[nodiscard]] bool canUndo() const { return !mPending.empty() || mPosition > 0; }
+  [[nodiscard]] bool canRedo() const { return mPending.empty() && mPosition < mSteps.size(); }
+  /// What the step that would be undone or redone is called; empty when there is none.
+  [[nodiscard]] QString undoText() const;
+  [[nodiscard]] QString redoText() const;
+
+  /// Both refuse in the operating mode and inside an edit scope; then `refusal`, if given, tells why.
+  bool undo(QString* refusal = nullptr);
+  bool redo(QString* refusal = nullptr);
+
+  /// Closes the step of the present turn now.
+  void commit();
+
+  /// The present state is the saved one.
+  void setSaved();
+  /// Something outside the history differs from what was saved.
+  void setChangedOutside();
+  [[nodiscard]] bool isModified() const;
+
+  /// Forgets every step; the present state counts as saved.
+  void clear();
+
+  /// Number of committed steps that can be undone; for tests and displays.
+  [[nodiscard]] size_t position() const { return mPosition; }
+
+signals:
+  /// Steps, texts or the modified mark changed.
+  void changed();
+
+private:
+  friend class Edit_Scope;
+
+  enum class Kind { Modified = 1, Deleted = 2, Created = 3 };
+
+  struct Entry {
+    Undo_Adapter* mOwner = nullptr;
+    Kind mKind = Kind::Modified;
+    QUuid mId;
+    qsizetype mPlace = -1;
+    std::shared_ptr<const DB_Data_Base> mRecord; ///< none for Created: undoing takes the copy
+  };
+  using Entries = std::vector<Entry>;
+
+  struct Step {
+    QString mText;
+    Entries mEntries;
+  };
+
+  static constexpr qsizetype cSavedGone = -1;
+
+  [[nodiscard]] bool mayEdit(QString* refusal) const;
+  void record(Entry entry);
+  void enterScope(const QString& text, bool isOwn);
+  void leaveScope();
+  [[nodiscard]] static bool isWithoutEffect(const Entry& entry);
+  [[nodiscard]] static Entry applyEntry(const Entry& entry);
+  static void applyStep(Step& step);
+
+  Session_State& mState;
+  QTimer mTimer;
+  std::deque<Step> mSteps;
+  size_t mPosition = 0;
+  qsizetype mSavedPosition = 0;
+  bool mChangedOutside = false;
+  Entries mPending;
+  QSet<std::pair<Undo_Adapter*, QUuid>> mPendingKnown; ///< records of the open step whose copy is taken
+  QString mPendingText;
+  int mScopeDepth = 0;
+  bool mOwnScope = false;
+};

@@ -1,0 +1,102 @@
+#include "db/Project_Edits.h"
+
+#include "db/DB_Text.h"
+#include "db/Edit_Scope.h"
+#include "db/Project_Session.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("Project_Edits", text);
+}
+
+template <class Page>
+void setCaption(DB_Page_List<Page>& list, Undo_Adapter& undo, Edit_Scope& scope, const QUuid& guid,
+                const QString& caption) {
+  scope.modified(undo, guid);
+  list.changePage(guid, [&caption](Page& page) { page.mCaption = caption; });
+}
+
+Edit_Result checkLength(const QString& name) {
+  if (name.size() > Project_Edits::cNameLimit) {
+    return Edit_Result::refused(
+        tr("Der Name hat %1 Zeichen, erlaubt sind höchstens %2.").arg(name.size()).arg(Project_Edits::cNameLimit));
+  }
+  return Edit_Result::done();
+}
+
+} // namespace
+
+Edit_Result Project_Edits::renameAddress(Project_Session& session, const QUuid& key, const QString& name) {
+  Address_Tree& tree = session.database().mAddresses;
+  const QString clean = DB_Text::singleLine(name);
+  if (const Edit_Result result = checkLength(clean); !result) {
+    return result;
+  }
+  if (!tree.record(key)) {
+    return Edit_Result::refused(tr("Die Adresse gibt es nicht mehr."));
+  }
+  Edit_Scope scope(session.history(), tr("Umbenennen"));
+  if (!scope) {
+    return Edit_Result::refused(scope.refusal());
+  }
+  scope.modified(session.addressUndo(), key);
+  tree.change(key, [&clean](DB_Data_Base& record) {
+    if (auto* const sub = dynamic_cast<DB_Address_Sub_Group*>(&record)) {
+      sub->mName = clean;
+    } else if (auto* const middle = dynamic_cast<DB_Address_Middle_Group*>(&record)) {
+      middle->mName = clean;
+    } else if (auto* const main = dynamic_cast<DB_Address_MainGroup*>(&record)) {
+      main->mName = clean;
+    }
+  });
+  return Edit_Result::done();
+}
+
+Edit_Result Project_Edits::renamePage(Project_Session& session, const QUuid& guid, const QString& caption) {
+  ProjectDatabase& database = session.database();
+  const QString clean = DB_Text::singleLine(caption);
+  if (clean.isEmpty()) {
+    return Edit_Result::refused(tr("Eine Seite braucht einen Namen."));
+  }
+  if (const Edit_Result result = checkLength(clean); !result) {
+    return result;
+  }
+  if (!database.mFbPages.page(guid) && !database.mWidgetPages.page(guid)) {
+    return Edit_Result::refused(tr("Die Seite gibt es nicht mehr."));
+  }
+  Edit_Scope scope(session.history(), tr("Seite umbenennen"));
+  if (!scope) {
+    return Edit_Result::refused(scope.refusal());
+  }
+  if (database.mFbPages.page(guid)) {
+    setCaption(database.mFbPages, session.fbPageUndo(), scope, guid, clean);
+  } else {
+    setCaption(database.mWidgetPages, session.widgetPageUndo(), scope, guid, clean);
+  }
+  return Edit_Result::done();
+}
+
+Edit_Result Project_Edits::setGeoposition(Project_Session& session, double latitude, double longitude) {
+  constexpr double cLatitudeMax = 90;
+  constexpr double cLongitudeMax = 180;
+  // Written so that what is no number is refused too.
+  if (!(latitude >= -cLatitudeMax && latitude <= cLatitudeMax)) {
+    return Edit_Result::refused(tr("Die geographische Breite muss zwischen -90 und 90 Grad liegen."));
+  }
+  if (!(longitude >= -cLongitudeMax && longitude <= cLongitudeMax)) {
+    return Edit_Result::refused(tr("Die geographische Länge muss zwischen -180 und 180 Grad liegen."));
+  }
+  Edit_Scope scope(session.history(), tr("Geographische Position"));
+  if (!scope) {
+    return Edit_Result::refused(scope.refusal());
+  }
+  scope.modified(session.projectUndo(), Single_Record_Undo::id());
+  ProjectDatabase& database = session.database();
+  database.mProject.mGeopos_Latitude = latitude;
+  database.mProject.mGeopos_Longitude = longitude;
+  emit database.recordChanged(DB_Table::Project);
+  return Edit_Result::done();
+}

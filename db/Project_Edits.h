@@ -1,0 +1,26 @@
+#pragma once
+
+#include "db/Edit_Result.h"
+
+#include <QString>
+#include <QUuid>
+
+class Project_Session;
+
+/// The edits of a project that are no page's own, each one undo step (or part of the one that is open). Menu, view,
+/// assistant and test call these; all of them refuse in the operating mode. Texts lose the bytes 0x02 and 0x03.
+namespace Project_Edits {
+
+/// Longest name of a group or page, in characters.
+inline constexpr qsizetype cNameLimit = 255;
+
+/// Renames a main, middle or sub group. A name of 0 to 255 characters in one line.
+Edit_Result renameAddress(Project_Session& session, const QUuid& key, const QString& name);
+
+/// Renames a logic or visualisation page. A name of 1 to 255 characters in one line.
+Edit_Result renamePage(Project_Session& session, const QUuid& guid, const QString& caption);
+
+/// Where the building stands: latitude -90..90 and longitude -180..180 in degrees, north and east positive.
+Edit_Result setGeoposition(Project_Session& session, double latitude, double longitude);
+
+} // namespace Project_Edits

@@ -1,0 +1,193 @@
+#include "db/Project_Session.h"
+
+#include "base/Platform.h"
+#include "base/Version.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <cstdio>
+
+namespace {
+constexpr qint64 cCopyChunk = 1 << 20;
+} // namespace
+
+Project_Session::Project_Session(Session_State& state, QObject* parent)
+    : QObject(parent),
+      mHistory(state),
+      mAddressUndo(mDatabase.mAddresses),
+      mFbPageUndo(mDatabase.mFbPages),
+      mWidgetPageUndo(mDatabase.mWidgetPages),
+      mProjectUndo(mDatabase, DB_Table::Project) {
+  connect(&mDatabase, &ProjectDatabase::resourcesChanged, &mHistory, &History::setChangedOutside);
+}
+
+Project_Session::~Project_Session() {
+  mDatabase.close();
+}
+
+bool Project_Session::fail(const QString& text) {
+  mLastError = text;
+  return false;
+}
+
+Project_Session::Fingerprint Project_Session::fingerprintOf(const QString& path) {
+  const QFileInfo info(path);
+  return info.exists() ? Fingerprint{true, info.size(), info.lastModified()} : Fingerprint{};
+}
+
+bool Project_Session::isChangedOnDisk() const {
+  return isOpen() && fingerprintOf(mPath) != mFingerprint;
+}
+
+void Project_Session::setPath(const QString& path) {
+  mPath = path;
+  mFingerprint = fingerprintOf(path);
+  emit pathChanged();
+}
+
+void Project_Session::close() {
+  if (isOpen()) {
+    emit aboutToClose();
+  }
+  mHistory.clear();
+  mDatabase.close();
+  mWorkingCopy.release();
+  if (isOpen()) {
+    setPath({});
+    emit closed();
+  }
+}
+
+bool Project_Session::copyToWorkingFile(const QString& path) {
+  if (!mWorkingCopy.claim(path)) {
+    return fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(Working_Copy::pathFor(path)));
+  }
+  QFile source(path);
+  if (!source.copy(mWorkingCopy.path())) {
+    return fail(source.errorString());
+  }
+  // A project file may be read only; the working copy is written to all the same.
+  QFile::setPermissions(mWorkingCopy.path(), QFile::ReadOwner | QFile::WriteOwner);
+  return true;
+}
+
+bool Project_Session::open(const QString& path) {
+  close();
+  mLastError.clear();
+  const QString absolutePath = QFileInfo(path).absoluteFilePath();
+  const Fingerprint fingerprint = fingerprintOf(absolutePath);
+  if (!copyToWorkingFile(absolutePath) || !mDatabase.openProject(mWorkingCopy.path(), true)) {
+    const QString error = mLastError.isEmpty() ? mDatabase.lastError() : mLastError;
+    mDatabase.close();
+    mWorkingCopy.release();
+    return fail(error);
+  }
+  setPath(absolutePath);
+  mFingerprint = fingerprint; // a change during the copying shows at the next save
+  mHistory.clear();
+  emit opened();
+  return true;
+}
+
+bool Project_Session::create(const QString& path, const New_Project::Options& options) {
+  close();
+  mLastError.clear();
+  const QString absolutePath = QFileInfo(path).absoluteFilePath();
+  if (!mWorkingCopy.claim(absolutePath)) {
+    return fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(Working_Copy::pathFor(absolutePath)));
+  }
+  bool isOk = mDatabase.openProject(mWorkingCopy.path(), false);
+  if (isOk) {
+    New_Project::fill(mDatabase, options);
+    isOk = writeTo(absolutePath) == Save_Result::Saved;
+  }
+  if (!isOk) {
+    const QString error = mLastError.isEmpty() ? mDatabase.lastError() : mLastError;
+    mDatabase.close();
+    mWorkingCopy.release();
+    return fail(error);
+  }
+  setPath(absolutePath);
+  mHistory.clear();
+  emit opened();
+  return true;
+}
+
+/// The bytes go beside the project file, are flushed and renamed over it: a reader finds the old file or the new one.
+bool Project_Session::publish(const QString& path) {
+  QFile source(mWorkingCopy.path());
+  QSaveFile target(path);
+  target.setDirectWriteFallback(false);
+  if (!source.open(QIODevice::ReadOnly)) {
+    return fail(source.errorString());
+  }
+  if (!target.open(QIODevice::WriteOnly)) {
+    return fail(target.errorString());
+  }
+  while (!source.atEnd()) {
+    const QByteArray chunk = source.read(cCopyChunk);
+    if (chunk.isEmpty() || target.write(chunk) != chunk.size()) {
+      const QString error = chunk.isEmpty() ? source.errorString() : target.errorString();
+      target.cancelWriting();
+      return fail(error);
+    }
+  }
+  if (!target.commit()) {
+    return fail(target.errorString());
+  }
+  Platform::flushFolder(QFileInfo(path).absolutePath());
+  return true;
+}
+
+Project_Session::Save_Result Project_Session::writeTo(const QString& path) {
+  mLastError.clear();
+  mHistory.commit();
+  mDatabase.mProject.mName = QFileInfo(path).completeBaseName();
+  mDatabase.mProject.mVersion = Version::studio();
+  if (!mDatabase.recordWriteAll(true)) {
+    fail(mDatabase.lastError());
+    return Save_Result::WriteFailed;
+  }
+  if (!mDatabase.execute("VACUUM")) {
+    // The file is whole without it, only larger than it need be.
+    std::printf("VACUUM: %s\n", qPrintable(mDatabase.lastError()));
+  }
+  return publish(path) ? Save_Result::Saved : Save_Result::PublishFailed;
+}
+
+Project_Session::Save_Result Project_Session::save() {
+  const Save_Result result = writeTo(mPath);
+  if (result == Save_Result::Saved) {
+    mFingerprint = fingerprintOf(mPath);
+    mHistory.setSaved();
+  }
+  return result;
+}
+
+Project_Session::Save_Result Project_Session::saveAs(const QString& path) {
+  const QString absolutePath = QFileInfo(path).absoluteFilePath();
+  if (absolutePath == mPath) {
+    return save();
+  }
+  Working_Copy next;
+  if (!next.claim(absolutePath)) {
+    fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(Working_Copy::pathFor(absolutePath)));
+    return Save_Result::PublishFailed;
+  }
+  const QString oldName = mDatabase.mProject.mName;
+  const Save_Result result = writeTo(absolutePath);
+  if (result != Save_Result::Saved) {
+    mDatabase.mProject.mName = oldName;
+    return result;
+  }
+  mDatabase.detach();
+  const bool isMoved = QFile::rename(mWorkingCopy.path(), next.path());
+  if (mDatabase.attach(isMoved ? next.path() : mWorkingCopy.path()) && isMoved) {
+    std::swap(mWorkingCopy, next);
+  }
+  setPath(absolutePath);
+  mHistory.setSaved();
+  return result;
+}

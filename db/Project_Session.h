@@ -1,0 +1,91 @@
+#pragma once
+
+#include "db/Address_Undo.h"
+#include "db/History.h"
+#include "db/New_Project.h"
+#include "db/Page_Undo.h"
+#include "db/ProjectDatabase.h"
+#include "db/Single_Record_Undo.h"
+#include "db/Working_Copy.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QString>
+
+/// The project that is open in the studio: the store with its history, and the way between the project file and its
+/// working copy. It asks nobody: what needs a question is told by a state, and the caller asks before it calls.
+class Project_Session : public QObject {
+  Q_OBJECT
+
+public:
+  explicit Project_Session(Session_State& state, QObject* parent = nullptr);
+  ~Project_Session() override;
+
+  [[nodiscard]] bool isOpen() const { return !mPath.isEmpty(); }
+  /// Absolute path of the project file; empty when none is open.
+  [[nodiscard]] QString path() const { return mPath; }
+  [[nodiscard]] ProjectDatabase& database() { return mDatabase; }
+  [[nodiscard]] History& history() { return mHistory; }
+  [[nodiscard]] bool isModified() const { return isOpen() && mHistory.isModified(); }
+
+  /// Closes what is open, copies the file to a working copy and loads that, converting an older layout. On failure
+  /// nothing is open and `lastError` tells why.
+  bool open(const QString& path);
+  /// Closes what is open and makes a new project file, replacing one of that name at the end only.
+  bool create(const QString& path, const New_Project::Options& options);
+  /// Deletes working copy and lock; what was not saved is gone.
+  void close();
+
+  enum class Save_Result {
+    Saved,
+    WriteFailed,   ///< the working copy could not be written; `lastError` holds the engine's text
+    PublishFailed, ///< the project file could not be replaced; `lastError` holds the system's text
+  };
+  /// The project file is at every moment the whole old or the whole new project. A failure loses no edit.
+  Save_Result save();
+  /// Saves under another name and goes on with that; the old file stays as last saved.
+  Save_Result saveAs(const QString& path);
+
+  /// True when the project file is not what it was when opened or last saved.
+  [[nodiscard]] bool isChangedOnDisk() const;
+
+  [[nodiscard]] QString lastError() const { return mLastError; }
+
+  [[nodiscard]] Undo_Adapter& addressUndo() { return mAddressUndo; }
+  [[nodiscard]] Undo_Adapter& fbPageUndo() { return mFbPageUndo; }
+  [[nodiscard]] Undo_Adapter& widgetPageUndo() { return mWidgetPageUndo; }
+  [[nodiscard]] Undo_Adapter& projectUndo() { return mProjectUndo; }
+
+signals:
+  /// The records of the old project are still there; views let go of them.
+  void aboutToClose();
+  void opened();
+  void closed();
+  void pathChanged();
+
+private:
+  struct Fingerprint {
+    bool mExists = false;
+    qint64 mSize = 0;
+    QDateTime mModified;
+    friend bool operator==(const Fingerprint&, const Fingerprint&) = default;
+  };
+
+  [[nodiscard]] static Fingerprint fingerprintOf(const QString& path);
+  bool fail(const QString& text);
+  bool copyToWorkingFile(const QString& path);
+  [[nodiscard]] Save_Result writeTo(const QString& path);
+  bool publish(const QString& path);
+  void setPath(const QString& path);
+
+  ProjectDatabase mDatabase;
+  History mHistory;
+  Address_Undo mAddressUndo;
+  Page_Undo<DB_FB_Page> mFbPageUndo;
+  Page_Undo<DB_Widget_Page> mWidgetPageUndo;
+  Single_Record_Undo mProjectUndo;
+  Working_Copy mWorkingCopy;
+  QString mPath;
+  Fingerprint mFingerprint;
+  QString mLastError;
+};
