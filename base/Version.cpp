@@ -1,6 +1,6 @@
 #include "base/Version.h"
 
-#include <QLocale>
+#include <QtNumeric>
 
 QString Version::studio() {
   return QStringLiteral("2.3146");
@@ -8,8 +8,8 @@ QString Version::studio() {
 
 double Version::number(QStringView text) {
   bool ok = false;
-  const double value = QLocale::c().toDouble(text.trimmed(), &ok);
-  return ok ? value : 0.0;
+  const double value = text.trimmed().toDouble(&ok);
+  return ok && qIsFinite(value) ? value : 0.0;
 }
 
 bool Version::isNewerThanStudio(QStringView version) {

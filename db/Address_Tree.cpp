@@ -16,6 +16,34 @@ qsizetype placeFor(const DB_Children<Group>& siblings, int number, qsizetype wan
   return wanted >= beforeEquals && wanted <= behindEquals ? wanted : behindEquals;
 }
 
+/// Calls `visit` with the groups of that number, in order, until it answers something.
+template <class Group, class Visit>
+auto visitNumber(const DB_Children<Group>& siblings, int number, Visit&& visit) -> decltype(visit(siblings.at(0))) {
+  const auto lessThan = [](const auto& group, int value) { return group->mNumber < value; };
+  auto at = std::lower_bound(siblings.begin(), siblings.end(), number, lessThan);
+  for (; at != siblings.end() && (*at)->mNumber == number; ++at) {
+    if (auto* const found = visit(**at)) {
+      return found;
+    }
+  }
+  return nullptr;
+}
+
+template <class Group>
+Group* self(Group& group) {
+  return &group;
+}
+
+/// What is found under a number: the first in order, or nothing.
+template <class Number, class Group>
+void setFound(QHash<Number, Group*>& index, const Number& number, Group* first) {
+  if (first) {
+    index.insert(number, first);
+  } else {
+    index.remove(number);
+  }
+}
+
 /// The index of a group in its parent's ordered list.
 template <class Group>
 qsizetype indexIn(const DB_Children<Group>& siblings, const Group& group) {
@@ -25,14 +53,6 @@ qsizetype indexIn(const DB_Children<Group>& siblings, const Group& group) {
     ++at;
   }
   return at == siblings.end() ? -1 : at - siblings.begin();
-}
-
-/// The first group of that number among its ordered siblings, or null.
-template <class Group>
-Group* firstOfNumber(const DB_Children<Group>& siblings, int number) {
-  const auto lessThan = [](const auto& other, int value) { return other->mNumber < value; };
-  const auto at = std::lower_bound(siblings.begin(), siblings.end(), number, lessThan);
-  return at != siblings.end() && (*at)->mNumber == number ? at->get() : nullptr;
 }
 
 template <class Group>
@@ -66,22 +86,9 @@ DB_Address_MainGroup* Address_Tree::add(std::unique_ptr<DB_Address_MainGroup> gr
   beginChange();
   DB_Address_MainGroup* const added = insertSorted(mMainGroups, std::move(group), place);
   mMainByKey.insert(added->mKey, added);
-  if (mMainByNumber.contains(added->mNumber)) {
-    mHasDuplicateGroups = true;
-  } else {
-    mMainByNumber.insert(added->mNumber, added);
-  }
+  findMain(added->mNumber);
   endChange();
   return added;
-}
-
-void Address_Tree::indexMiddleGroup(const DB_Address_MainGroup& main, DB_Address_Middle_Group& middle) {
-  const Group_Address number(main.mNumber, middle.mNumber, 0);
-  if (mMiddleByNumber.contains(number)) {
-    mHasDuplicateGroups = true;
-  } else {
-    mMiddleByNumber.insert(number, &middle);
-  }
 }
 
 DB_Address_Middle_Group* Address_Tree::add(std::unique_ptr<DB_Address_Middle_Group> group, qsizetype place) {
@@ -95,17 +102,9 @@ DB_Address_Middle_Group* Address_Tree::add(std::unique_ptr<DB_Address_Middle_Gro
   beginChange();
   DB_Address_Middle_Group* const added = insertSorted(main->mMiddleGroups, std::move(group), place);
   mMiddleByKey.insert(added->mKey, added);
-  indexMiddleGroup(*main, *added);
+  findMiddle(main->mNumber, added->mNumber);
   endChange();
   return added;
-}
-
-void Address_Tree::indexSubGroup(const DB_Address_MainGroup& main, const DB_Address_Middle_Group& middle,
-                                 DB_Address_Sub_Group& sub) {
-  const Group_Address address(main.mNumber, middle.mNumber, sub.mNumber);
-  if (!mSubByAddress.contains(address)) {
-    mSubByAddress.insert(address, &sub);
-  }
 }
 
 DB_Address_Sub_Group* Address_Tree::add(std::unique_ptr<DB_Address_Sub_Group> group, qsizetype place) {
@@ -120,7 +119,7 @@ DB_Address_Sub_Group* Address_Tree::add(std::unique_ptr<DB_Address_Sub_Group> gr
   beginChange();
   DB_Address_Sub_Group* const added = insertSorted(middle->mSubGroups, std::move(group), place);
   mSubByKey.insert(added->mKey, added);
-  indexSubGroup(*main, *middle, *added);
+  findSub({main->mNumber, middle->mNumber, added->mNumber});
   endChange();
   return added;
 }
@@ -152,30 +151,24 @@ std::unique_ptr<DB_Data_Base> Address_Tree::take(const QUuid& key) {
   if (DB_Address_Sub_Group* const sub = subGroup(key)) {
     beginChange();
     const Group_Address address = addressOf(*sub);
-    DB_Children<DB_Address_Sub_Group>& siblings = middleGroup(sub->mMiddleKey)->mSubGroups;
-    taken = siblings.take(place);
+    taken = middleGroup(sub->mMiddleKey)->mSubGroups.take(place);
     mSubByKey.remove(key);
-    mSubByAddress.remove(address);
-    if (DB_Address_Sub_Group* const other = firstOfNumber(siblings, address.sub())) {
-      mSubByAddress.insert(address, other);
-    }
+    findSub(address);
   } else if (DB_Address_Middle_Group* const middle = middleGroup(key); middle && middle->mSubGroups.isEmpty()) {
     beginChange();
     DB_Address_MainGroup* const main = mainGroup(middle->mMainKey);
-    const Group_Address number(main->mNumber, middle->mNumber, 0);
+    const int number = middle->mNumber;
     taken = main->mMiddleGroups.take(place);
     mMiddleByKey.remove(key);
-    mMiddleByNumber.remove(number);
+    findMiddle(main->mNumber, number);
   } else if (DB_Address_MainGroup* const main = mainGroup(key); main && main->mMiddleGroups.isEmpty()) {
     beginChange();
-    mMainByNumber.remove(main->mNumber);
+    const int number = main->mNumber;
     taken = mMainGroups.take(place);
     mMainByKey.remove(key);
+    findMain(number);
   }
   if (taken) {
-    if (mHasDuplicateGroups) {
-      rebuildNumberIndex();
-    }
     endChange();
   }
   return taken;
@@ -192,7 +185,8 @@ bool Address_Tree::change(const QUuid& key, const std::function<void(DB_Data_Bas
     }
     beginChange();
     replace(siblings, place);
-    rebuildNumberIndex();
+    findAgain(group, number);
+    findAgain(group, group.mNumber);
     endChange();
   };
   if (DB_Address_Sub_Group* const sub = subGroup(key)) {
@@ -207,22 +201,46 @@ bool Address_Tree::change(const QUuid& key, const std::function<void(DB_Data_Bas
   return true;
 }
 
-void Address_Tree::rebuildNumberIndex() {
-  mMainByNumber.clear();
-  mMiddleByNumber.clear();
-  mSubByAddress.clear();
-  mHasDuplicateGroups = false;
-  for (const auto& main : mMainGroups) {
-    if (mMainByNumber.contains(main->mNumber)) {
-      mHasDuplicateGroups = true;
-    } else {
-      mMainByNumber.insert(main->mNumber, main.get());
-    }
-    for (const auto& middle : main->mMiddleGroups) {
-      indexMiddleGroup(*main, *middle);
-      for (const auto& sub : middle->mSubGroups) {
-        indexSubGroup(*main, *middle, *sub);
-      }
+void Address_Tree::findMain(int number) {
+  setFound(mMainByNumber, number, visitNumber(mMainGroups, number, self<DB_Address_MainGroup>));
+}
+
+void Address_Tree::findMiddle(int main, int middle) {
+  const auto inMain = [middle](const DB_Address_MainGroup& group) {
+    return visitNumber(group.mMiddleGroups, middle, self<DB_Address_Middle_Group>);
+  };
+  setFound(mMiddleByNumber, Group_Address(main, middle, 0), visitNumber(mMainGroups, main, inMain));
+}
+
+void Address_Tree::findSub(const Group_Address& address) {
+  const auto inMiddle = [&address](const DB_Address_Middle_Group& group) {
+    return visitNumber(group.mSubGroups, address.sub(), self<DB_Address_Sub_Group>);
+  };
+  const auto inMain = [&address, &inMiddle](const DB_Address_MainGroup& group) {
+    return visitNumber(group.mMiddleGroups, address.middle(), inMiddle);
+  };
+  setFound(mSubByAddress, address, visitNumber(mMainGroups, address.main(), inMain));
+}
+
+void Address_Tree::findAgain(const DB_Address_Sub_Group& group, int number) {
+  const Group_Address address = addressOf(group);
+  findSub({address.main(), address.middle(), number});
+}
+
+void Address_Tree::findAgain(const DB_Address_Middle_Group& group, int number) {
+  const int main = mainGroup(group.mMainKey)->mNumber;
+  findMiddle(main, number);
+  for (const auto& sub : group.mSubGroups) {
+    findSub({main, number, sub->mNumber});
+  }
+}
+
+void Address_Tree::findAgain(const DB_Address_MainGroup& group, int number) {
+  findMain(number);
+  for (const auto& middle : group.mMiddleGroups) {
+    findMiddle(number, middle->mNumber);
+    for (const auto& sub : middle->mSubGroups) {
+      findSub({number, middle->mNumber, sub->mNumber});
     }
   }
 }
@@ -236,7 +254,6 @@ void Address_Tree::clear() {
   mMiddleByNumber.clear();
   mSubByAddress.clear();
   mMainGroups.clear();
-  mHasDuplicateGroups = false;
   endChange();
 }
 

@@ -70,10 +70,14 @@ signals:
   void structureChanged();
 
 private:
-  void indexMiddleGroup(const DB_Address_MainGroup& main, DB_Address_Middle_Group& middle);
-  void indexSubGroup(const DB_Address_MainGroup& main, const DB_Address_Middle_Group& middle,
-                     DB_Address_Sub_Group& sub);
-  void rebuildNumberIndex();
+  /// Each looks up anew in the ordered lists which group is found under a number.
+  void findMain(int number);
+  void findMiddle(int main, int middle);
+  void findSub(const Group_Address& address);
+  /// The same for a group and everything below it, as if it bore `number`.
+  void findAgain(const DB_Address_Sub_Group& group, int number);
+  void findAgain(const DB_Address_Middle_Group& group, int number);
+  void findAgain(const DB_Address_MainGroup& group, int number);
 
   DB_Children<DB_Address_MainGroup> mMainGroups;
   QHash<QUuid, DB_Address_MainGroup*> mMainByKey;
@@ -82,6 +86,5 @@ private:
   QHash<int, DB_Address_MainGroup*> mMainByNumber;
   QHash<Group_Address, DB_Address_Middle_Group*> mMiddleByNumber; ///< sub is 0
   QHash<Group_Address, DB_Address_Sub_Group*> mSubByAddress;
-  bool mHasDuplicateGroups = false; ///< a main or middle group's number stands twice
   int mChangeDepth = 0;
 };

@@ -51,7 +51,21 @@ public:
     mPrefix.resize(prefixSize);
   }
 
-  /// Walks `record` in one of the three ways. `unknownItems` takes the items that the record does not declare.
+  /// The keys that a record declares: of plain fields as they stand, of lists without the index.
+  struct Keys {
+    QSet<QByteArray> mPlain;
+    QSet<QByteArray> mLists;
+  };
+
+  template <class Record>
+  [[nodiscard]] static Keys keys(Record& record) {
+    Keys keys;
+    DB_Fields collector(nullptr, nullptr, &keys);
+    record.fields(collector);
+    return keys;
+  }
+
+  /// Walks `record`. `unknownItems` takes the items that the record does not declare.
   template <class Record>
   static void read(Record& record, QByteArrayView data, QByteArray& unknownItems) {
     DB_Data_Reader reader(data);
@@ -59,10 +73,7 @@ public:
     record.fields(fields);
     unknownItems.clear();
     if (reader.hasUnusedItems()) {
-      Keys keys;
-      DB_Fields collector(nullptr, nullptr, &keys);
-      record.fields(collector);
-      unknownItems = undeclared(reader, keys);
+      unknownItems = undeclared(reader, keys(record));
     }
   }
 
@@ -75,12 +86,6 @@ public:
     data.append(unknownItems);
     return data;
   }
-
-  /// The keys that a record declares: of plain fields as they stand, of lists without the index.
-  struct Keys {
-    QSet<QByteArray> mPlain;
-    QSet<QByteArray> mLists;
-  };
 
 private:
   static constexpr qsizetype cUsualDataSize = 512;
@@ -142,5 +147,6 @@ private:
   QVarLengthArray<char, 24> mSuffix;
   QVarLengthArray<char, 128> mFullKey;
   Probe mProbe = Probe::None;
+  qsizetype mTaken = 0; ///< bytes of all values found so far
   int mListDepth = 0;
 };

@@ -34,7 +34,7 @@ public:
   [[nodiscard]] Page* page(const QUuid& guid) const { return mPageByGuid.value(guid); }
   [[nodiscard]] Child* child(const QUuid& guid) const { return mChildByGuid.value(guid); }
 
-  /// An index outside the list appends.
+  /// With the children it holds. An index outside the list appends.
   Page& insertPage(qsizetype index, std::unique_ptr<Page> page) {
     if (page->mGuid.isNull() || mPageByGuid.contains(page->mGuid)) {
       page->mGuid = QUuid::createUuid();
@@ -42,6 +42,10 @@ public:
     emit structureAboutToChange();
     Page& added = mPages.insert(index, std::move(page));
     mPageByGuid.insert(added.mGuid, &added);
+    for (const auto& child : added.mChildren) {
+      child->mPageGuid = added.mGuid;
+      indexChild(*child);
+    }
     emit structureChanged();
     return added;
   }
@@ -80,11 +84,8 @@ public:
     if (!parent) {
       return nullptr;
     }
-    if (child->mGuid.isNull() || mChildByGuid.contains(child->mGuid)) {
-      child->mGuid = QUuid::createUuid();
-    }
     Child& added = parent->mChildren.insert(index, std::move(child));
-    mChildByGuid.insert(added.mGuid, &added);
+    indexChild(added);
     return &added;
   }
 
@@ -121,6 +122,13 @@ public:
   }
 
 private:
+  void indexChild(Child& child) {
+    if (child.mGuid.isNull() || mChildByGuid.contains(child.mGuid)) {
+      child.mGuid = QUuid::createUuid();
+    }
+    mChildByGuid.insert(child.mGuid, &child);
+  }
+
   DB_Children<Page> mPages;
   QHash<QUuid, Page*> mPageByGuid;
   QHash<QUuid, Child*> mChildByGuid;

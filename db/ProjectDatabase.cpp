@@ -71,17 +71,35 @@ bool ProjectDatabase::open(const QString& path, DB_Sqlite::Mode mode) {
     return false;
   }
   probe = {};
-  int found = 0;
-  for (const DB_Table_Row& row : DB_Tables::all()) {
-    const bool exists = tableExists(row.mName);
-    found += exists ? 1 : 0;
-    if (!exists) {
-      mReport.setMissing(row.mTable);
-    }
-  }
-  if (found == 0 && !DB_Legacy_Import::isOlderLayout(mDatabase)) {
+  if (noteMissingTables() == DB_Tables::cCount && !DB_Legacy_Import::isOlderLayout(mDatabase)) {
     mDatabase.close();
     return fail(tr("Die Datei ist kein Projekt des Quarna-Studio."));
+  }
+  return true;
+}
+
+int ProjectDatabase::noteMissingTables() {
+  int missing = 0;
+  for (const DB_Table_Row& row : DB_Tables::all()) {
+    if (!tableExists(row.mName)) {
+      mReport.setMissing(row.mTable);
+      ++missing;
+    }
+  }
+  return missing;
+}
+
+/// What a half-way failed conversion left unreadable is told by the report; without a backup nothing was converted.
+bool ProjectDatabase::convertOlderLayout(const QString& path) {
+  mLegacy = true;
+  const bool isWhole = DB_Legacy_Import::convert(mDatabase, path);
+  mLegacy = false;
+  mReport = {};
+  if (!isWhole && noteMissingTables() == DB_Tables::cCount) {
+    close();
+    return fail(tr("Das ältere Projekt konnte nicht umgewandelt werden, seine Sicherungskopie \"%1.import\" ließ sich "
+                   "nicht anlegen.")
+                    .arg(path));
   }
   return true;
 }
@@ -96,11 +114,8 @@ bool ProjectDatabase::openProject(const QString& path, bool allowConversion) {
   }
   mFileName = path;
   mDatabase.execute("PRAGMA synchronous=NORMAL");
-  if (isOlder && allowConversion) {
-    mLegacy = true;
-    DB_Legacy_Import::convert(mDatabase, path);
-    mLegacy = false;
-    mReport = {};
+  if (isOlder && allowConversion && !convertOlderLayout(path)) {
+    return false;
   }
   createTables();
   readAll();
@@ -222,6 +237,15 @@ void ProjectDatabase::readAddresses() {
   mAddresses.endChange();
 }
 
+/// Resources are read when they are asked for, but a table that cannot hold them is told at once.
+void ProjectDatabase::checkResourceTable() {
+  const bool exists = tableExists(DB_Tables::name(DB_Table::Resources));
+  if (exists && !mDatabase.prepare("SELECT FILENAME,DATA FROM " + quoted(DB_Table::Resources)).isValid()) {
+    mReport.setWrongLayout(DB_Table::Resources);
+    mWrongLayouts.push_back(DB_Table::Resources);
+  }
+}
+
 void ProjectDatabase::readAll() {
   readAddresses();
   for (const Single& single : singles()) {
@@ -238,6 +262,7 @@ void ProjectDatabase::readAll() {
   };
   readPages(mWidgetPages, DB_Table::Visu_Pages, DB_Table::Visu_Elements);
   readPages(mFbPages, DB_Table::Logic_Pages, DB_Table::Logic_Blocks);
+  checkResourceTable();
 }
 
 DB_Widget* ProjectDatabase::findWidgetByName(const QString& name) const {

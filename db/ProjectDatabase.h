@@ -116,6 +116,9 @@ signals:
 
 private:
   bool open(const QString& path, DB_Sqlite::Mode mode);
+  int noteMissingTables();
+  bool convertOlderLayout(const QString& path);
+  void checkResourceTable();
   void createTables();
   bool repairLayouts();
   [[nodiscard]] QByteArray rowData(DB_Table table, QByteArrayView scrambled);
@@ -131,11 +134,13 @@ private:
   template <class Page>
   bool writePages(DB_Table pageTable, DB_Table childTable, const DB_Page_List<Page>& list);
   bool writeOrphans(DB_Table table, DB_Statement& insert);
+  bool beginTable(DB_Table table);
   bool emptyTable(DB_Table table);
   [[nodiscard]] DB_Statement prepareInsert(DB_Table table);
   bool writeRow(DB_Statement& insert, const QByteArray& data);
   bool fail(const QString& text);
   bool checkResourceName(const QString& name);
+  bool deleteResource(const QString& name);
 
   DB_Load_Report mReport;
   /// DATA texts of children whose parent is missing, by table: kept and written again.

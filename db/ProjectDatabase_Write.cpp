@@ -20,7 +20,9 @@ DB_Statement ProjectDatabase::prepareInsert(DB_Table table) {
 }
 
 bool ProjectDatabase::writeRow(DB_Statement& insert, const QByteArray& data) {
-  if (!insert.isValid()) {
+  // On a full disk the engine itself takes the transaction back; rows written after that would stand beside the old
+  // ones.
+  if (!insert.isValid() || !mDatabase.isInTransaction()) {
     return false;
   }
   const QByteArray scrambled = DB_Scramble::scramble(data);
@@ -32,6 +34,10 @@ bool ProjectDatabase::writeRow(DB_Statement& insert, const QByteArray& data) {
   return isDone;
 }
 
+bool ProjectDatabase::beginTable(DB_Table table) {
+  return mDatabase.isInTransaction() && emptyTable(table);
+}
+
 bool ProjectDatabase::emptyTable(DB_Table table) {
   return mDatabase.execute("DELETE FROM " + quoted(table)) || fail(mDatabase.errorText());
 }
@@ -39,6 +45,9 @@ bool ProjectDatabase::emptyTable(DB_Table table) {
 bool ProjectDatabase::writeSingle(DB_Table table, const DB_Data_Base& record) {
   if (!mDatabase.isOpen()) {
     return fail(QStringLiteral("Database not open"));
+  }
+  if (!mDatabase.isInTransaction()) {
+    return false;
   }
   mDatabase.execute("DELETE FROM " + quoted(table));
   mLastError.clear();
@@ -57,7 +66,7 @@ bool ProjectDatabase::writeOrphans(DB_Table table, DB_Statement& insert) {
 bool ProjectDatabase::writeAddresses() {
   bool isOk = true;
   for (const DB_Table table : {DB_Table::Main_Groups, DB_Table::Middle_Groups, DB_Table::Sub_Groups}) {
-    isOk = emptyTable(table) && isOk;
+    isOk = beginTable(table) && isOk;
   }
   DB_Statement insertMain = prepareInsert(DB_Table::Main_Groups);
   DB_Statement insertMiddle = prepareInsert(DB_Table::Middle_Groups);
@@ -78,8 +87,8 @@ bool ProjectDatabase::writeAddresses() {
 
 template <class Page>
 bool ProjectDatabase::writePages(DB_Table pageTable, DB_Table childTable, const DB_Page_List<Page>& list) {
-  bool isOk = emptyTable(childTable);
-  isOk = emptyTable(pageTable) && isOk;
+  bool isOk = beginTable(childTable);
+  isOk = beginTable(pageTable) && isOk;
   DB_Statement insertPage = prepareInsert(pageTable);
   DB_Statement insertChild = prepareInsert(childTable);
   for (const auto& page : list.pages()) {
@@ -169,11 +178,15 @@ bool ProjectDatabase::ressourceWriteRaw(const QString& name, const QByteArray& b
   if (bytes.isEmpty()) {
     return fail(QStringLiteral("ressourceWriteRaw: Error size/data"));
   }
-  if (!checkResourceName(name) || !ressourceDelete(name)) {
+  if (!checkResourceName(name)) {
     return false;
   }
   mLastError.clear();
   mDatabase.execute("BEGIN TRANSACTION");
+  if (!deleteResource(name)) {
+    mDatabase.execute("ROLLBACK TRANSACTION");
+    return false;
+  }
   DB_Statement insert = mDatabase.prepare("INSERT INTO " + quoted(DB_Table::Resources) + "(FILENAME,DATA) VALUES(?,?)");
   const QByteArray nameBytes = name.toUtf8();
   const bool isDone = insert.isValid() && insert.bindText(1, nameBytes) && insert.bindBlob(2, bytes) &&
@@ -215,15 +228,22 @@ bool ProjectDatabase::ressourceReadRaw(const QString& name, QByteArray& bytes) {
   return fail(mDatabase.errorText());
 }
 
+bool ProjectDatabase::deleteResource(const QString& name) {
+  DB_Statement statement = mDatabase.prepare("DELETE FROM " + quoted(DB_Table::Resources) + " WHERE FILENAME = ?");
+  const QByteArray nameBytes = name.toUtf8();
+  if (!statement.isValid() || !statement.bindText(1, nameBytes) || statement.step() != DB_Statement::Step::Done) {
+    return fail(mDatabase.errorText());
+  }
+  return true;
+}
+
 bool ProjectDatabase::ressourceDelete(const QString& name) {
   if (!mDatabase.isOpen()) {
     return fail(QStringLiteral("Database not open"));
   }
   mLastError.clear();
-  DB_Statement statement = mDatabase.prepare("DELETE FROM " + quoted(DB_Table::Resources) + " WHERE FILENAME = ?");
-  const QByteArray nameBytes = name.toUtf8();
-  if (!statement.isValid() || !statement.bindText(1, nameBytes) || statement.step() != DB_Statement::Step::Done) {
-    return fail(mDatabase.errorText());
+  if (!deleteResource(name)) {
+    return false;
   }
   emit resourcesChanged();
   return true;
