@@ -1,5 +1,7 @@
 #include "db/DB_Data_Reader.h"
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <cstring>
 
@@ -8,33 +10,72 @@ namespace {
 /// Above so many looked-at marks a search index is made, so that long lists decode in linear time.
 constexpr qsizetype cWorkBeforeIndex = 20'000;
 
+constexpr qsizetype cTailSize = 4;
+
+/// The last four bytes, the very last one highest; zeros stand for what a shorter text lacks.
+quint32 tailOf(const char* begin, const char* end) {
+  if (end - begin >= cTailSize) {
+    return qFromLittleEndian<quint32>(end - cTailSize);
+  }
+  quint32 tail = 0;
+  for (; begin != end; ++begin) {
+    tail = tail >> 8 | quint32(static_cast<quint8>(*begin)) << 24;
+  }
+  return tail;
+}
+
 } // namespace
 
-DB_Data_Reader::DB_Data_Reader(QByteArrayView text) : mText(text) {
-  const char* const begin = text.data();
-  const char* const end = begin + text.size();
+/// Null when the byte is not there.
+const char* DB_Data_Reader::findByte(char byte, qsizetype from, qsizetype to) const {
+  return static_cast<const char*>(std::memchr(mText.data() + from, byte, static_cast<size_t>(to - from)));
+}
+
+/// The usual case, that the next item is the wanted one: nothing before it can be a hit, because the value found last
+/// holds no mark. Everything else is left to the search.
+std::optional<QByteArrayView> DB_Data_Reader::findNext(QByteArrayView key) {
+  const qsizetype mark = mInOrder + key.size();
+  if (mark >= mText.size() || mText[mark] != cKeyEnd || !endsAt(key, mark, mInOrder)) {
+    return std::nullopt;
+  }
+  const char* const end = findByte(cValueEnd, mark + 1, mText.size());
+  if (!end || findByte(cKeyEnd, mark + 1, end - mText.data())) {
+    return std::nullopt;
+  }
+  mCursor = mark + 1;
+  mInOrder = end - mText.data() + 1;
+  return mText.sliced(mCursor, mInOrder - 1 - mCursor);
+}
+
+void DB_Data_Reader::findMarks() {
+  const char* const begin = mText.data();
+  const char* const end = begin + mText.size();
   for (const char* at = begin; at < end; ++at) {
-    at = static_cast<const char*>(std::memchr(at, cKeyEnd, static_cast<size_t>(end - at)));
+    at = findByte(cKeyEnd, at - begin, mText.size());
     if (!at) {
       break;
     }
     mMarks.append(static_cast<quint32>(at - begin));
+    mTails.append(tailOf(begin, at));
+    mUsed.append(at - begin < mInOrder);
   }
-  mUsed.resize(mMarks.size());
-  std::fill(mUsed.begin(), mUsed.end(), false);
+  mNextMark = mUsedCount = std::count(mUsed.cbegin(), mUsed.cend(), true);
+  mHasMarks = true;
 }
 
-bool DB_Data_Reader::endsAt(QByteArrayView key, quint32 mark, qsizetype from) const {
-  const qsizetype start = qsizetype(mark) - key.size();
-  return start >= from && mText[mark - 1] == key.back() &&
-         std::memcmp(mText.data() + start, key.data(), static_cast<size_t>(key.size())) == 0;
+bool DB_Data_Reader::endsAt(QByteArrayView key, qsizetype mark, qsizetype from) const {
+  const qsizetype start = mark - key.size();
+  return start >= from && std::memcmp(mText.data() + start, key.data(), static_cast<size_t>(key.size())) == 0;
 }
 
 /// From the mark at `fromMark` on; a negative result is a miss.
 qsizetype DB_Data_Reader::scan(QByteArrayView key, qsizetype fromMark) {
   const qsizetype from = fromMark == 0 ? 0 : mCursor;
+  const quint32 mask = key.size() < cTailSize ? ~quint32(0) << 8 * (cTailSize - key.size()) : ~quint32(0);
+  const quint32 tail = tailOf(key.data(), key.data() + key.size());
+  const quint32* const tails = mTails.constData();
   for (qsizetype i = fromMark; i < mMarks.size(); ++i) {
-    if (endsAt(key, mMarks[i], from)) {
+    if ((tails[i] & mask) == tail && endsAt(key, mMarks[i], from)) {
       mWork += i - fromMark;
       return i;
     }
@@ -102,24 +143,28 @@ qsizetype DB_Data_Reader::lookUp(QByteArrayView key, qsizetype fromMark) {
   return best;
 }
 
+/// From the cursor, then from the beginning; a negative result is a miss.
+qsizetype DB_Data_Reader::search(QByteArrayView key) {
+  const bool isIndexed = mWork > cWorkBeforeIndex;
+  const auto searchFrom = [&](qsizetype mark) { return isIndexed ? lookUp(key, mark) : scan(key, mark); };
+  const qsizetype at = searchFrom(mNextMark);
+  return at < 0 && mNextMark > 0 ? searchFrom(0) : at;
+}
+
 std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {
-  const bool indexed = mWork > cWorkBeforeIndex;
-  // Only the very next item is tried before the index is asked: in order is the usual case.
-  const bool isNext = indexed && mNextMark < mMarks.size() && endsAt(key, mMarks[mNextMark], mCursor);
-  const auto search = [&](qsizetype fromMark) {
-    if (isNext && fromMark == mNextMark) {
-      return mNextMark;
+  if (!mHasMarks) {
+    if (const std::optional<QByteArrayView> value = findNext(key)) {
+      return value;
     }
-    return indexed ? lookUp(key, fromMark) : scan(key, fromMark);
-  };
-  qsizetype at = search(mNextMark);
-  if (at < 0 && mNextMark > 0) {
-    at = search(0);
+    findMarks();
   }
+  // In order is the usual case, so the very next item is tried before anything is searched.
+  const bool isNext = mNextMark < mMarks.size() && endsAt(key, mMarks[mNextMark], mCursor);
+  const qsizetype at = isNext ? mNextMark : search(key);
   if (at >= 0) {
     const qsizetype valueStart = qsizetype(mMarks[at]) + 1;
-    const qsizetype valueEnd = mText.indexOf(cValueEnd, valueStart);
-    if (valueEnd >= 0) {
+    if (const char* const end = findByte(cValueEnd, valueStart, mText.size())) {
+      const qsizetype valueEnd = end - mText.data();
       const qsizetype start = qsizetype(mMarks[at]) - key.size();
       const bool isWholeKey = start == 0 || mText[start - 1] == cValueEnd;
       if (isWholeKey && !mUsed[at]) {
@@ -136,7 +181,16 @@ std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {
   return std::nullopt;
 }
 
+bool DB_Data_Reader::hasUnusedItems() const {
+  return mHasMarks ? mUsedCount < mMarks.size() : findByte(cKeyEnd, mInOrder, mText.size()) != nullptr;
+}
+
 std::vector<DB_Data_Reader::Item> DB_Data_Reader::unusedItems() const {
+  if (!mHasMarks) {
+    DB_Data_Reader other(*this);
+    other.findMarks();
+    return other.unusedItems();
+  }
   std::vector<Item> items;
   for (qsizetype i = 0; i < mMarks.size(); ++i) {
     if (mUsed[i]) {

@@ -4,6 +4,7 @@
 #include <QByteArrayView>
 #include <QVarLengthArray>
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -20,7 +21,7 @@ public:
   static constexpr char cKeyEnd = '\x02';
   static constexpr char cValueEnd = '\x03';
 
-  explicit DB_Data_Reader(QByteArrayView text);
+  explicit DB_Data_Reader(QByteArrayView text) : mText(text) {}
 
   /// The value of the item with that key; empty when the key is missing or its value is not terminated. An empty value
   /// is a found one. `key` holds neither marker byte and is not empty.
@@ -28,10 +29,10 @@ public:
 
   [[nodiscard]] qsizetype cursor() const { return mCursor; }
   [[nodiscard]] qsizetype size() const { return mText.size(); }
-  [[nodiscard]] qsizetype itemCount() const { return mMarks.size(); }
+  [[nodiscard]] qsizetype itemCount() const { return std::count(mText.begin(), mText.end(), cKeyEnd); }
 
   /// True while some terminated item has not yet been found under its whole key.
-  [[nodiscard]] bool hasUnusedItems() const { return mUsedCount < mMarks.size(); }
+  [[nodiscard]] bool hasUnusedItems() const;
 
   struct Item {
     QByteArrayView mKey;
@@ -41,14 +42,21 @@ public:
   [[nodiscard]] std::vector<Item> unusedItems() const;
 
 private:
+  [[nodiscard]] std::optional<QByteArrayView> findNext(QByteArrayView key);
+  [[nodiscard]] const char* findByte(char byte, qsizetype from, qsizetype to) const;
+  void findMarks();
   [[nodiscard]] qsizetype scan(QByteArrayView key, qsizetype fromMark);
   [[nodiscard]] qsizetype lookUp(QByteArrayView key, qsizetype fromMark);
-  [[nodiscard]] bool endsAt(QByteArrayView key, quint32 mark, qsizetype from) const;
+  [[nodiscard]] qsizetype search(QByteArrayView key);
+  [[nodiscard]] bool endsAt(QByteArrayView key, qsizetype mark, qsizetype from) const;
   [[nodiscard]] QByteArrayView keyBefore(quint32 mark) const;
   void buildIndex();
 
   QByteArrayView mText;
+  qsizetype mInOrder = 0; ///< end of the items found one after the other, as they stand, from the beginning on
+  bool mHasMarks = false; ///< the members below are valid; they are not needed while items are found in order
   QVarLengthArray<quint32, 256> mMarks; ///< positions of all 0x02, ascending
+  QVarLengthArray<quint32, 256> mTails; ///< of each mark the four bytes before it
   QVarLengthArray<bool, 256> mUsed;
   std::vector<quint32> mByReversedKey; ///< indices into mMarks; filled only when misses get costly
   qsizetype mUsedCount = 0;

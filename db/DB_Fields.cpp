@@ -1,5 +1,7 @@
 #include "db/DB_Fields.h"
 
+#include <QtEndian>
+
 #include <charconv>
 #include <limits>
 
@@ -10,8 +12,11 @@ constexpr qsizetype cRepeatedValuesLimit = 16 * 1024 * 1024;
 
 /// The toolkit takes a leading byte order mark away, but a text that begins with one must stay as it is.
 QString fromUtf8(QByteArrayView bytes) {
-  const QString text = QString::fromUtf8(bytes);
-  return bytes.startsWith("\xef\xbb\xbf") ? QChar(QChar::ByteOrderMark) + text : text;
+  QString text = QString::fromUtf8(bytes);
+  if (bytes.startsWith("\xef\xbb\xbf")) {
+    text.prepend(QChar(QChar::ByteOrderMark));
+  }
+  return text;
 }
 
 /// Texts from outside may carry the marker bytes, which would end an item early: they are left out.
@@ -33,6 +38,44 @@ void appendNumber(QByteArray& data, Number number) {
   std::array<char, 32> buffer{};
   const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
   data.append(buffer.data(), result.ptr - buffer.data());
+}
+
+constexpr quint8 cNoDigit = 0xff;
+
+constexpr std::array<quint8, 256> makeHexValues() {
+  std::array<quint8, 256> values{};
+  values.fill(cNoDigit);
+  for (quint8 i = 0; i < 16; ++i) {
+    values[static_cast<quint8>("0123456789abcdef"[i])] = i;
+    values[static_cast<quint8>("0123456789ABCDEF"[i])] = i;
+  }
+  return values;
+}
+constexpr std::array<quint8, 256> cHexValues = makeHexValues();
+
+/// A large project holds half a million of them: the form in which we write them is read without Qt's general parser.
+QUuid parseUuid(QByteArrayView text) {
+  quint8 digits = 0;
+  const auto hex = [&](qsizetype from, qsizetype size) {
+    quint64 number = 0;
+    for (qsizetype i = from; i < from + size; ++i) {
+      const quint8 digit = cHexValues[static_cast<quint8>(text[i])];
+      digits |= digit;
+      number = number << 4 | digit;
+    }
+    return number;
+  };
+  if (text.size() == 36 && text[8] == '-' && text[13] == '-' && text[18] == '-' && text[23] == '-') {
+    QUuid uuid;
+    uuid.data1 = static_cast<uint>(hex(0, 8));
+    uuid.data2 = static_cast<ushort>(hex(9, 4));
+    uuid.data3 = static_cast<ushort>(hex(14, 4));
+    qToBigEndian(hex(19, 4) << 48 | hex(24, 12), uuid.data4);
+    if (digits < 16) {
+      return uuid;
+    }
+  }
+  return QUuid::fromString(QLatin1StringView(text));
 }
 
 /// The key without the index suffixes at its end.
@@ -83,11 +126,14 @@ QByteArrayView DB_Fields::fullKey(Key key) {
   if (mPrefix.isEmpty() && mSuffix.isEmpty()) {
     return {key.data(), keySize};
   }
-  mFullKey.resize(mPrefix.size() + keySize + mSuffix.size());
+  const qsizetype size = mPrefix.size() + keySize + mSuffix.size();
+  if (mFullKey.size() < size) {
+    mFullKey.resize(size);
+  }
   char* out = std::copy(mPrefix.cbegin(), mPrefix.cend(), mFullKey.data());
   out = std::copy(key.begin(), key.end(), out);
   std::copy(mSuffix.cbegin(), mSuffix.cend(), out);
-  return {mFullKey.data(), mFullKey.size()};
+  return {mFullKey.data(), size};
 }
 
 std::optional<QByteArrayView> DB_Fields::find(Key key) {
@@ -123,7 +169,13 @@ void DB_Fields::beginItem(Key key) {
 void DB_Fields::text(Key key, QString& value, const QString& defaultValue) {
   if (mReader) {
     const std::optional<QByteArrayView> found = find(key);
-    value = found ? fromUtf8(*found) : defaultValue;
+    if (!found) {
+      value = defaultValue;
+    } else if (found->isEmpty()) {
+      value.clear();
+    } else {
+      value = fromUtf8(*found);
+    }
   } else if (mWriter) {
     beginItem(key);
     appendText(*mWriter, value);
@@ -203,7 +255,7 @@ void DB_Fields::real(Key key, double& value, double defaultValue) {
 void DB_Fields::uuid(Key key, QUuid& value) {
   if (mReader) {
     const std::optional<QByteArrayView> found = find(key);
-    value = found && !found->isEmpty() ? QUuid::fromString(QLatin1StringView(*found)) : QUuid();
+    value = found && !found->isEmpty() ? parseUuid(*found) : QUuid();
   } else if (mWriter) {
     beginItem(key);
     if (!value.isNull()) {

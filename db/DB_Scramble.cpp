@@ -1,22 +1,33 @@
 #include "db/DB_Scramble.h"
 
+#include <QtEndian>
+
 #include <array>
 
 namespace {
 
 constexpr char cAlphabet[] = "zKv0yh4CGuOkBE+U1mbgXtiZTPVnH6ARdex/JMSDwf9YarQ5qjlLIpoc28Ws7F3N";
 constexpr char cPadding = '!';
-constexpr quint8 cForeign = 0xff;
+constexpr quint32 cForeign = 0x8000'0000;
+using Values = std::array<quint32, 256>;
 
-constexpr std::array<quint8, 256> makeValues() {
-  std::array<quint8, 256> values{};
-  values.fill(cForeign);
-  for (quint8 i = 0; i < 64; ++i) {
-    values[static_cast<quint8>(cAlphabet[i])] = i;
+/// The bits of every character, already at their place for the first, second, third and last one of a group: so a
+/// group is put together without shifting.
+constexpr std::array<Values, 4> makeValues() {
+  std::array<Values, 4> places{};
+  for (quint32 place = 0; place < 4; ++place) {
+    places[place].fill(cForeign);
+    for (quint32 i = 0; i < 64; ++i) {
+      places[place][static_cast<quint8>(cAlphabet[i])] = i << (18 - 6 * place);
+    }
   }
-  return values;
+  return places;
 }
-constexpr std::array<quint8, 256> cValues = makeValues();
+constexpr std::array<Values, 4> cValues = makeValues();
+
+quint32 group(const quint8* in) {
+  return cValues[0][in[0]] | cValues[1][in[1]] | cValues[2][in[2]] | cValues[3][in[3]];
+}
 
 /// Two characters for every 12 bits: half as many look-ups as one by one.
 constexpr std::array<std::array<char, 2>, 4096> makePairs() {
@@ -60,25 +71,30 @@ QByteArray DB_Scramble::unscramble(QByteArrayView scrambled, bool* isWhole) {
   const auto* const end = in + scrambled.size();
   auto* out = reinterpret_cast<quint8*>(result.data());
   const auto* const outBegin = out;
-  while (end - in >= 4) {
-    const quint8 a = cValues[in[0]];
-    const quint8 b = cValues[in[1]];
-    const quint8 c = cValues[in[2]];
-    const quint8 d = cValues[in[3]];
-    if ((a | b | c | d) > 63) {
+  // Whole machine words are written; what is too much of them is written over by the next group, or cut off.
+  while (end - in >= 8) {
+    const quint32 first = group(in);
+    const quint32 second = group(in + 4);
+    if ((first | second) & cForeign) {
       break;
     }
-    const quint32 bits = quint32(a) << 18 | quint32(b) << 12 | quint32(c) << 6 | d;
-    out[0] = static_cast<quint8>(bits >> 16);
-    out[1] = static_cast<quint8>(bits >> 8);
-    out[2] = static_cast<quint8>(bits);
+    qToBigEndian(quint64(first) << 40 | quint64(second) << 16, out);
+    in += 8;
+    out += 6;
+  }
+  while (end - in >= 4) {
+    const quint32 bits = group(in);
+    if (bits & cForeign) {
+      break;
+    }
+    qToBigEndian(bits << 8, out);
     in += 4;
     out += 3;
   }
   quint32 bits = 0;
-  int count = 0;
-  while (in < end && count < 4 && cValues[*in] != cForeign) {
-    bits |= quint32(cValues[*in++]) << (18 - 6 * count++);
+  size_t count = 0;
+  while (in < end && count < 4 && cValues[count][*in] != cForeign) {
+    bits |= cValues[count++][*in++];
   }
   if (count >= 2) {
     *out++ = static_cast<quint8>(bits >> 16);

@@ -144,17 +144,27 @@ bool Project_Session::publish(const QString& path) {
 Project_Session::Save_Result Project_Session::writeTo(const QString& path) {
   mLastError.clear();
   mHistory.commit();
-  mDatabase.mProject.mName = QFileInfo(path).completeBaseName();
-  mDatabase.mProject.mVersion = Version::studio();
+  DB_Project& project = mDatabase.mProject;
+  const DB_Project before = project;
+  project.mName = QFileInfo(path).completeBaseName();
+  project.mVersion = Version::studio();
+  Save_Result result = Save_Result::Saved;
   if (!mDatabase.recordWriteAll(true)) {
     fail(mDatabase.lastError());
-    return Save_Result::WriteFailed;
+    result = Save_Result::WriteFailed;
+  } else {
+    if (!mDatabase.execute("VACUUM")) {
+      // The file is whole without it, only larger than it need be.
+      std::printf("VACUUM: %s\n", qPrintable(mDatabase.lastError()));
+    }
+    if (!publish(path)) {
+      result = Save_Result::PublishFailed;
+    }
   }
-  if (!mDatabase.execute("VACUUM")) {
-    // The file is whole without it, only larger than it need be.
-    std::printf("VACUUM: %s\n", qPrintable(mDatabase.lastError()));
+  if (result != Save_Result::Saved) {
+    project = before;
   }
-  return publish(path) ? Save_Result::Saved : Save_Result::PublishFailed;
+  return result;
 }
 
 Project_Session::Save_Result Project_Session::save() {
@@ -176,10 +186,8 @@ Project_Session::Save_Result Project_Session::saveAs(const QString& path) {
     fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(Working_Copy::pathFor(absolutePath)));
     return Save_Result::PublishFailed;
   }
-  const QString oldName = mDatabase.mProject.mName;
   const Save_Result result = writeTo(absolutePath);
   if (result != Save_Result::Saved) {
-    mDatabase.mProject.mName = oldName;
     return result;
   }
   mDatabase.detach();
