@@ -28,38 +28,53 @@ quint32 tailOf(const char* begin, const char* end) {
 
 /// Null when the byte is not there.
 const char* DB_Data_Reader::findByte(char byte, qsizetype from, qsizetype to) const {
+  if (from >= to) {
+    return nullptr;
+  }
   return static_cast<const char*>(std::memchr(mText.data() + from, byte, static_cast<size_t>(to - from)));
 }
 
+/// Most values are so short that a loop is faster than a call.
+const char* DB_Data_Reader::findValueEnd(qsizetype from) const {
+  const qsizetype near = std::min(from + 4, mText.size());
+  for (; from < near; ++from) {
+    if (mText[from] == cValueEnd) {
+      return mText.data() + from;
+    }
+  }
+  return findByte(cValueEnd, from, mText.size());
+}
+
 /// The usual case, that the next item is the wanted one: nothing before it can be a hit, because the value found last
-/// holds no mark. Everything else is left to the search.
-std::optional<QByteArrayView> DB_Data_Reader::findNext(QByteArrayView key) {
+/// holds no mark. The result is where the value ends; a negative one leaves the key to the search.
+qsizetype DB_Data_Reader::findNext(QByteArrayView key) {
   const qsizetype mark = mInOrder + key.size();
   if (mark >= mText.size() || mText[mark] != cKeyEnd || !endsAt(key, mark, mInOrder)) {
-    return std::nullopt;
+    return -1;
   }
-  const char* const end = findByte(cValueEnd, mark + 1, mText.size());
+  const char* const end = findValueEnd(mark + 1);
   if (!end || findByte(cKeyEnd, mark + 1, end - mText.data())) {
-    return std::nullopt;
+    return -1;
   }
   mCursor = mark + 1;
   mInOrder = end - mText.data() + 1;
-  return mText.sliced(mCursor, mInOrder - 1 - mCursor);
+  return mInOrder - 1;
 }
 
 void DB_Data_Reader::findMarks() {
-  const char* const begin = mText.data();
-  const char* const end = begin + mText.size();
-  for (const char* at = begin; at < end; ++at) {
-    at = findByte(cKeyEnd, at - begin, mText.size());
-    if (!at) {
-      break;
-    }
-    mMarks.append(static_cast<quint32>(at - begin));
-    mTails.append(tailOf(begin, at));
-    mUsed.append(at - begin < mInOrder);
+  qsizetype from = 0;
+  while (const char* const at = findByte(cKeyEnd, from, mText.size())) {
+    from = at - mText.data();
+    mNextMark += from < mInOrder ? 1 : 0;
+    mMarks.append(static_cast<quint32>(from++));
   }
-  mNextMark = mUsedCount = std::count(mUsed.cbegin(), mUsed.cend(), true);
+  mUsedCount = mNextMark;
+  mUsed.resize(mMarks.size());
+  std::fill(mUsed.begin(), mUsed.begin() + mUsedCount, true);
+  std::fill(mUsed.begin() + mUsedCount, mUsed.end(), false);
+  mTails.resize(mMarks.size());
+  std::transform(mMarks.cbegin(), mMarks.cend(), mTails.begin(),
+                 [this](quint32 mark) { return tailOf(mText.data(), mText.data() + mark); });
   mHasMarks = true;
 }
 
@@ -153,8 +168,8 @@ qsizetype DB_Data_Reader::search(QByteArrayView key) {
 
 std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {
   if (!mHasMarks) {
-    if (const std::optional<QByteArrayView> value = findNext(key)) {
-      return value;
+    if (const qsizetype end = findNext(key); end >= 0) {
+      return mText.sliced(mCursor, end - mCursor);
     }
     findMarks();
   }
@@ -163,7 +178,7 @@ std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {
   const qsizetype at = isNext ? mNextMark : search(key);
   if (at >= 0) {
     const qsizetype valueStart = qsizetype(mMarks[at]) + 1;
-    if (const char* const end = findByte(cValueEnd, valueStart, mText.size())) {
+    if (const char* const end = findValueEnd(valueStart)) {
       const qsizetype valueEnd = end - mText.data();
       const qsizetype start = qsizetype(mMarks[at]) - key.size();
       const bool isWholeKey = start == 0 || mText[start - 1] == cValueEnd;
