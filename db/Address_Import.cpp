@@ -28,7 +28,8 @@ struct Names {
   QSet<int> mWantedMiddle;
 };
 
-/// Ranges come outer before inner, so an inner one overwrites what an outer one said of the same group.
+/// Ranges come outer before inner: of those inside one group the outermost is the group's own, of those that span
+/// several groups the innermost names what has no own one.
 Names namesOf(const std::vector<Ets_Groups::Range>& ranges) {
   Names names;
   for (const Ets_Groups::Range& range : ranges) {
@@ -38,9 +39,11 @@ Names namesOf(const std::vector<Ets_Groups::Range>& ranges) {
     const int firstMiddle = range.mStart / cMiddleSpan;
     const int lastMiddle = range.mEnd / cMiddleSpan;
     if (firstMiddle == lastMiddle && range.mDepth > 0) {
-      names.mMiddle.insert(firstMiddle, name);
-      names.mWantedMiddle.insert(firstMiddle);
-      names.mWantedMain.insert(firstMain);
+      if (!names.mWantedMiddle.contains(firstMiddle)) {
+        names.mMiddle.insert(firstMiddle, name);
+        names.mWantedMiddle.insert(firstMiddle);
+        names.mWantedMain.insert(firstMain);
+      }
       continue;
     }
     for (int main = firstMain; main <= lastMain; ++main) {
@@ -107,14 +110,27 @@ public:
     group->mCentral = from.mCentral;
     group->mUnfiltered = from.mUnfiltered;
     group->mSecurity = from.mSecurity;
-    if (from.mStyle != Ets_Groups::Style::ThreeLevel) {
-      group->mOrigin = from.mText;
-    }
+    group->mOrigin = originOf(from);
     const DB_Address_Sub_Group* const added = mTree.add(std::move(group));
     mScope.created(mSession.addressUndo(), added->mKey);
   }
 
 private:
+  /// What of the export's own structure the three levels cannot show: another way of writing, further ranges.
+  [[nodiscard]] QString originOf(const Ets_Groups::Address& from) const {
+    const QString main = mTree.mainGroup(from.mAddress.main())->mName;
+    const QString middle = mTree.middleGroup(from.mAddress.main(), from.mAddress.middle())->mName;
+    QStringList origin;
+    if (from.mStyle != Ets_Groups::Style::ThreeLevel) {
+      origin.append(from.mText);
+    }
+    const QString path = middle.isEmpty() ? main : main + QStringLiteral(" / ") + middle;
+    if (!from.mRangePath.isEmpty() && from.mRangePath != path) {
+      origin.append(from.mRangePath);
+    }
+    return origin.join(QStringLiteral(", "));
+  }
+
   Project_Session& mSession;
   Address_Tree& mTree;
   Edit_Scope& mScope;

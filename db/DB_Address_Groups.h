@@ -28,7 +28,7 @@ public:
   bool mCentral = false;
   bool mUnfiltered = false;
   QString mSecurity; ///< of an import: "Auto", "On", "Off"
-  QString mOrigin;   ///< address as the import wrote it when it was not of three levels; empty otherwise
+  QString mOrigin;   ///< of an import whose structure is not of three levels: the address as written there, its ranges
 };
 
 class DB_Address_Middle_Group : public DB_Record<DB_Address_Middle_Group> {

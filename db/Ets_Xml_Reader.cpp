@@ -59,9 +59,8 @@ public:
       const QXmlStreamReader::TokenType token = mXml.readNext();
       if (token == QXmlStreamReader::StartElement) {
         startElement();
-        ++mDepth;
       } else if (token == QXmlStreamReader::EndElement) {
-        --mDepth;
+        mPaths.removeLast();
       } else if (token == QXmlStreamReader::DTD) {
         // No export has one, and entities are the way to blow a small file up.
         mError = tr("Die Datei enthält eine Dokumenttyp-Deklaration und wird nicht gelesen.");
@@ -77,26 +76,31 @@ public:
 private:
   void startElement() {
     const QStringView name = mXml.name();
-    if (mDepth == 0) {
+    const qsizetype depth = mPaths.size();
+    QString path = mPaths.value(depth - 1);
+    if (depth == 0) {
       const bool isOurs =
           name == u"GroupAddress-Export" && (mXml.namespaceUri().isEmpty() || mXml.namespaceUri() == cNamespace);
       if (!isOurs) {
         mError = tr("Die Datei ist kein ETS-Export von Gruppenadressen.");
       }
-    } else if (mDepth > Ets_Xml_Reader::cDepthLimit) {
+    } else if (depth > Ets_Xml_Reader::cDepthLimit) {
       mError = tr("Die Elemente sind tiefer als %1-fach verschachtelt (Zeile %2).")
                    .arg(Ets_Xml_Reader::cDepthLimit)
                    .arg(mXml.lineNumber());
     } else if (name == u"GroupRange") {
-      range();
+      const QString rangeName = attribute(mXml.attributes(), u"Name");
+      path = path.isEmpty() ? rangeName : path + QStringLiteral(" / ") + rangeName;
+      range(static_cast<int>(depth) - 1);
     } else if (name == u"GroupAddress") {
       address();
     } else {
       fault(tr("unbekanntes Element \"%1\"").arg(name.left(40).toString()));
     }
+    mPaths.append(path);
   }
 
-  void range() {
+  void range(int depth) {
     const QXmlStreamAttributes attributes = mXml.attributes();
     Ets_Groups::Range range;
     range.mName = attribute(attributes, u"Name");
@@ -105,7 +109,7 @@ private:
     bool isEndOk = false;
     range.mStart = attributes.value(QStringLiteral("RangeStart")).toInt(&isStartOk);
     range.mEnd = attributes.value(QStringLiteral("RangeEnd")).toInt(&isEndOk);
-    range.mDepth = mDepth - 1;
+    range.mDepth = depth;
     if (!isStartOk || !isEndOk || range.mStart < 0 || range.mEnd > cNumberMax || range.mStart > range.mEnd) {
       fault(tr("der Bereich \"%1\" hat keine gültigen Grenzen (0..65535)").arg(range.mName.left(40)));
       return;
@@ -125,6 +129,7 @@ private:
     }
     address.mAddress = *parsed;
     address.mStyle = styleOf(address.mText);
+    address.mRangePath = mPaths.last();
     address.mName = attribute(attributes, u"Name");
     address.mDescription = attribute(attributes, u"Description");
     address.mDpts = attribute(attributes, u"DPTs");
@@ -144,7 +149,7 @@ private:
   QXmlStreamReader mXml;
   Ets_Groups& mGroups;
   QString mError;
-  int mDepth = 0;
+  QStringList mPaths; ///< of each open element, the names of the ranges down to it
 };
 
 } // namespace

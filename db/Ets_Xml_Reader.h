@@ -25,7 +25,8 @@ struct Ets_Groups {
   struct Address {
     Group_Address mAddress;
     Style mStyle = Style::ThreeLevel;
-    QString mText; ///< as the file writes the address
+    QString mText;      ///< as the file writes the address
+    QString mRangePath; ///< names of the ranges around it, outer first, divided by " / "
     QString mName;
     QString mDescription;
     QString mDpts;    ///< as the file lists the types

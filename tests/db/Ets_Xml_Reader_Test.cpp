@@ -1,0 +1,228 @@
+#include "db/Address_Import.h"
+#include "db/Ets_Xml_Reader.h"
+#include "tests/db/Project_Dump.h"
+#include "tests/db/Session_Rig.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QRegularExpression>
+
+using Style = Ets_Groups::Style;
+
+namespace {
+
+const QByteArray cHead = "\xef\xbb\xbf<?xml version=\"1.0\" encoding=\"utf-8\" standalone=\"yes\"?>\r\n";
+const QByteArray cOpen = "<GroupAddress-Export xmlns=\"http://knx.org/xml/ga-export/01\">";
+const QByteArray cClose = "</GroupAddress-Export>";
+
+bool readBytes(const QByteArray& bytes, Ets_Groups& groups, QString& error) {
+  QBuffer buffer;
+  buffer.setData(bytes);
+  buffer.open(QIODevice::ReadOnly);
+  return Ets_Xml_Reader::read(buffer, groups, error);
+}
+
+QString unescaped(QString text) {
+  return text.replace(QStringLiteral("&lt;"), QStringLiteral("<"))
+      .replace(QStringLiteral("&gt;"), QStringLiteral(">"))
+      .replace(QStringLiteral("&quot;"), QStringLiteral("\""))
+      .replace(QStringLiteral("&apos;"), QStringLiteral("'"))
+      .replace(QStringLiteral("&amp;"), QStringLiteral("&"));
+}
+
+/// The names of one kind of element, found over the raw tags.
+QStringList namesInTags(const QString& text, const QString& element) {
+  const QRegularExpression tags(QStringLiteral("<!--.*?-->|<%1\\s[^>]*?\\bName=\"([^\"]*)\"").arg(element),
+                                QRegularExpression::DotMatchesEverythingOption);
+  QStringList names;
+  for (auto at = tags.globalMatch(text); at.hasNext();) {
+    const QRegularExpressionMatch match = at.next();
+    if (!match.captured(0).startsWith(u"<!--")) {
+      names.append(unescaped(match.captured(1)).simplified());
+    }
+  }
+  return names;
+}
+
+} // namespace
+
+class Ets_Xml_Reader_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  void addressesAreReadInEveryStyle_data() {
+    QTest::addColumn<QByteArray>("attributes");
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<int>("style");
+    QTest::addColumn<QString>("type");
+    const auto row = [](const char* name, const char* attributes, const char* address, Style style, const char* type) {
+      QTest::newRow(name) << QByteArray(attributes) << QString::fromLatin1(address) << int(style)
+                          << QString::fromLatin1(type);
+    };
+    row("three levels", "Address='1/2/3' DPTs='DPST-9-1'", "1/2/3", Style::ThreeLevel, "9.1");
+    row("two levels", "Address='1/258' DPTs='DPT-9'", "1/1/2", Style::TwoLevel, "9.0");
+    row("free", "Address='2305'", "1/1/1", Style::Free, "0.0");
+    row("hexadecimal", "Address='0x1fa3'", "3/7/163", Style::Free, "0.0");
+    row("dollar", "Address='$1FA3'", "3/7/163", Style::Free, "0.0");
+    row("last of a comma list", "Address='1/0/0' DPTs='DPST-1-1,DPST-1-6'", "1/0/0", Style::ThreeLevel, "1.6");
+    row("last of a blank list", "Address='1/0/0' DPTs='DPST-1-1 DPT-5'", "1/0/0", Style::ThreeLevel, "5.0");
+    row("foreign type", "Address='1/0/0' DPTs='EIS 5'", "1/0/0", Style::ThreeLevel, "0.0");
+  }
+
+  void addressesAreReadInEveryStyle() {
+    QFETCH(QByteArray, attributes);
+    QFETCH(QString, address);
+    QFETCH(int, style);
+    QFETCH(QString, type);
+    Ets_Groups groups;
+    QString error;
+    const QByteArray element = "<GroupAddress Name='  Licht \n &amp; mehr' Central='true' " + attributes + "/>";
+    QVERIFY2(readBytes(cHead + cOpen + element + cClose, groups, error), qPrintable(error));
+    QCOMPARE(groups.mAddresses.size(), size_t(1));
+    const Ets_Groups::Address& read = groups.mAddresses[0];
+    QCOMPARE(read.mAddress.toString(), address);
+    QCOMPARE(int(read.mStyle), style);
+    QCOMPARE(QStringLiteral("%1.%2").arg(read.mDptMain).arg(read.mDptSub), type);
+    QCOMPARE(read.mName, QStringLiteral("Licht & mehr"));
+    QVERIFY(read.mCentral);
+    QVERIFY(!read.mUnfiltered);
+  }
+
+  void aFaultyElementIsToldAndTheRestRead() {
+    Ets_Groups groups;
+    QString error;
+    const QByteArray body =
+        "\n<GroupRange Name='A' RangeStart='x' RangeEnd='2047'>\n<GroupAddress Name='gut' Address='0/0/1'/>\n"
+        "<GroupAddress Name='schlecht' Address='32/0/1'/>\n<Fremd/>\n<GroupAddress Name='ohne'/>\n</GroupRange>";
+    QVERIFY2(readBytes(cOpen + body + cClose, groups, error), qPrintable(error));
+    QCOMPARE(groups.mAddresses.size(), size_t(1));
+    QCOMPARE(groups.mRanges.size(), size_t(0));
+    QCOMPARE(groups.mFaults.size(), 4);
+    QVERIFY(groups.mFaults[0].startsWith(QStringLiteral("Zeile 2:")));
+    QVERIFY(groups.mFaults[1].startsWith(QStringLiteral("Zeile 4:")));
+    QVERIFY(groups.mFaults[1].contains(QStringLiteral("32/0/1")));
+  }
+
+  void whatIsNoExportIsRefused_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("text") << QByteArray("Haupt;Mittel;Unter\n1;2;3\n");
+    QTest::newRow("other root") << QByteArray("<Projekt/>");
+    QTest::newRow("other namespace") << QByteArray("<GroupAddress-Export xmlns='http://example.org'/>");
+    QTest::newRow("cut") << cOpen + "<GroupRange Name='A' RangeStart='1' RangeEnd='2047'><GroupAddr";
+    QTest::newRow("not closed") << cOpen + "<GroupAddress Name='A' Address='0/0/1'/>";
+    QTest::newRow("broken encoding") << cHead + cOpen + "<GroupAddress Name='\xff\xfe\xe4' Address='0/0/1'/>" + cClose;
+    QTest::newRow("binary") << QByteArray(4000, '\0');
+    QTest::newRow("too deep") << cOpen +
+                                     QByteArray("<GroupRange Name='A' RangeStart='1' RangeEnd='2'>").repeated(100'000);
+    QByteArray bomb = "<!DOCTYPE r [<!ENTITY a \"aaaaaaaaaa\">";
+    for (char c = 'b'; c <= 'k'; ++c) {
+      const char last[] = {char(c - 1), '\0'};
+      bomb += QByteArray("<!ENTITY ") + c + " \"" + (QByteArray("&") + last + ";").repeated(10) + "\">";
+    }
+    QTest::newRow("entity bomb") << bomb + "]>" + cOpen + "<GroupAddress Name='&k;' Address='0/0/1'/>" + cClose;
+  }
+
+  void whatIsNoExportIsRefused() {
+    QFETCH(QByteArray, bytes);
+    Ets_Groups groups;
+    QString error;
+    QVERIFY(!readBytes(bytes, groups, error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(groups.mAddresses.empty() && groups.mRanges.empty());
+  }
+
+  void importMakesGroupsOnceAndLeavesWhatIsThere() {
+    Session_Rig rig;
+    QVERIFY(rig.create());
+    rig.addAddress({1, 0, 5}, QStringLiteral("eigener Name"));
+    rig.mSession.history().clear();
+    Ets_Groups groups;
+    QString error;
+    const QByteArray body =
+        "<GroupRange Name='Licht' Description='alle' RangeStart='2048' RangeEnd='4095'>"
+        "<GroupRange Name='EG' RangeStart='2304' RangeEnd='2559'>"
+        "<GroupAddress Name='a' Address='1/1/0'/><GroupAddress Name='b' Address='1/1/0'/></GroupRange>"
+        "<GroupRange Name='leer' RangeStart='2560' RangeEnd='2815'/>"
+        "<GroupAddress Name='fremd' Address='1/0/5'/></GroupRange>"
+        "<GroupAddress Name='flach' Address='5/515'/>";
+    QVERIFY2(readBytes(cOpen + body + cClose, groups, error), qPrintable(error));
+    const QByteArray before = Project_Dump::project(rig.mSession.database());
+    Address_Import::Result result;
+    QVERIFY(Address_Import::addNew(rig.mSession, groups, result));
+    QCOMPARE(result.mAdded, 2);
+    QCOMPARE(result.mExisting, 1);
+    QCOMPARE(result.mRepeated, 1);
+    const Address_Tree& tree = rig.mSession.database().mAddresses;
+    QCOMPARE(tree.subGroup({1, 0, 5})->mName, QStringLiteral("eigener Name"));
+    QCOMPARE(tree.subGroup({1, 1, 0})->mName, QStringLiteral("a"));
+    QCOMPARE(tree.middleGroup(1, 1)->mName, QStringLiteral("EG"));
+    QCOMPARE(tree.middleGroup(1, 2)->mName, QStringLiteral("leer"));
+    QCOMPARE(tree.subGroup({5, 2, 3})->mOrigin, QStringLiteral("5/515"));
+    const QByteArray after = Project_Dump::project(rig.mSession.database());
+    QCOMPARE(rig.mSession.history().position(), size_t(1));
+    QVERIFY(rig.mSession.history().undo());
+    QCOMPARE(Project_Dump::project(rig.mSession.database()), before);
+    QVERIFY(rig.mSession.history().redo());
+    QCOMPARE(Project_Dump::project(rig.mSession.database()), after);
+    rig.mState.setOperatingMode(true);
+    QCOMPARE(Address_Import::addNew(rig.mSession, groups, result).mError, Session_State::operatingModeRefusal());
+  }
+
+  /// Real exports lie beside the project on a developer's machine; they are never copied into it.
+  void realExportsArriveWhole() {
+    const QString source = QFINDTESTDATA("Ets_Xml_Reader_Test.cpp");
+    const QDir folder(QFileInfo(source).path() + QStringLiteral("/../../../shared/data/ets"));
+    const QStringList files = folder.entryList({QStringLiteral("*.xml")}, QDir::Files);
+    if (files.isEmpty()) {
+      QSKIP("no real exports on this machine");
+    }
+    for (const QString& name : files) {
+      const QString text = QString::fromUtf8(Session_Rig::bytesOf(folder.filePath(name)));
+      const QStringList addressNames = namesInTags(text, QStringLiteral("GroupAddress"));
+      const QStringList rangeNames = namesInTags(text, QStringLiteral("GroupRange"));
+      QFile file(folder.filePath(name));
+      QVERIFY(file.open(QIODevice::ReadOnly));
+      Ets_Groups groups;
+      QString error;
+      QVERIFY2(Ets_Xml_Reader::read(file, groups, error), qPrintable(name + QStringLiteral(": ") + error));
+      QVERIFY2(groups.mFaults.isEmpty(), qPrintable(groups.mFaults.join(u'\n')));
+      QStringList readAddresses;
+      for (const Ets_Groups::Address& address : groups.mAddresses) {
+        readAddresses.append(address.mName);
+      }
+      QStringList readRanges;
+      for (const Ets_Groups::Range& range : groups.mRanges) {
+        readRanges.append(range.mName);
+      }
+      QCOMPARE(readAddresses, addressNames);
+      QCOMPARE(readRanges, rangeNames);
+      Session_Rig rig;
+      QVERIFY(rig.create());
+      Address_Import::Result result;
+      QVERIFY(Address_Import::addNew(rig.mSession, groups, result));
+      const Address_Tree& tree = rig.mSession.database().mAddresses;
+      QCOMPARE(result.mAdded + result.mRepeated, addressNames.size());
+      QCOMPARE(tree.subGroupCount(), result.mAdded);
+      QSet<QString> groupNames;
+      for (const auto& main : tree.mainGroups()) {
+        groupNames.insert(main->mName);
+        for (const auto& middle : main->mMiddleGroups) {
+          groupNames.insert(middle->mName);
+          for (const auto& sub : middle->mSubGroups) {
+            for (const QString& origin : sub->mOrigin.split(QStringLiteral(", ")).last().split(QStringLiteral(" / "))) {
+              groupNames.insert(origin);
+            }
+          }
+        }
+      }
+      for (const QString& rangeName : rangeNames) {
+        QVERIFY2(groupNames.contains(rangeName), qPrintable(name + QStringLiteral(": ") + rangeName));
+      }
+      qInfo("%s: %lld addresses, %lld ranges", qPrintable(name), addressNames.size(), rangeNames.size());
+    }
+  }
+};
+
+QTEST_GUILESS_MAIN(Ets_Xml_Reader_Test)
+#include "Ets_Xml_Reader_Test.moc"

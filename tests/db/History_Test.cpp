@@ -1,0 +1,268 @@
+#include "db/Edit_Scope.h"
+#include "db/Project_Edits.h"
+#include "tests/db/Project_Dump.h"
+#include "tests/db/Session_Rig.h"
+
+#include <QRandomGenerator>
+#include <QSignalSpy>
+
+using Grouping = Edit_Scope::Grouping;
+
+/// The history through its first users: names of addresses and pages, the project's settings, groups made and deleted.
+class History_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init() {
+    mRig = std::make_unique<Session_Rig>();
+    QVERIFY(mRig->create());
+    mLight = mRig->addAddress({1, 2, 3}, QStringLiteral("Licht"))->mKey;
+    mBlind = mRig->addAddress({1, 2, 4}, QStringLiteral("Jalousie"))->mKey;
+    QCOMPARE(session().save(), Project_Session::Save_Result::Saved);
+  }
+
+  void everyEditGoesForwardBackAndForward_data() {
+    QTest::addColumn<int>("edit");
+    QTest::newRow("rename address") << 0;
+    QTest::newRow("rename main group") << 1;
+    QTest::newRow("rename logic page") << 2;
+    QTest::newRow("rename visualisation page") << 3;
+    QTest::newRow("geographic position") << 4;
+    QTest::newRow("make and delete groups") << 5;
+    QTest::newRow("renumber and move a page") << 6;
+  }
+
+  void everyEditGoesForwardBackAndForward() {
+    QFETCH(int, edit);
+    const QByteArray before = dump();
+    apply(edit);
+    history().commit();
+    const QByteArray after = dump();
+    QVERIFY(before != after);
+    for (int round = 0; round < 3; ++round) {
+      QVERIFY(session().isModified());
+      QVERIFY(history().undo());
+      QCOMPARE(dump(), before);
+      QVERIFY(!session().isModified());
+      QVERIFY(history().redo());
+      QCOMPARE(dump(), after);
+    }
+  }
+
+  void theEditsOfOneTurnAreOneStep() {
+    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
+    Project_Edits::renameAddress(session(), mBlind, QStringLiteral("B"));
+    Project_Edits::renameAddress(session(), mLight, QStringLiteral("C"));
+    QTRY_COMPARE(history().position(), size_t(1));
+    Project_Edits::renameAddress(session(), mLight, QStringLiteral("D"));
+    QTRY_COMPARE(history().position(), size_t(2));
+    QVERIFY(history().undo());
+    QCOMPARE(name(mLight), QStringLiteral("C"));
+    QVERIFY(history().undo());
+    QCOMPARE(name(mLight), QStringLiteral("Licht"));
+    QCOMPARE(name(mBlind), QStringLiteral("Jalousie"));
+    QVERIFY(!history().undo());
+  }
+
+  void aScopeOfItsOwnClosesAtItsEnd() {
+    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
+    {
+      Edit_Scope scope(history(), QStringLiteral("Eigener"), Grouping::Own);
+      Project_Edits::renameAddress(session(), mLight, QStringLiteral("B"));
+      QVERIFY2(!history().undo(), "no undo while a scope is open");
+    }
+    QCOMPARE(history().position(), size_t(2));
+    QCOMPARE(history().undoText(), QStringLiteral("Eigener"));
+    QVERIFY(history().undo());
+    QCOMPARE(name(mLight), QStringLiteral("A"));
+  }
+
+  void withoutEffectIsNoStep() {
+    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
+    Project_Edits::renameAddress(session(), mLight, QStringLiteral("Licht"));
+    history().commit();
+    QCOMPARE(history().position(), size_t(0));
+    QVERIFY(!session().isModified());
+  }
+
+  void theOperatingModeRefusesEverything() {
+    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
+    history().commit();
+    mRig->mState.setOperatingMode(true);
+    const QByteArray before = dump();
+    const QString refusal = QStringLiteral("Nur möglich wenn Bedienmodus ausgeschaltet ist.");
+    QCOMPARE(Project_Edits::renameAddress(session(), mLight, QStringLiteral("B")).mError, refusal);
+    const QUuid page = session().database().mFbPages.pages().at(0).mGuid;
+    QCOMPARE(Project_Edits::renamePage(session(), page, QStringLiteral("B")).mError, refusal);
+    QCOMPARE(Project_Edits::setGeoposition(session(), 1, 2).mError, refusal);
+    QString told;
+    QVERIFY(!history().undo(&told));
+    QCOMPARE(told, refusal);
+    QCOMPARE(dump(), before);
+  }
+
+  void badValuesAreRefused_data() {
+    QTest::addColumn<int>("edit");
+    QTest::newRow("page without name") << 0;
+    QTest::newRow("page of blanks") << 1;
+    QTest::newRow("address name too long") << 2;
+    QTest::newRow("address that is gone") << 3;
+    QTest::newRow("latitude") << 4;
+    QTest::newRow("longitude is no number") << 5;
+  }
+
+  void badValuesAreRefused() {
+    QFETCH(int, edit);
+    const QByteArray before = dump();
+    const QUuid page = session().database().mFbPages.pages().at(0).mGuid;
+    const Edit_Result results[] = {Project_Edits::renamePage(session(), page, QString()),
+                                   Project_Edits::renamePage(session(), page, QStringLiteral(" \t ")),
+                                   Project_Edits::renameAddress(session(), mLight, QString(256, u'x')),
+                                   Project_Edits::renameAddress(session(), QUuid::createUuid(), QStringLiteral("x")),
+                                   Project_Edits::setGeoposition(session(), 90.1, 0),
+                                   Project_Edits::setGeoposition(session(), 0, qQNaN())};
+    QVERIFY(!results[edit].mError.isEmpty());
+    history().commit();
+    QCOMPARE(dump(), before);
+    QCOMPARE(history().position(), size_t(0));
+  }
+
+  void markerBytesAreLostAtOnce() {
+    QVERIFY(Project_Edits::renameAddress(session(), mLight,
+                                         QStringLiteral("a\x02"
+                                                        "b\x03\nc")));
+    QCOMPARE(name(mLight), QStringLiteral("ab c"));
+  }
+
+  void theMarkFollowsTheSavedState() {
+    QSignalSpy changed(&history(), &History::changed);
+    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
+    QVERIFY2(session().isModified(), "before the turn ends");
+    QVERIFY(!changed.isEmpty());
+    QCOMPARE(session().save(), Project_Session::Save_Result::Saved);
+    QVERIFY(!session().isModified());
+    QVERIFY2(history().canUndo(), "saving keeps the history");
+    QVERIFY(history().undo());
+    QVERIFY(session().isModified());
+    Project_Edits::renameAddress(session(), mLight, QStringLiteral("B"));
+    history().commit();
+    QVERIFY(history().undo());
+    QVERIFY2(session().isModified(), "the saved state can no longer be reached");
+    QCOMPARE(session().save(), Project_Session::Save_Result::Saved);
+    QVERIFY(session().database().ressourceWriteRaw(QStringLiteral("a.png"), "x"));
+    QVERIFY2(session().isModified(), "a resource is outside the history");
+  }
+
+  void undoLeavesWhatSavingWrites() {
+    Project_Edits::setGeoposition(session(), 10, 20);
+    history().commit();
+    DB_Project& project = session().database().mProject;
+    project.mControllerProjectId = QStringLiteral("von der Steuerung");
+    project.mTimestamp = 12345;
+    QVERIFY(history().undo());
+    QCOMPARE(project.mGeopos_Latitude, 0.0);
+    QCOMPARE(project.mControllerProjectId, QStringLiteral("von der Steuerung"));
+    QCOMPARE(project.mTimestamp, 12345);
+  }
+
+  void onlyTheLatestStepsAreKept() {
+    for (size_t i = 0; i < History::cLimit + 10; ++i) {
+      Project_Edits::renameAddress(session(), mLight, QString::number(i));
+      history().commit();
+    }
+    QCOMPARE(history().position(), History::cLimit);
+    while (history().undo()) {
+    }
+    QCOMPARE(name(mLight), QStringLiteral("9"));
+    QVERIFY2(session().isModified(), "the saved state is gone");
+  }
+
+  void randomEditsComeBackStepByStep() {
+    QRandomGenerator random(7);
+    std::vector<QByteArray> states{dump()};
+    for (int i = 0; i < 200; ++i) {
+      const int back = static_cast<int>(random.bounded(0, 3));
+      for (int k = 0; k < back && states.size() > 1; ++k) {
+        QVERIFY(history().undo());
+        states.pop_back();
+        QCOMPARE(dump(), states.back());
+      }
+      apply(static_cast<int>(random.bounded(0, 7)), &random);
+      history().commit();
+      const QByteArray state = dump();
+      if (state != states.back()) {
+        states.push_back(state);
+      }
+    }
+  }
+
+private:
+  Project_Session& session() { return mRig->mSession; }
+  History& history() { return session().history(); }
+  QByteArray dump() { return Project_Dump::project(session().database()); }
+  QString name(const QUuid& key) { return session().database().mAddresses.subGroup(key)->mName; }
+
+  void apply(int edit, QRandomGenerator* random = nullptr) {
+    ProjectDatabase& database = session().database();
+    const int salt = random ? static_cast<int>(random->bounded(0, 50)) : 7;
+    const QString text = QStringLiteral("Neu %1").arg(salt);
+    switch (edit) {
+    case 0:
+      Project_Edits::renameAddress(session(), mLight, text);
+      break;
+    case 1:
+      Project_Edits::renameAddress(session(), database.mAddresses.mainGroup(1)->mKey, text);
+      break;
+    case 2:
+      Project_Edits::renamePage(session(), database.mFbPages.pages().at(0).mGuid, text);
+      break;
+    case 3:
+      Project_Edits::renamePage(session(), database.mWidgetPages.pages().at(1).mGuid, text);
+      break;
+    case 4:
+      Project_Edits::setGeoposition(session(), salt, -salt);
+      break;
+    case 5:
+      makeAndDelete(salt);
+      break;
+    default:
+      renumberAndMove(salt);
+      break;
+    }
+  }
+
+  void makeAndDelete(int salt) {
+    Address_Tree& tree = session().database().mAddresses;
+    Edit_Scope scope(history(), QStringLiteral("Gruppen"), Grouping::Own);
+    Undo_Adapter& undo = session().addressUndo();
+    if (tree.subGroup(mBlind)) {
+      scope.deleted(undo, mBlind);
+      tree.take(mBlind);
+    }
+    const bool isNewGroup = !tree.middleGroup(1, 5);
+    const QUuid made = mRig->addAddress({1, 5, salt}, QStringLiteral("gemacht"))->mKey;
+    if (isNewGroup) {
+      scope.created(undo, tree.middleGroup(1, 5)->mKey);
+    }
+    scope.created(undo, made);
+    scope.modified(undo, made);
+    tree.change(made, [](DB_Data_Base& record) { dynamic_cast<DB_Address_Sub_Group&>(record).mDptMain = 9; });
+  }
+
+  void renumberAndMove(int salt) {
+    ProjectDatabase& database = session().database();
+    Edit_Scope scope(history(), QStringLiteral("Ordnung"), Grouping::Own);
+    scope.modified(session().addressUndo(), mLight);
+    database.mAddresses.change(
+        mLight, [salt](DB_Data_Base& record) { dynamic_cast<DB_Address_Sub_Group&>(record).mNumber = 100 + salt; });
+    scope.modified(session().widgetPageUndo(), database.mWidgetPages.pages().at(0).mGuid);
+    database.mWidgetPages.movePage(0, 1);
+  }
+
+  std::unique_ptr<Session_Rig> mRig;
+  QUuid mLight;
+  QUuid mBlind;
+};
+
+QTEST_GUILESS_MAIN(History_Test)
+#include "History_Test.moc"

@@ -1,0 +1,179 @@
+#include "base/Version.h"
+#include "db/Demo_Project.h"
+#include "db/Project_Edits.h"
+#include "tests/db/Project_Dump.h"
+#include "tests/db/Session_Rig.h"
+
+#include <QDir>
+
+using Save = Project_Session::Save_Result;
+
+class Project_Session_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init() { mRig = std::make_unique<Session_Rig>(); }
+
+  void aNewProjectHoldsItsFirstPagesAndConnection() {
+    QVERIFY(mRig->mSession.create(mRig->path(), {}));
+    ProjectDatabase& database = mRig->mSession.database();
+    QCOMPARE(database.mProject.mVersion, QStringLiteral("2.3146"));
+    QCOMPARE(database.mProject.mName, QStringLiteral("Haus"));
+    QCOMPARE(database.mFbPages.pages().size(), 1);
+    QCOMPARE(database.mWidgetPages.pages().size(), 2);
+    QVERIFY(database.mWidgetPages.pages().at(0).mHeight > database.mWidgetPages.pages().at(0).mWidth);
+    QVERIFY(database.mWidgetPages.pages().at(1).mWidth > database.mWidgetPages.pages().at(1).mHeight);
+    QCOMPARE(database.mConnections.mItems.at(0).mAddress, QStringLiteral("172.31.1.100"));
+    QCOMPARE(database.mConnections.mSelected, 0);
+    QVERIFY(!mRig->mSession.isModified());
+    reopenIsEqual();
+  }
+
+  void theDemoProjectIsBuiltAndOpensAgain() {
+    QString error;
+    QVERIFY2(Demo_Project::build(mRig->mSession, mRig->path(QStringLiteral("neu/Demo.zpro")), error),
+             qPrintable(error));
+    QVERIFY(mRig->mSession.database().mAddresses.subGroupCount() > 100);
+    QCOMPARE(mRig->mSession.database().mConnections.mItems.at(0).mAddress, QStringLiteral("127.0.0.1"));
+    QVERIFY(!mRig->mSession.isModified());
+    reopenIsEqual();
+  }
+
+  void savingAsGoesOnUnderTheNewNameAndLeavesTheOldFile() {
+    QVERIFY(mRig->create());
+    const QUuid key = mRig->addAddress({1, 1, 1}, QStringLiteral("alt"))->mKey;
+    QCOMPARE(mRig->mSession.save(), Save::Saved);
+    const QByteArray oldBytes = Session_Rig::bytesOf(mRig->path());
+    QVERIFY(Project_Edits::renameAddress(mRig->mSession, key, QStringLiteral("neu")));
+    const QString other = mRig->path(QStringLiteral("Anderes Haus.zpro"));
+    QCOMPARE(mRig->mSession.saveAs(other), Save::Saved);
+    QCOMPARE(mRig->mSession.path(), other);
+    QCOMPARE(mRig->mSession.database().mProject.mName, QStringLiteral("Anderes Haus"));
+    QCOMPARE(mRig->mSession.database().fileName(), Working_Copy::pathFor(other));
+    QVERIFY(!mRig->mSession.isModified());
+    QVERIFY(mRig->mSession.history().canUndo());
+    QCOMPARE(Session_Rig::bytesOf(mRig->path()), oldBytes);
+    QVERIFY(!QFile::exists(Working_Copy::pathFor(mRig->path())));
+    QVERIFY(mRig->mSession.history().undo());
+    QCOMPARE(mRig->mSession.save(), Save::Saved);
+    reopenIsEqual();
+  }
+
+  void closingDeletesWorkingFileAndLock() {
+    QVERIFY(mRig->create());
+    QVERIFY(QFile::exists(Working_Copy::pathFor(mRig->path())));
+    mRig->mSession.close();
+    QCOMPARE(QDir(mRig->tempFolder()).entryList(QDir::Files | QDir::Hidden), QStringList());
+    QCOMPARE(QDir(mRig->folder()).entryList(QDir::Files | QDir::Hidden), QStringList(QStringLiteral("Haus.zpro")));
+  }
+
+  void twoSessionsOnOneFileDoNotMeet() {
+    QVERIFY(mRig->create());
+    const QUuid key = mRig->addAddress({1, 1, 1}, QStringLiteral("Licht"))->mKey;
+    QCOMPARE(mRig->mSession.save(), Save::Saved);
+    Session_State state;
+    Project_Session second(state);
+    QVERIFY(second.open(mRig->path()));
+    QVERIFY(second.database().fileName() != mRig->mSession.database().fileName());
+    QVERIFY(!mRig->mSession.isChangedOnDisk());
+    QVERIFY(Project_Edits::renameAddress(second, key, QStringLiteral("von der zweiten, länger als zuvor")));
+    QCOMPARE(second.save(), Save::Saved);
+    QVERIFY(mRig->mSession.isChangedOnDisk());
+    QVERIFY(!second.isChangedOnDisk());
+    second.close();
+    QVERIFY(QFile::exists(mRig->mSession.database().fileName()));
+    QCOMPARE(mRig->mSession.save(), Save::Saved);
+    QVERIFY(!mRig->mSession.isChangedOnDisk());
+  }
+
+  void aFailedSaveLosesNothing_data() {
+    QTest::addColumn<int>("fault");
+    QTest::newRow("the folder is gone") << 0;
+    QTest::newRow("a folder stands in the place of the file") << 1;
+    QTest::newRow("the working file is full") << 2;
+  }
+
+  void aFailedSaveLosesNothing() {
+    QFETCH(int, fault);
+    QVERIFY(mRig->create());
+    const QUuid key = mRig->addAddress({1, 1, 1}, QStringLiteral("alt"))->mKey;
+    QCOMPARE(mRig->mSession.save(), Save::Saved);
+    const QByteArray oldBytes = Session_Rig::bytesOf(mRig->path());
+    for (int i = 0; i < 255; ++i) {
+      mRig->addAddress({2, 1, i}, QString(200, u'x'));
+    }
+    QVERIFY(Project_Edits::renameAddress(mRig->mSession, key, QStringLiteral("neu")));
+    const QByteArray edited = Project_Dump::project(mRig->mSession.database());
+    const QString moved = mRig->folder() + QStringLiteral("-weg");
+    if (fault == 0) {
+      QVERIFY(QDir().rename(mRig->folder(), moved));
+    } else if (fault == 1) {
+      QVERIFY(QFile::rename(mRig->path(), mRig->path(QStringLiteral("alt"))));
+      QVERIFY(QDir().mkdir(mRig->path()));
+    } else {
+      QVERIFY(mRig->mSession.database().execute("PRAGMA max_page_count=1"));
+    }
+    QCOMPARE(mRig->mSession.save(), fault == 2 ? Save::WriteFailed : Save::PublishFailed);
+    QVERIFY(!mRig->mSession.lastError().isEmpty());
+    QVERIFY(mRig->mSession.isModified());
+    QCOMPARE(Project_Dump::project(mRig->mSession.database()), edited);
+    if (fault == 0) {
+      QVERIFY(QDir().rename(moved, mRig->folder()));
+    } else if (fault == 1) {
+      QVERIFY(QDir().rmdir(mRig->path()));
+      QVERIFY(QFile::rename(mRig->path(QStringLiteral("alt")), mRig->path()));
+    } else {
+      QVERIFY(mRig->mSession.database().execute("PRAGMA max_page_count=1000000"));
+    }
+    QCOMPARE(Session_Rig::bytesOf(mRig->path()), oldBytes);
+    QCOMPARE(mRig->mSession.save(), Save::Saved);
+    reopenIsEqual();
+  }
+
+  void aFileThatIsNoProjectLeavesNothingOpen() {
+    QFile file(mRig->path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(5000, 'x'));
+    file.close();
+    const QByteArray bytes = Session_Rig::bytesOf(mRig->path());
+    QVERIFY(!mRig->mSession.open(mRig->path()));
+    QVERIFY(!mRig->mSession.lastError().isEmpty());
+    QVERIFY(!mRig->mSession.isOpen());
+    QVERIFY(!mRig->mSession.open(mRig->path(QStringLiteral("fehlt.zpro"))));
+    QVERIFY(!mRig->mSession.isOpen());
+    QCOMPARE(Session_Rig::bytesOf(mRig->path()), bytes);
+    QCOMPARE(QDir(mRig->tempFolder()).entryList(QDir::Files | QDir::Hidden), QStringList());
+  }
+
+  void aReadOnlyFileOpensAndItsFailedSaveLeavesItAsItIs() {
+    QVERIFY(mRig->create());
+    mRig->mSession.close();
+    const QByteArray bytes = Session_Rig::bytesOf(mRig->path());
+    QVERIFY(QFile::setPermissions(mRig->path(), QFile::ReadOwner));
+    QVERIFY(mRig->mSession.open(mRig->path()));
+    QCOMPARE(Session_Rig::bytesOf(mRig->path()), bytes);
+    mRig->addAddress({1, 1, 1}, QStringLiteral("neu"));
+    const Save result = mRig->mSession.save();
+    if (QFileInfo(mRig->path()).isWritable()) {
+      QSKIP("this user may write every file");
+    }
+    QCOMPARE(result, Save::PublishFailed);
+    QCOMPARE(Session_Rig::bytesOf(mRig->path()), bytes);
+  }
+
+private:
+  void reopenIsEqual() {
+    const QByteArray before = Project_Dump::project(mRig->mSession.database());
+    const QString path = mRig->mSession.path();
+    mRig->mSession.close();
+    QVERIFY(!mRig->mSession.isOpen());
+    QVERIFY2(mRig->mSession.open(path), qPrintable(mRig->mSession.lastError()));
+    QCOMPARE(Project_Dump::project(mRig->mSession.database()), before);
+    QVERIFY(!mRig->mSession.isModified());
+  }
+
+  std::unique_ptr<Session_Rig> mRig;
+};
+
+QTEST_GUILESS_MAIN(Project_Session_Test)
+#include "Project_Session_Test.moc"

@@ -1,0 +1,60 @@
+#include "fb/model/FB_Normaliser.h"
+#include "fb/model/FB_Types.h"
+#include "tests/db/Project_Dump.h"
+#include "tests/db/Session_Rig.h"
+
+class FB_Normaliser_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  void theTypesAreOrderedAndNamed() {
+    int last = 0;
+    for (const FB_Types::Type& type : FB_Types::all()) {
+      QVERIFY2(type.mId > last, qPrintable(QString::number(type.mId)));
+      last = type.mId;
+      QVERIFY(FB_Types::find(type.mId) == &type);
+    }
+    QCOMPARE(FB_Types::all().size(), size_t(325));
+    QCOMPARE(FB_Types::name(50), QStringLiteral("Und"));
+    QCOMPARE(FB_Types::name(1356), QStringLiteral("<  Kleiner (1xE)"));
+    QCOMPARE(FB_Types::name(1393), QStringLiteral("Formel *"));
+    QCOMPARE(FB_Types::name(9107), QStringLiteral("KNX lesen Trigger"));
+    QCOMPARE(FB_Types::name(13), QStringLiteral("Unknown"));
+  }
+
+  void anUnknownTypeBecomesACommentAndComesBack() {
+    Session_Rig rig;
+    QVERIFY(rig.create());
+    DB_Page_List<DB_FB_Page>& pages = rig.mSession.database().mFbPages;
+    const auto add = [&pages](int type, const QString& title) {
+      auto block = std::make_unique<DB_FB_Control>();
+      block->mPageGuid = pages.pages().at(0).mGuid;
+      block->mType = type;
+      block->mTitle = title;
+      return pages.appendChild(std::move(block))->mGuid;
+    };
+    const QUuid known = add(50, QStringLiteral("Und hier"));
+    const QUuid unknown = add(54321, QStringLiteral("Neuheit"));
+    const QUuid comment = add(FB_Types::cComment, QStringLiteral("Text"));
+    QCOMPARE(FB_Normaliser::normalise(pages).mUnknown, 1);
+    QCOMPARE(pages.child(known)->mTitle, QStringLiteral("Und hier"));
+    QCOMPARE(pages.child(comment)->mTitle, QStringLiteral("Text"));
+    QCOMPARE(pages.child(unknown)->mType, FB_Types::cComment);
+    QCOMPARE(pages.child(unknown)->mTitle, QString());
+    QVERIFY(!rig.mSession.isModified());
+    QCOMPARE(rig.mSession.save(), Project_Session::Save_Result::Saved);
+    const QByteArray saved = Project_Dump::project(rig.mSession.database());
+    QVERIFY(rig.mSession.open(rig.path()));
+    QCOMPARE(FB_Normaliser::normalise(pages).mUnknown, 1);
+    QCOMPARE(Project_Dump::project(rig.mSession.database()), saved);
+    // The same file in a studio that knows the type.
+    pages.child(unknown)->mOriginalType = 51;
+    QCOMPARE(FB_Normaliser::normalise(pages).mRestored, 1);
+    QCOMPARE(pages.child(unknown)->mType, 51);
+    QCOMPARE(pages.child(unknown)->mTitle, QStringLiteral("Neuheit"));
+    QCOMPARE(pages.child(unknown)->mOriginalType, 0);
+  }
+};
+
+QTEST_GUILESS_MAIN(FB_Normaliser_Test)
+#include "FB_Normaliser_Test.moc"
