@@ -27,22 +27,11 @@ quint32 tailOf(const char* begin, const char* end) {
 } // namespace
 
 /// Null when the byte is not there.
-const char* DB_Data_Reader::findByte(char byte, qsizetype from, qsizetype to) const {
-  if (from >= to) {
+const char* DB_Data_Reader::findByte(char byte, qsizetype from) const {
+  if (from >= mText.size()) {
     return nullptr;
   }
-  return static_cast<const char*>(std::memchr(mText.data() + from, byte, static_cast<size_t>(to - from)));
-}
-
-/// Most values are so short that a loop is faster than a call.
-const char* DB_Data_Reader::findValueEnd(qsizetype from) const {
-  const qsizetype near = std::min(from + 4, mText.size());
-  for (; from < near; ++from) {
-    if (mText[from] == cValueEnd) {
-      return mText.data() + from;
-    }
-  }
-  return findByte(cValueEnd, from, mText.size());
+  return static_cast<const char*>(std::memchr(mText.data() + from, byte, static_cast<size_t>(mText.size() - from)));
 }
 
 /// The usual case, that the next item is the wanted one: nothing before it can be a hit, because the value found last
@@ -52,18 +41,35 @@ qsizetype DB_Data_Reader::findNext(QByteArrayView key) {
   if (mark >= mText.size() || mText[mark] != cKeyEnd || !endsAt(key, mark, mInOrder)) {
     return -1;
   }
-  const char* const end = findValueEnd(mark + 1);
-  if (!end || findByte(cKeyEnd, mark + 1, end - mText.data())) {
-    return -1;
+  const qsizetype end = findPlainEnd(mark + 1);
+  if (end >= 0) {
+    mCursor = mark + 1;
+    mInOrder = end + 1;
   }
-  mCursor = mark + 1;
-  mInOrder = end - mText.data() + 1;
-  return mInOrder - 1;
+  return end;
+}
+
+/// The end of the value that starts there; negative when it holds a mark or does not end.
+qsizetype DB_Data_Reader::findPlainEnd(qsizetype from) const {
+  constexpr qsizetype cUsualSize = 8; // a loop over so few is faster than the calls
+  const qsizetype near = std::min(from + cUsualSize, mText.size());
+  for (qsizetype at = from; at < near; ++at) {
+    if (mText[at] == cValueEnd) {
+      return at;
+    }
+    if (mText[at] == cKeyEnd) {
+      return -1;
+    }
+  }
+  const char* const end = findByte(cValueEnd, near);
+  const bool isPlain =
+      end && !std::memchr(mText.data() + near, cKeyEnd, static_cast<size_t>(end - mText.data() - near));
+  return isPlain ? end - mText.data() : -1;
 }
 
 void DB_Data_Reader::findMarks() {
   qsizetype from = 0;
-  while (const char* const at = findByte(cKeyEnd, from, mText.size())) {
+  while (const char* const at = findByte(cKeyEnd, from)) {
     from = at - mText.data();
     mNextMark += from < mInOrder ? 1 : 0;
     mMarks.append(static_cast<quint32>(from++));
@@ -178,7 +184,7 @@ std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {
   const qsizetype at = isNext ? mNextMark : search(key);
   if (at >= 0) {
     const qsizetype valueStart = qsizetype(mMarks[at]) + 1;
-    if (const char* const end = findValueEnd(valueStart)) {
+    if (const char* const end = findByte(cValueEnd, valueStart)) {
       const qsizetype valueEnd = end - mText.data();
       const qsizetype start = qsizetype(mMarks[at]) - key.size();
       const bool isWholeKey = start == 0 || mText[start - 1] == cValueEnd;
@@ -197,7 +203,7 @@ std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {
 }
 
 bool DB_Data_Reader::hasUnusedItems() const {
-  return mHasMarks ? mUsedCount < mMarks.size() : findByte(cKeyEnd, mInOrder, mText.size()) != nullptr;
+  return mHasMarks ? mUsedCount < mMarks.size() : findByte(cKeyEnd, mInOrder) != nullptr;
 }
 
 std::vector<DB_Data_Reader::Item> DB_Data_Reader::unusedItems() const {

@@ -43,8 +43,8 @@ public:
 
 private:
   [[nodiscard]] qsizetype findNext(QByteArrayView key);
-  [[nodiscard]] const char* findByte(char byte, qsizetype from, qsizetype to) const;
-  [[nodiscard]] const char* findValueEnd(qsizetype from) const;
+  [[nodiscard]] qsizetype findPlainEnd(qsizetype from) const;
+  [[nodiscard]] const char* findByte(char byte, qsizetype from) const;
   void findMarks();
   [[nodiscard]] qsizetype scan(QByteArrayView key, qsizetype fromMark);
   [[nodiscard]] qsizetype lookUp(QByteArrayView key, qsizetype fromMark);
