@@ -42,8 +42,11 @@ public:
   [[nodiscard]] static QString middleGroupText(int main, int middle);
 
   friend constexpr auto operator<=>(const Group_Address&, const Group_Address&) = default;
+  /// Neighbours stay together, which makes filling an index of a whole bus several times as fast.
   friend size_t qHash(const Group_Address& address, size_t seed = 0) {
-    return qHashMulti(seed, address.mMain, address.mMiddle, address.mSub);
+    const bool isUsual = (address.mMiddle & ~cMiddleMax) == 0 && (address.mSub & ~cSubMax) == 0;
+    return isUsual ? seed + (size_t(address.mMain) << 11 | size_t(address.mMiddle) << 8 | size_t(address.mSub))
+                   : qHashMulti(seed, address.mMain, address.mMiddle, address.mSub);
   }
 
 private:

@@ -8,6 +8,10 @@ namespace {
 /// when that keeps the order.
 template <class Group>
 qsizetype placeFor(const DB_Children<Group>& siblings, int number, qsizetype wanted) {
+  const qsizetype size = siblings.size();
+  if (size == 0 || siblings.at(size - 1).mNumber < number) {
+    return size; // so they come when a project is read
+  }
   const auto less = [](int value, const auto& group) { return value < group->mNumber; };
   const auto last = std::upper_bound(siblings.begin(), siblings.end(), number, less);
   const qsizetype behindEquals = last - siblings.begin();
@@ -119,7 +123,13 @@ DB_Address_Sub_Group* Address_Tree::add(std::unique_ptr<DB_Address_Sub_Group> gr
   beginChange();
   DB_Address_Sub_Group* const added = insertSorted(middle->mSubGroups, std::move(group), place);
   mSubByKey.insert(added->mKey, added);
-  findSub({main->mNumber, middle->mNumber, added->mNumber});
+  const Group_Address address(main->mNumber, middle->mNumber, added->mNumber);
+  DB_Address_Sub_Group*& found = mSubByAddress[address];
+  if (found) {
+    findSub(address);
+  } else {
+    found = added;
+  }
   endChange();
   return added;
 }
@@ -243,6 +253,12 @@ void Address_Tree::findAgain(const DB_Address_MainGroup& group, int number) {
       findSub({number, middle->mNumber, sub->mNumber});
     }
   }
+}
+
+void Address_Tree::reserve(qint64 subGroups) {
+  constexpr qint64 cMost = 100'000;
+  mSubByKey.reserve(std::min(subGroups, cMost));
+  mSubByAddress.reserve(std::min(subGroups, cMost));
 }
 
 void Address_Tree::clear() {

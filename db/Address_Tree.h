@@ -58,6 +58,9 @@ public:
   /// The group's own key and its parent's key must stay as they are. False when there is no such group.
   bool change(const QUuid& key, const std::function<void(DB_Data_Base& record)>& change);
 
+  /// Makes room for so many group addresses, at most for those of the largest project; adding them is faster then.
+  void reserve(qint64 subGroups);
+
   void clear();
 
   void beginChange();

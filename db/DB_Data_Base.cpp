@@ -18,6 +18,11 @@ void DB_Data_Base::setData(const QByteArray& data) {
   fromData();
 }
 
+void DB_Data_Base::setData(const QByteArray& data, DB_Text_Pool& texts) {
+  mData = data;
+  DB_Fields::read(*this, mData, mUnknownItems, &texts);
+}
+
 void DB_Data_Base::clearData() {
   mData.clear();
   fromData();

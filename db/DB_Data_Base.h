@@ -19,6 +19,8 @@ public:
   /// Reads the fields from the DATA text held; an empty text yields the defaults.
   virtual void fromData();
   virtual void setData(const QByteArray& data);
+  /// The same for one of many records that share their texts.
+  void setData(const QByteArray& data, DB_Text_Pool& texts);
   virtual void clearData();
 
   /// Names every field once. Reading, writing, defaults, comparison and the list of keys follow from it.

@@ -27,39 +27,60 @@ quint32 tailOf(const char* begin, const char* end) {
 } // namespace
 
 /// Null when the byte is not there.
-const char* DB_Data_Reader::findByte(char byte, qsizetype from, qsizetype to) const {
-  return static_cast<const char*>(std::memchr(mText.data() + from, byte, static_cast<size_t>(to - from)));
+const char* DB_Data_Reader::findByte(char byte, qsizetype from) const {
+  if (from >= mText.size()) {
+    return nullptr;
+  }
+  return static_cast<const char*>(std::memchr(mText.data() + from, byte, static_cast<size_t>(mText.size() - from)));
 }
 
 /// The usual case, that the next item is the wanted one: nothing before it can be a hit, because the value found last
-/// holds no mark. Everything else is left to the search.
-std::optional<QByteArrayView> DB_Data_Reader::findNext(QByteArrayView key) {
+/// holds no mark. The result is where the value ends; a negative one leaves the key to the search.
+qsizetype DB_Data_Reader::findNext(QByteArrayView key) {
   const qsizetype mark = mInOrder + key.size();
   if (mark >= mText.size() || mText[mark] != cKeyEnd || !endsAt(key, mark, mInOrder)) {
-    return std::nullopt;
+    return -1;
   }
-  const char* const end = findByte(cValueEnd, mark + 1, mText.size());
-  if (!end || findByte(cKeyEnd, mark + 1, end - mText.data())) {
-    return std::nullopt;
+  const qsizetype end = findPlainEnd(mark + 1);
+  if (end >= 0) {
+    mCursor = mark + 1;
+    mInOrder = end + 1;
   }
-  mCursor = mark + 1;
-  mInOrder = end - mText.data() + 1;
-  return mText.sliced(mCursor, mInOrder - 1 - mCursor);
+  return end;
+}
+
+/// The end of the value that starts there; negative when it holds a mark or does not end.
+qsizetype DB_Data_Reader::findPlainEnd(qsizetype from) const {
+  constexpr qsizetype cUsualSize = 8; // a loop over so few is faster than the calls
+  const qsizetype near = std::min(from + cUsualSize, mText.size());
+  for (qsizetype at = from; at < near; ++at) {
+    if (mText[at] == cValueEnd) {
+      return at;
+    }
+    if (mText[at] == cKeyEnd) {
+      return -1;
+    }
+  }
+  const char* const end = findByte(cValueEnd, near);
+  const bool isPlain =
+      end && !std::memchr(mText.data() + near, cKeyEnd, static_cast<size_t>(end - mText.data() - near));
+  return isPlain ? end - mText.data() : -1;
 }
 
 void DB_Data_Reader::findMarks() {
-  const char* const begin = mText.data();
-  const char* const end = begin + mText.size();
-  for (const char* at = begin; at < end; ++at) {
-    at = findByte(cKeyEnd, at - begin, mText.size());
-    if (!at) {
-      break;
-    }
-    mMarks.append(static_cast<quint32>(at - begin));
-    mTails.append(tailOf(begin, at));
-    mUsed.append(at - begin < mInOrder);
+  qsizetype from = 0;
+  while (const char* const at = findByte(cKeyEnd, from)) {
+    from = at - mText.data();
+    mNextMark += from < mInOrder ? 1 : 0;
+    mMarks.append(static_cast<quint32>(from++));
   }
-  mNextMark = mUsedCount = std::count(mUsed.cbegin(), mUsed.cend(), true);
+  mUsedCount = mNextMark;
+  mUsed.resize(mMarks.size());
+  std::fill(mUsed.begin(), mUsed.begin() + mUsedCount, true);
+  std::fill(mUsed.begin() + mUsedCount, mUsed.end(), false);
+  mTails.resize(mMarks.size());
+  std::transform(mMarks.cbegin(), mMarks.cend(), mTails.begin(),
+                 [this](quint32 mark) { return tailOf(mText.data(), mText.data() + mark); });
   mHasMarks = true;
 }
 
@@ -153,8 +174,8 @@ qsizetype DB_Data_Reader::search(QByteArrayView key) {
 
 std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {
   if (!mHasMarks) {
-    if (const std::optional<QByteArrayView> value = findNext(key)) {
-      return value;
+    if (const qsizetype end = findNext(key); end >= 0) {
+      return mText.sliced(mCursor, end - mCursor);
     }
     findMarks();
   }
@@ -163,7 +184,7 @@ std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {
   const qsizetype at = isNext ? mNextMark : search(key);
   if (at >= 0) {
     const qsizetype valueStart = qsizetype(mMarks[at]) + 1;
-    if (const char* const end = findByte(cValueEnd, valueStart, mText.size())) {
+    if (const char* const end = findByte(cValueEnd, valueStart)) {
       const qsizetype valueEnd = end - mText.data();
       const qsizetype start = qsizetype(mMarks[at]) - key.size();
       const bool isWholeKey = start == 0 || mText[start - 1] == cValueEnd;
@@ -182,7 +203,7 @@ std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {
 }
 
 bool DB_Data_Reader::hasUnusedItems() const {
-  return mHasMarks ? mUsedCount < mMarks.size() : findByte(cKeyEnd, mInOrder, mText.size()) != nullptr;
+  return mHasMarks ? mUsedCount < mMarks.size() : findByte(cKeyEnd, mInOrder) != nullptr;
 }
 
 std::vector<DB_Data_Reader::Item> DB_Data_Reader::unusedItems() const {

@@ -42,8 +42,9 @@ public:
   [[nodiscard]] std::vector<Item> unusedItems() const;
 
 private:
-  [[nodiscard]] std::optional<QByteArrayView> findNext(QByteArrayView key);
-  [[nodiscard]] const char* findByte(char byte, qsizetype from, qsizetype to) const;
+  [[nodiscard]] qsizetype findNext(QByteArrayView key);
+  [[nodiscard]] qsizetype findPlainEnd(qsizetype from) const;
+  [[nodiscard]] const char* findByte(char byte, qsizetype from) const;
   void findMarks();
   [[nodiscard]] qsizetype scan(QByteArrayView key, qsizetype fromMark);
   [[nodiscard]] qsizetype lookUp(QByteArrayView key, qsizetype fromMark);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/DB_Data_Reader.h"
+#include "db/DB_Text_Pool.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -65,11 +66,13 @@ public:
     return keys;
   }
 
-  /// Walks `record`. `unknownItems` takes the items that the record does not declare.
+  /// Walks `record`. `unknownItems` takes the items that the record does not declare; records that are read with the
+  /// same `texts` share their texts.
   template <class Record>
-  static void read(Record& record, QByteArrayView data, QByteArray& unknownItems) {
+  static void read(Record& record, QByteArrayView data, QByteArray& unknownItems, DB_Text_Pool* texts = nullptr) {
     DB_Data_Reader reader(data);
     DB_Fields fields(&reader, nullptr, nullptr);
+    fields.mTexts = texts;
     record.fields(fields);
     unknownItems.clear();
     if (reader.hasUnusedItems()) {
@@ -143,6 +146,7 @@ private:
   DB_Data_Reader* mReader;
   QByteArray* mWriter;
   Keys* mKeys;
+  DB_Text_Pool* mTexts = nullptr;
   QVarLengthArray<char, 64> mPrefix;
   QVarLengthArray<char, 24> mSuffix;
   QVarLengthArray<char, 128> mFullKey;

@@ -149,9 +149,14 @@ bool ProjectDatabase::attach(const QString& path) {
   return true;
 }
 
+/// In one transaction: the disk is waited for once instead of for each table.
 void ProjectDatabase::createTables() {
+  mDatabase.execute("BEGIN TRANSACTION");
   for (const DB_Table_Row& row : DB_Tables::all()) {
     mDatabase.execute("CREATE TABLE IF NOT EXISTS " + quoted(row.mTable) + '(' + DB_Tables::layout(row.mTable) + ')');
+  }
+  if (!mDatabase.execute("END TRANSACTION") && mDatabase.isInTransaction()) {
+    mDatabase.execute("ROLLBACK TRANSACTION");
   }
 }
 
@@ -220,9 +225,10 @@ bool ProjectDatabase::readSingle(DB_Table table, DB_Data_Base& record) {
 
 template <class Record>
 void ProjectDatabase::readList(DB_Table table, const std::function<bool(std::unique_ptr<Record>)>& place) {
+  DB_Text_Pool texts;
   readRows(table, [&](const QByteArray& data) {
     auto record = std::make_unique<Record>();
-    record->setData(data);
+    record->setData(data, texts);
     if (!place(std::move(record))) {
       mReport.addOrphan(table);
       mOrphans[static_cast<size_t>(table)].push_back(data);
@@ -230,8 +236,16 @@ void ProjectDatabase::readList(DB_Table table, const std::function<bool(std::uni
   });
 }
 
+/// The rows of a table that we wrote are numbered from 1 without gaps; unlike counting, this reads no rows.
+qint64 ProjectDatabase::highestRow(DB_Table table) {
+  DB_Statement select = mDatabase.prepare("SELECT max(rowid) FROM " + quoted(table));
+  const bool isFound = select.isValid() && select.step() == DB_Statement::Step::Row;
+  return isFound ? select.text(0).toLongLong() : 0;
+}
+
 void ProjectDatabase::readAddresses() {
   mAddresses.beginChange();
+  mAddresses.reserve(highestRow(DB_Table::Sub_Groups));
   const auto place = [this](auto group) { return mAddresses.add(std::move(group)) != nullptr; };
   readList<DB_Address_MainGroup>(DB_Table::Main_Groups, place);
   readList<DB_Address_Middle_Group>(DB_Table::Middle_Groups, place);

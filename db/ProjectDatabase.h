@@ -128,6 +128,7 @@ private:
   void readList(DB_Table table, const std::function<bool(std::unique_ptr<Record>)>& place);
   void readAll();
   void readAddresses();
+  [[nodiscard]] qint64 highestRow(DB_Table table);
 
   bool writeSingle(DB_Table table, const DB_Data_Base& record);
   bool writeAddresses();
