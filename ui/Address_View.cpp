@@ -1,0 +1,178 @@
+#include "ui/Address_View.h"
+
+#include "base/App_Settings.h"
+#include "base/Session_State.h"
+#include "db/Address_Tree_Model.h"
+#include "db/Project_Session.h"
+#include "ui/Address_Tree_View.h"
+#include "ui/Empty_Hint.h"
+#include "ui/Theme.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QShortcut>
+#include <QStackedLayout>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int cGap = 4;
+constexpr int cFilterDelayMs = 120;
+constexpr int cNameWidth = 220;
+constexpr int cDescriptionWidth = 160;
+
+QString counted(qsizetype count, const QString& one, const QString& many) {
+  return count == 1 ? one : many.arg(QLocale().toString(count));
+}
+
+} // namespace
+
+Address_View::Address_View(Project_Session& session, QWidget* parent)
+    : QWidget(parent),
+      mSession(session),
+      mModel(new Address_Tree_Model(session, this)),
+      mPages(new QStackedLayout(this)),
+      mEmpty(new Empty_Hint),
+      mFilter(new QLineEdit),
+      mTreeOrHint(new QStackedWidget),
+      mTree(new Address_Tree_View(*mModel)),
+      mNoHit(new Empty_Hint),
+      mCount(new QLabel) {
+  mPages->setContentsMargins(0, 0, 0, 0);
+  mPages->addWidget(mEmpty);
+  mPages->addWidget(makeListPage());
+
+  mFilterDelay.setSingleShot(true);
+  mFilterDelay.setInterval(cFilterDelayMs);
+  connect(&mFilterDelay, &QTimer::timeout, this, &Address_View::applyFilter);
+  connect(mFilter, &QLineEdit::textChanged, &mFilterDelay, qOverload<>(&QTimer::start));
+  connect(mFilter, &QLineEdit::returnPressed, this, &Address_View::enterTree);
+  connect(mEmpty, &Empty_Hint::stepRequested, this, &Address_View::importRequested);
+  connect(mModel, &QAbstractItemModel::modelReset, this, &Address_View::updateState);
+  // A box in the middle of committing an editor would take its focus and commit it again.
+  connect(mModel, &Address_Tree_Model::refused, this, &Address_View::refused, Qt::QueuedConnection);
+  connect(&session, &Project_Session::opened, this, &Address_View::updateState);
+  connect(&session, &Project_Session::closed, this, &Address_View::clearFilter);
+  connect(&session, &Project_Session::closed, this, &Address_View::updateState);
+  connect(&Session_State::process(), &Session_State::operatingModeChanged, this, &Address_View::updateState);
+  updateState();
+}
+
+QWidget* Address_View::makeListPage() {
+  auto* const page = new QWidget;
+  mFilter->setObjectName(QStringLiteral("ui:mAddressFilter"));
+  mFilter->setPlaceholderText(tr("Suchen"));
+  mFilter->setAccessibleName(tr("Adressen suchen"));
+  mFilter->setToolTip(tr("Zeigt die Zeilen, in denen jedes Wort vorkommt: in Adresse, Name, Beschreibung oder "
+                         "Datenpunkttyp. Escape leert das Feld."));
+  mFilter->addAction(Theme::icon(QStringLiteral("search-white")), QLineEdit::LeadingPosition);
+  mFilter->setClearButtonEnabled(true);
+  mFilter->installEventFilter(this);
+  // Escape belongs to whoever stands around this view while there is nothing to clear.
+  auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), page);
+  escape->setContext(Qt::WidgetWithChildrenShortcut);
+  escape->setEnabled(false);
+  connect(escape, &QShortcut::activated, this, &Address_View::clearFilter);
+  connect(mFilter, &QLineEdit::textChanged, escape,
+          [escape](const QString& text) { escape->setEnabled(!text.isEmpty()); });
+
+  QHeaderView* const header = mTree->header();
+  header->setObjectName(QStringLiteral("ui:mAddressHeader"));
+  header->setSectionsMovable(true);
+  header->setFirstSectionMovable(false);
+  // The longest address, at the third level behind its icon.
+  const int icon = mTree->style()->pixelMetric(QStyle::PM_SmallIconSize);
+  const int longest = mTree->fontMetrics().horizontalAdvance(QStringLiteral("31/7/255"));
+  header->resizeSection(Address_Tree_Model::cAddress, 3 * mTree->indentation() + icon + longest + 4 * cGap);
+  header->resizeSection(Address_Tree_Model::cName, cNameWidth);
+  header->resizeSection(Address_Tree_Model::cDescription, cDescriptionWidth);
+  mTreeOrHint->addWidget(mTree);
+  mTreeOrHint->addWidget(mNoHit);
+
+  QPalette quiet = mCount->palette();
+  quiet.setColor(QPalette::WindowText, Theme::color(Theme::Role::SecondaryText));
+  mCount->setPalette(quiet);
+  mCount->setTextFormat(Qt::PlainText);
+  mCount->setIndent(cGap);
+
+  auto* const layout = new QVBoxLayout(page);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(cGap);
+  layout->addWidget(mFilter);
+  layout->addWidget(mTreeOrHint, 1);
+  layout->addWidget(mCount);
+  return page;
+}
+
+bool Address_View::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == mFilter && event->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down) {
+    enterTree();
+    return true;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void Address_View::enterTree() {
+  applyFilter();
+  if (!mTree->currentIndex().isValid()) {
+    mTree->setCurrentIndex(mModel->index(0, 0));
+  }
+  mTree->setFocus(Qt::ShortcutFocusReason);
+}
+
+void Address_View::applyFilter() {
+  mFilterDelay.stop();
+  mModel->setFilter(mFilter->text());
+}
+
+void Address_View::clearFilter() {
+  mFilter->clear();
+  applyFilter();
+}
+
+void Address_View::updateState() {
+  const Address_Tree& tree = mSession.database().mAddresses;
+  const qsizetype mains = tree.mainGroups().size();
+  const qsizetype subs = tree.subGroupCount();
+  if (!mSession.isOpen()) {
+    mEmpty->setText(tr("Kein Projekt ist geöffnet. Hier stehen die Gruppenadressen des Projekts."));
+    mEmpty->setStep({});
+  } else if (mains == 0) {
+    const bool isLocked = Session_State::process().operatingMode();
+    mEmpty->setText(tr("Hier stehen die Gruppenadressen des Projekts. Sie kommen aus dem Export der ETS."));
+    mEmpty->setStep(tr("Adressen &importieren…"));
+    mEmpty->setStepEnabled(!isLocked, isLocked ? Session_State::operatingModeRefusal() : QString());
+  }
+  mPages->setCurrentIndex(mSession.isOpen() && mains > 0 ? 1 : 0);
+
+  const bool isWithoutHit = mModel->isFiltered() && mModel->rowCount() == 0;
+  mNoHit->setText(tr("Keine Zeile enthält \"%1\".").arg(mFilter->text().simplified()));
+  mTreeOrHint->setCurrentIndex(isWithoutHit ? 1 : 0);
+
+  if (mModel->isFiltered()) {
+    mCount->setText(
+        tr("%1 von %2")
+            .arg(QLocale().toString(mModel->shownSubGroupCount()), counted(subs, tr("1 Adresse"), tr("%1 Adressen"))));
+  } else {
+    mCount->setText(QStringList{counted(mains, tr("1 Hauptgruppe"), tr("%1 Hauptgruppen")),
+                                counted(tree.middleGroupCount(), tr("1 Mittelgruppe"), tr("%1 Mittelgruppen")),
+                                counted(subs, tr("1 Adresse"), tr("%1 Adressen"))}
+                        .join(QStringLiteral(", ")));
+  }
+}
+
+void Address_View::saveState(App_Settings& settings) const {
+  const QHeaderView* const header = mTree->header();
+  settings.setViewState(header->objectName(), header->saveState());
+}
+
+void Address_View::restoreState(const App_Settings& settings) {
+  QHeaderView* const header = mTree->header();
+  header->restoreState(settings.viewState(header->objectName()));
+}

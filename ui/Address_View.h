@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+class Address_Tree_Model;
+class Address_Tree_View;
+class App_Settings;
+class Empty_Hint;
+class Project_Session;
+class QLabel;
+class QLineEdit;
+class QStackedLayout;
+class QStackedWidget;
+
+/// The group addresses of the open project: a filter field, the tree, and a line that counts. Without addresses, or
+/// without a project, a text says what belongs here. The session outlives the view.
+class Address_View : public QWidget {
+  Q_OBJECT
+
+public:
+  explicit Address_View(Project_Session& session, QWidget* parent = nullptr);
+
+  /// Width and order of the columns.
+  void saveState(App_Settings& settings) const;
+  void restoreState(const App_Settings& settings);
+
+signals:
+  /// The button of the empty project.
+  void importRequested();
+  /// An edit was not done; the German text tells why. Comes from the event loop, so a box may be shown.
+  void refused(const QString& text);
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+  [[nodiscard]] QWidget* makeListPage();
+  void applyFilter();
+  void clearFilter();
+  void enterTree();
+  void updateState();
+
+  Project_Session& mSession;
+  Address_Tree_Model* mModel;
+  QStackedLayout* mPages;
+  Empty_Hint* mEmpty;
+  QLineEdit* mFilter;
+  QStackedWidget* mTreeOrHint;
+  Address_Tree_View* mTree;
+  Empty_Hint* mNoHit;
+  QLabel* mCount;
+  QTimer mFilterDelay;
+};

@@ -1,0 +1,138 @@
+#include "ui/Project_Tree_View.h"
+
+#include "base/Session_State.h"
+#include "ui/Named_Icon_Delegate.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QRegularExpression>
+
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/// Rows from the top level down: comparing them compares what stands higher in the tree.
+std::vector<int> placeOf(QModelIndex index) {
+  std::vector<int> rows;
+  for (; index.isValid(); index = index.parent()) {
+    rows.insert(rows.begin(), index.row());
+  }
+  return rows;
+}
+
+QString cellText(const QModelIndex& index) {
+  static const QRegularExpression breaks(QStringLiteral("[\\t\\r\\n]+"));
+  return index.data().toString().replace(breaks, QStringLiteral(" "));
+}
+
+} // namespace
+
+Project_Tree_View::Project_Tree_View(QWidget* parent) : QTreeView(parent) {
+  setItemDelegate(new Named_Icon_Delegate(this));
+  setAlternatingRowColors(true);
+  setUniformRowHeights(true);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(DoubleClicked);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setContextMenuPolicy(Qt::ActionsContextMenu);
+  mRename = addCommand(tr("&Umbenennen"), QKeySequence(Qt::Key_F2), &Project_Tree_View::onRename);
+  mCopy = addCommand(tr("&Kopieren"), QKeySequence::Copy, &Project_Tree_View::onCopy);
+  connect(&Session_State::process(), &Session_State::operatingModeChanged, this, &Project_Tree_View::updateCommands);
+  updateCommands();
+}
+
+QAction* Project_Tree_View::addCommand(const QString& text, const QKeySequence& keys,
+                                       void (Project_Tree_View::*slot)()) {
+  auto* const action = new QAction(text, this);
+  action->setShortcut(keys);
+  action->setShortcutContext(Qt::WidgetShortcut);
+  connect(action, &QAction::triggered, this, slot);
+  addAction(action);
+  return action;
+}
+
+void Project_Tree_View::setModel(QAbstractItemModel* model) {
+  QTreeView::setModel(model);
+  // After the base class has heard of it, so that no command belongs to a row that is gone.
+  connect(model, &QAbstractItemModel::modelReset, this, &Project_Tree_View::updateCommands);
+  connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &Project_Tree_View::updateCommands);
+  updateCommands();
+}
+
+QAction* Project_Tree_View::commandOf(const QKeyEvent& event) const {
+  const QKeySequence keys(event.keyCombination());
+  for (QAction* const action : actions()) {
+    if (action->isEnabled() && action->shortcut() == keys) {
+      return action;
+    }
+  }
+  return nullptr;
+}
+
+/// While the tree has the focus its commands come before equal keys of the window, which would otherwise leave both
+/// without effect.
+bool Project_Tree_View::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && commandOf(static_cast<QKeyEvent&>(*event))) {
+    event->accept();
+    return true;
+  }
+  return QTreeView::event(event);
+}
+
+void Project_Tree_View::keyPressEvent(QKeyEvent* event) {
+  if (QAction* const command = commandOf(*event)) {
+    command->trigger();
+  } else {
+    QTreeView::keyPressEvent(event);
+  }
+}
+
+void Project_Tree_View::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTreeView::currentChanged(current, previous);
+  updateCommands();
+}
+
+QModelIndex Project_Tree_View::renameIndex() const {
+  return currentIndex().siblingAtColumn(mRenameColumn);
+}
+
+void Project_Tree_View::updateCommands() {
+  mRename->setEnabled(renameIndex().flags().testFlag(Qt::ItemIsEditable));
+  mCopy->setEnabled(selectionModel() && selectionModel()->hasSelection());
+}
+
+void Project_Tree_View::onRename() {
+  const QModelIndex index = renameIndex();
+  scrollTo(index);
+  edit(index);
+}
+
+QString Project_Tree_View::selectedText() const {
+  // Selected rows come in the order of selecting.
+  std::map<std::vector<int>, QModelIndex> rows;
+  for (const QModelIndex& row : selectionModel()->selectedRows()) {
+    rows.emplace(placeOf(row), row);
+  }
+  QStringList lines;
+  for (const auto& [place, row] : std::as_const(rows)) {
+    QStringList cells;
+    for (int i = 0; i < header()->count(); ++i) {
+      const int column = header()->logicalIndex(i);
+      if (!isColumnHidden(column)) {
+        cells.append(cellText(row.siblingAtColumn(column)));
+      }
+    }
+    lines.append(cells.join(QLatin1Char('\t')));
+  }
+  return lines.join(QLatin1Char('\n'));
+}
+
+void Project_Tree_View::onCopy() {
+  QGuiApplication::clipboard()->setText(selectedText());
+}

@@ -1,0 +1,80 @@
+#include "ui/Theme_Style.h"
+
+#include "ui/Theme.h"
+
+#include <QStyleOption>
+
+namespace {
+
+/// By how much Fusion darkens the colours it is given, in percent.
+constexpr int cFocusDarker = 125;
+constexpr int cOutlineDarker = 140;
+constexpr int cButtonLighter = 130;
+
+void brightenFocus(QPalette& palette) {
+  palette.setColor(QPalette::Highlight, Theme::color(Theme::Role::Accent).lighter(cFocusDarker));
+}
+
+/// Draws a copy of the option with that change; false when it is of another class, which the style tells by a cast.
+template <class Option, class Change, class Draw>
+bool drawAs(const QStyleOption* option, Change&& change, Draw&& draw) {
+  const auto* const same = qstyleoption_cast<const Option*>(option);
+  if (same) {
+    Option copy(*same);
+    change(copy.palette);
+    draw(copy);
+  }
+  return same != nullptr;
+}
+
+} // namespace
+
+Theme_Style::Theme_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void Theme_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  const auto draw = [&](const QStyleOption& copy) { QProxyStyle::drawPrimitive(element, &copy, painter, widget); };
+  const auto brightenIndicator = [option](QPalette& palette) {
+    brightenFocus(palette);
+    if (option->state.testFlag(State_Enabled)) {
+      palette.setColor(QPalette::Window, Theme::color(Theme::Role::Indicator).lighter(cOutlineDarker));
+    }
+  };
+  bool isDrawn = false;
+  switch (element) {
+  case PE_IndicatorCheckBox:
+  case PE_IndicatorRadioButton:
+    isDrawn = drawAs<QStyleOptionButton>(option, brightenIndicator, draw) ||
+              drawAs<QStyleOption>(option, brightenIndicator, draw);
+    break;
+  case PE_FrameFocusRect:
+    isDrawn = drawAs<QStyleOptionFocusRect>(option, brightenFocus, draw);
+    break;
+  case PE_FrameLineEdit:
+    isDrawn = drawAs<QStyleOptionFrame>(option, brightenFocus, draw);
+    break;
+  default:
+    break;
+  }
+  if (!isDrawn) {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+}
+
+void Theme_Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                     const QWidget* widget) const {
+  const auto draw = [&](const QStyleOptionComplex& copy) {
+    QProxyStyle::drawComplexControl(control, &copy, painter, widget);
+  };
+  const auto calmButton = [](QPalette& palette) {
+    brightenFocus(palette);
+    palette.setColor(QPalette::Button, palette.color(QPalette::Button).darker(cButtonLighter));
+  };
+  const bool isDrawn = drawAs<QStyleOptionComboBox>(option, calmButton, draw) ||
+                       drawAs<QStyleOptionSpinBox>(option, calmButton, draw) ||
+                       drawAs<QStyleOptionSlider>(option, brightenFocus, draw) ||
+                       drawAs<QStyleOptionGroupBox>(option, brightenFocus, draw);
+  if (!isDrawn) {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// The toolkit's Fusion style made readable on dark ground. Fusion derives the colours of lines from those of areas:
+/// the keyboard focus from selected text, the outline of a check box from the window; both come out too dark here.
+class Theme_Style : public QProxyStyle {
+  Q_OBJECT
+
+public:
+  Theme_Style();
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override;
+};
