@@ -148,8 +148,13 @@ bool ProjectDatabase::attach(const QString& path) {
 }
 
 void ProjectDatabase::createTables() {
+  // Each statement alone would wait for the disk.
+  mDatabase.execute("BEGIN TRANSACTION");
   for (const DB_Table_Row& row : DB_Tables::all()) {
     mDatabase.execute("CREATE TABLE IF NOT EXISTS " + quoted(row.mTable) + '(' + DB_Tables::layout(row.mTable) + ')');
+  }
+  if (!mDatabase.execute("END TRANSACTION")) {
+    mDatabase.execute("ROLLBACK TRANSACTION");
   }
 }
 
