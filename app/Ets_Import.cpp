@@ -1,0 +1,62 @@
+#include "app/Ets_Import.h"
+
+#include "db/Address_Import.h"
+#include "db/Ets_Xml_Reader.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+
+namespace {
+
+constexpr qsizetype cShownFaults = 10;
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("Ets_Import", text);
+}
+
+QString number(qsizetype value) {
+  return QLocale().toString(static_cast<qlonglong>(value));
+}
+
+QString report(const QString& name, const Address_Import::Result& result, const QStringList& faults) {
+  QStringList lines{tr("Neue Gruppenadressen aus \"%1\": %2.").arg(name, number(result.mAdded))};
+  if (result.mExisting > 0) {
+    lines.append(tr("Schon vorhanden und unverändert: %1.").arg(number(result.mExisting)));
+  }
+  if (result.mRepeated > 0) {
+    lines.append(tr("In der Datei mehrfach genannt, der erste Eintrag zählt: %1.").arg(number(result.mRepeated)));
+  }
+  if (!faults.isEmpty()) {
+    lines.append({QString(), tr("Nicht übernommen: %1.").arg(number(faults.size()))});
+    lines.append(faults.first(qMin(faults.size(), cShownFaults)));
+    if (faults.size() > cShownFaults) {
+      lines.append(tr("… und %1 weitere.").arg(number(faults.size() - cShownFaults)));
+    }
+  }
+  return lines.join(u'\n');
+}
+
+} // namespace
+
+Ets_Import::Outcome Ets_Import::run(Project_Session& session, const QString& path) {
+  const QString name = QFileInfo(path).fileName();
+  const auto failed = [&name](const QString& reason) {
+    return Outcome{false, tr("Die Datei \"%1\" wurde nicht importiert.").arg(name) + u'\n' + reason};
+  };
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    return failed(file.errorString());
+  }
+  Ets_Groups groups;
+  QString error;
+  if (!Ets_Xml_Reader::read(file, groups, error)) {
+    return failed(error);
+  }
+  Address_Import::Result result;
+  if (const Edit_Result edit = Address_Import::addNew(session, groups, result); !edit) {
+    return failed(edit.mError);
+  }
+  return {true, report(name, result, groups.mFaults)};
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QList>
+#include <QMainWindow>
+
+class Address_View;
+class App_Settings;
+class Page_View;
+class Project_Overview;
+class Project_Session;
+class Start_Page;
+class QAction;
+class QSplitter;
+class QStackedWidget;
+class QTabWidget;
+
+/// The frame of the main window: its parts and their layout, its title, what it remembers of its looks.
+///
+///     mSplitterMain   stack (start page | project)   |   tabs (Navigation | Variablen)
+///
+/// On a kiosk it fills the screen, without menus and tool bars, and remembers nothing.
+class Main_Window_Base : public QMainWindow {
+  Q_OBJECT
+
+public:
+  /// Shows the window in its last place and size, a kiosk's on the whole screen.
+  void showAsRemembered();
+
+protected:
+  /// Session and settings must outlive the window.
+  Main_Window_Base(Project_Session& session, App_Settings& settings, bool isKiosk);
+
+  /// After the menus and tool bars are there.
+  void buildContents(const QList<QAction*>& startActions, const QList<QAction*>& nextSteps);
+  /// Stores geometry, bars, splitters and headers.
+  void rememberViews();
+
+  void showStartPage();
+  void showProjectPage();
+  void showAddresses();
+  /// In the status bar, for some seconds.
+  void showInfo(const QString& text);
+
+  [[nodiscard]] bool isKiosk() const { return mIsKiosk; }
+  [[nodiscard]] Start_Page& startPage() { return *mStartPage; }
+  [[nodiscard]] Project_Overview& overview() { return *mOverview; }
+  [[nodiscard]] Address_View& addressView() { return *mAddressView; }
+
+  Project_Session& mSession;
+  App_Settings& mSettings;
+
+private:
+  void restoreViews();
+  void updateTitle();
+  [[nodiscard]] QList<QSplitter*> splitters() const;
+
+  bool mIsKiosk;
+  QSplitter* mSplitterMain = nullptr;
+  QStackedWidget* mStack = nullptr;
+  QTabWidget* mTabs = nullptr;
+  Start_Page* mStartPage = nullptr;
+  Project_Overview* mOverview = nullptr;
+  Page_View* mPageView = nullptr;
+  Address_View* mAddressView = nullptr;
+};

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/Main_Window_Base.h"
+
+#include <memory>
+
+class Project_Lifecycle;
+class Session_State;
+class Window_Actions;
+class Window_Dialogs;
+
+/// The studio's one window: each command of the action table is a slot here, which passes it on to the part that does
+/// the work.
+class Main_Window_Dev : public Main_Window_Base {
+  Q_OBJECT
+
+public:
+  /// All of them must outlive the window. On a kiosk the operating mode is on.
+  Main_Window_Dev(Project_Session& session, App_Settings& settings, Session_State& state, bool isKiosk);
+  ~Main_Window_Dev() override;
+
+  [[nodiscard]] Project_Lifecycle& lifecycle() { return *mLifecycle; }
+
+public slots:
+  void onMenuFileNew();
+  void onMenuFileOpen();
+  void onMenuFileDemo();
+  void onMenuFileSave();
+  void onMenuFileSaveAs();
+  void onMenuFileClose();
+  void onMenuFileQuit();
+  void onShowWelcome();
+  void onEdit_Undo();
+  void onEdit_Redo();
+  void onEditGeopos();
+  void onEdit_ODBC_Import();
+  void onShowAboutDlg();
+
+protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+private:
+  void connectParts();
+  void updateActions();
+  void updateRecentProjects();
+  void onOpenPath(const QString& path);
+  void onBuildEditors(int percent);
+
+  Session_State& mState;
+  std::unique_ptr<Window_Dialogs> mDialogs;
+  Window_Actions* mActions;
+  Project_Lifecycle* mLifecycle;
+  QString mImportFolder; ///< of the last import in this run
+};

@@ -1,0 +1,45 @@
+#include "app/Page_Parts.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+constexpr int cHeadingPoints = 12;
+constexpr int cGap = 8;
+
+/// Without the action's access key, which belongs to its menu.
+QPushButton* makeButton(QAction* action) {
+  auto* const button = new QPushButton(action->icon(), action->iconText());
+  const auto follow = [button, action] {
+    button->setEnabled(action->isEnabled());
+    button->setToolTip(action->toolTip());
+    button->setStatusTip(action->statusTip());
+  };
+  follow();
+  QObject::connect(action, &QAction::changed, button, follow);
+  QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
+  return button;
+}
+
+} // namespace
+
+QLabel* Page_Parts::makeHeading(const QString& text) {
+  auto* const label = new QLabel(text);
+  QFont font = label->font();
+  font.setBold(true);
+  font.setPointSize(cHeadingPoints);
+  label->setFont(font);
+  return label;
+}
+
+QHBoxLayout* Page_Parts::makeButtons(const QList<QAction*>& actions) {
+  auto* const row = new QHBoxLayout;
+  row->setSpacing(cGap);
+  for (QAction* const action : actions) {
+    row->addWidget(makeButton(action));
+  }
+  row->addStretch();
+  return row;
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QAction;
+class QHBoxLayout;
+class QLabel;
+
+/// What the start page and the project overview are put together from.
+namespace Page_Parts {
+
+/// Free space around a page, pixels.
+inline constexpr int cMargin = 24;
+
+[[nodiscard]] QLabel* makeHeading(const QString& text);
+
+/// A row of buttons, one for each action, which stay enabled and disabled with it.
+[[nodiscard]] QHBoxLayout* makeButtons(const QList<QAction*>& actions);
+
+} // namespace Page_Parts

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "app/Lifecycle_Dialogs.h"
+#include "db/Project_Session.h"
+
+#include <QObject>
+#include <QString>
+
+class App_Settings;
+class Session_State;
+
+/// New, open, save, save as, close and quit: in which order a project's user is asked what, and what then happens.
+///
+/// One operation runs at a time; what comes in meanwhile (a file dropped while a question is open) is refused quietly.
+/// None starts while an assistant's tool call runs. Every operation answers whether it was carried out.
+class Project_Lifecycle : public QObject {
+  Q_OBJECT
+
+public:
+  /// All of them must outlive this object.
+  Project_Lifecycle(Project_Session& session, App_Settings& settings, Session_State& state, Lifecycle_Dialogs& dialogs,
+                    QObject* parent = nullptr);
+
+  bool newProject();
+  bool open();
+  bool open(const QString& path);
+  /// The demo project in its place in the user's data folder, built there when it is missing or cannot be read.
+  bool openDemo();
+  bool save();
+  bool saveAs();
+  bool close();
+  /// Asks about unsaved changes; the project stays open.
+  bool mayQuit();
+
+  [[nodiscard]] bool isBusy() const { return mIsBusy; }
+
+signals:
+  /// The project is loaded; whoever shows editors builds them now. Comes at 40, 60 and 80 percent.
+  void buildEditors(int percent);
+  void recentProjectsChanged();
+  /// For the status bar.
+  void info(const QString& text);
+
+private:
+  class Operation;
+
+  bool settleUnsaved();
+  bool openFile(const QString& path);
+  [[nodiscard]] bool askBeforeOpening(const QString& path, const QString& target);
+  [[nodiscard]] bool isAlreadyOpenAccepted(const QString& path);
+  [[nodiscard]] bool isReplacingAccepted(const QString& path);
+  bool load(const QString& target);
+  void afterLoading(bool isRemembered);
+  void tellDamage();
+  void reportMissing(const QString& path);
+  [[nodiscard]] bool mayOverwrite();
+  bool saveFile();
+  bool finishSaving(Project_Session::Save_Result result);
+  bool create(const QString& path);
+  void remember(const QString& path);
+  [[nodiscard]] QString folder() const;
+
+  Project_Session& mSession;
+  App_Settings& mSettings;
+  Session_State& mState;
+  Lifecycle_Dialogs& mDialogs;
+  bool mIsBusy = false;
+  bool mIsDamaged = false; ///< the project file holds what could not be read and would be lost by saving
+};

@@ -1,0 +1,98 @@
+#include "app/Project_Overview.h"
+
+#include "app/Page_Parts.h"
+#include "db/Project_Session.h"
+#include "ui/Theme.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QVBoxLayout>
+
+namespace {
+
+QString number(qsizetype value) {
+  return QLocale().toString(static_cast<qlonglong>(value));
+}
+
+} // namespace
+
+Project_Overview::Project_Overview(Project_Session& session, const QList<QAction*>& actions, QWidget* parent)
+    : QWidget(parent),
+      mSession(session),
+      mName(Page_Parts::makeHeading({})) {
+  auto* const form = new QFormLayout;
+  form->setHorizontalSpacing(Page_Parts::cMargin);
+  mFile = addRow(*form, tr("Datei"));
+  mSaved = addRow(*form, tr("Gespeichert"));
+  mLogicPages = addRow(*form, tr("Programmseiten"));
+  mVisuPages = addRow(*form, tr("Visualisierungsseiten"));
+  mAddresses = addRow(*form, tr("Gruppenadressen"));
+  mPosition = addRow(*form, tr("Geographische Position"));
+
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin);
+  layout->setSpacing(12);
+  layout->addWidget(mName);
+  layout->addLayout(form);
+  layout->addSpacing(12);
+  layout->addWidget(Page_Parts::makeHeading(tr("Nächste Schritte")));
+  layout->addLayout(Page_Parts::makeButtons(actions));
+  layout->addStretch();
+
+  mTimer.setSingleShot(true);
+  mTimer.setInterval(0);
+  connect(&mTimer, &QTimer::timeout, this, &Project_Overview::refresh);
+  const auto later = [this] { mTimer.start(); };
+  connect(&session, &Project_Session::opened, this, later);
+  connect(&session, &Project_Session::closed, this, later);
+  connect(&session, &Project_Session::pathChanged, this, later);
+  connect(&session.history(), &History::changed, this, later);
+  const ProjectDatabase& database = session.database();
+  connect(&database.mAddresses, &Address_Tree::structureChanged, this, later);
+  connect(&database.mFbPages, &DB_Page_List_Signals::structureChanged, this, later);
+  connect(&database.mWidgetPages, &DB_Page_List_Signals::structureChanged, this, later);
+  refresh();
+}
+
+QLabel* Project_Overview::addRow(QFormLayout& form, const QString& caption) {
+  auto* const value = new QLabel;
+  value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  value->setWordWrap(true);
+  value->setTextFormat(Qt::PlainText);
+  auto* const label = new QLabel(caption);
+  QPalette colours = label->palette();
+  colours.setColor(QPalette::WindowText, Theme::color(Theme::Role::SecondaryText));
+  label->setPalette(colours);
+  form.addRow(label, value);
+  return value;
+}
+
+void Project_Overview::refresh() {
+  mTimer.stop();
+  const ProjectDatabase& database = mSession.database();
+  const DB_Project& project = database.mProject;
+  const QLocale locale;
+  mName->setText(QFileInfo(mSession.path()).completeBaseName());
+  mFile->setText(QDir::toNativeSeparators(mSession.path()));
+  mSaved->setText(project.mTimestamp > 0
+                      ? locale.toString(QDateTime::fromSecsSinceEpoch(project.mTimestamp), QLocale::ShortFormat)
+                      : tr("noch nie"));
+  mLogicPages->setText(
+      tr("%1 (Bausteine: %2)").arg(number(database.mFbPages.pages().size()), number(database.mFbPages.childCount())));
+  mVisuPages->setText(
+      tr("%1 (Elemente: %2)")
+          .arg(number(database.mWidgetPages.pages().size()), number(database.mWidgetPages.childCount())));
+  const Address_Tree& tree = database.mAddresses;
+  mAddresses->setText(
+      tr("%1 (Hauptgruppen: %2, Mittelgruppen: %3)")
+          .arg(number(tree.subGroupCount()), number(tree.mainGroups().size()), number(tree.middleGroupCount())));
+  const bool isPlaced = project.mGeopos_Latitude != 0 || project.mGeopos_Longitude != 0;
+  mPosition->setText(isPlaced ? tr("%1° Breite, %2° Länge")
+                                    .arg(locale.toString(project.mGeopos_Latitude, 'f', 4),
+                                         locale.toString(project.mGeopos_Longitude, 'f', 4))
+                              : tr("nicht gesetzt"));
+}
