@@ -110,9 +110,9 @@ void App_Settings::addLastProject(const QString& path) {
 void App_Settings::removeLastProject(const QString& path) {
   const QStringList paths = lastProjects();
   mStore->remove(cGroup + cLastProjectsKey);
-  for (auto it = paths.crbegin(); it != paths.crend(); ++it) {
-    if (*it != path) {
-      addLastProject(*it);
+  for (qsizetype i = paths.size() - 1; i >= 0; --i) {
+    if (paths[i] != path) {
+      addLastProject(paths[i]);
     }
   }
 }

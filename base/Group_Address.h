@@ -41,6 +41,8 @@ public:
   [[nodiscard]] static QString mainGroupText(int main);
   [[nodiscard]] static QString middleGroupText(int main, int middle);
 
+  // The check takes the 0 of a rewritten comparison for a pointer.
+  // NOLINTNEXTLINE(modernize-use-nullptr)
   friend constexpr auto operator<=>(const Group_Address&, const Group_Address&) = default;
   /// Neighbours stay together, which makes filling an index of a whole bus several times as fast.
   friend size_t qHash(const Group_Address& address, size_t seed = 0) {

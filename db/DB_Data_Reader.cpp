@@ -138,14 +138,14 @@ qsizetype DB_Data_Reader::lookUp(QByteArrayView key, qsizetype fromMark) {
     buildIndex();
   }
   const auto compareEnd = [this, key](quint32 index) {
-    qsizetype i = mMarks[index];
-    for (auto k = key.rbegin(); k != key.rend(); ++k) {
+    qsizetype at = mMarks[index];
+    for (qsizetype k = key.size() - 1; k >= 0; --k, --at) {
       // Walked only as far as `key` reaches: a foreign key may be as long as the whole text.
-      const bool isOver = i == 0 || mText[i - 1] == cKeyEnd || mText[i - 1] == cValueEnd;
-      if (isOver || mText[i - 1] < *k) {
+      const bool isOver = at == 0 || mText[at - 1] == cKeyEnd || mText[at - 1] == cValueEnd;
+      if (isOver || mText[at - 1] < key[k]) {
         return -1;
       }
-      if (mText[--i] > *k) {
+      if (mText[at - 1] > key[k]) {
         return 1;
       }
     }

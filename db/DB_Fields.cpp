@@ -8,7 +8,7 @@
 namespace {
 
 /// How many bytes the values of one record may yield beyond the size of its text.
-constexpr qsizetype cRepeatedValuesLimit = 16 * 1024 * 1024;
+constexpr qsizetype cRepeatedValuesLimit = 16'777'216;
 
 /// Texts from outside may carry the marker bytes, which would end an item early: they are left out.
 void appendText(QByteArray& data, const QString& text) {

@@ -107,7 +107,7 @@ inline QByteArray withLists(const Kind& kind, int elements) {
 /// `seed` above 0 makes another one.
 inline QByteArray filled(const Kind& kind, int seed = 0) {
   static QHash<std::pair<QByteArray, int>, QByteArray> known;
-  if (const QByteArray data = known.value({kind.mName, seed}); !data.isEmpty()) {
+  if (QByteArray data = known.value({kind.mName, seed}); !data.isEmpty()) {
     return data;
   }
   const std::unique_ptr<DB_Data_Base> record = kind.mMake();
@@ -129,7 +129,7 @@ inline QByteArray filled(const Kind& kind, int seed = 0) {
       }
     }
   };
-  const auto number = [seed](qsizetype i) { return QByteArray::number(i + 1000 + 10'000 * seed); };
+  const auto number = [seed](qsizetype i) { return QByteArray::number(i + 1000 + qsizetype(10'000) * seed); };
   offer([&](qsizetype i) { return "Wert " + number(i) + " äß€"; });
   offer([&](qsizetype i) { return "01234567-89ab-4cde-8f01-" + number(i).rightJustified(12, '0'); });
   offer([&](qsizetype i) { return number(i) + ".25"; });
