@@ -23,8 +23,8 @@ namespace {
 
 constexpr int cGap = 4;
 constexpr int cFilterDelayMs = 120;
-constexpr int cNameWidth = 220;
-constexpr int cDescriptionWidth = 160;
+constexpr int cNameWidth = 200;
+constexpr int cDescriptionWidth = 110;
 
 QString counted(qsizetype count, const QString& one, const QString& many) {
   return count == 1 ? one : many.arg(QLocale().toString(count));
