@@ -18,7 +18,7 @@ struct DB_FB_Pin {
   void fields(DB_Fields& fields);
 };
 
-/// A register that a Modbus master block polls or writes (MODBUS Application Protocol Specification V1.1b3).
+/// A register that a Modbus master block polls or writes (MODBUS Application Protocol V1.1b3).
 struct DB_Modbus_Register {
   QString mName;
   int mAddress = 0;      ///< counted from 0
