@@ -38,7 +38,8 @@ const char* DB_Data_Reader::findByte(char byte, qsizetype from) const {
 /// holds no mark. The result is where the value ends; a negative one leaves the key to the search.
 qsizetype DB_Data_Reader::findNext(QByteArrayView key) {
   const qsizetype mark = mInOrder + key.size();
-  if (mark >= mText.size() || mText[mark] != cKeyEnd || !endsAt(key, mark, mInOrder)) {
+  if (mark >= mText.size() || mText[mark] != cKeyEnd ||
+      std::memcmp(mText.data() + mInOrder, key.data(), static_cast<size_t>(key.size())) != 0) {
     return -1;
   }
   const qsizetype end = findPlainEnd(mark + 1);
@@ -89,19 +90,19 @@ bool DB_Data_Reader::endsAt(QByteArrayView key, qsizetype mark, qsizetype from) 
   return start >= from && std::memcmp(mText.data() + start, key.data(), static_cast<size_t>(key.size())) == 0;
 }
 
-/// From the mark at `fromMark` on; a negative result is a miss.
-qsizetype DB_Data_Reader::scan(QByteArrayView key, qsizetype fromMark) {
+/// Among the marks from `fromMark` to before `toMark`; a negative result is a miss.
+qsizetype DB_Data_Reader::scan(QByteArrayView key, qsizetype fromMark, qsizetype toMark) {
   const qsizetype from = fromMark == 0 ? 0 : mCursor;
   const quint32 mask = key.size() < cTailSize ? ~quint32(0) << 8 * (cTailSize - key.size()) : ~quint32(0);
   const quint32 tail = tailOf(key.data(), key.data() + key.size());
   const quint32* const tails = mTails.constData();
-  for (qsizetype i = fromMark; i < mMarks.size(); ++i) {
+  for (qsizetype i = fromMark; i < toMark; ++i) {
     if ((tails[i] & mask) == tail && endsAt(key, mMarks[i], from)) {
       mWork += i - fromMark;
       return i;
     }
   }
-  mWork += mMarks.size() - fromMark;
+  mWork += toMark - fromMark;
   return -1;
 }
 
@@ -138,14 +139,14 @@ qsizetype DB_Data_Reader::lookUp(QByteArrayView key, qsizetype fromMark) {
     buildIndex();
   }
   const auto compareEnd = [this, key](quint32 index) {
-    qsizetype at = mMarks[index];
-    for (qsizetype k = key.size() - 1; k >= 0; --k, --at) {
+    qsizetype i = mMarks[index];
+    for (qsizetype k = key.size() - 1; k >= 0; --k) {
       // Walked only as far as `key` reaches: a foreign key may be as long as the whole text.
-      const bool isOver = at == 0 || mText[at - 1] == cKeyEnd || mText[at - 1] == cValueEnd;
-      if (isOver || mText[at - 1] < key[k]) {
+      const bool isOver = i == 0 || mText[i - 1] == cKeyEnd || mText[i - 1] == cValueEnd;
+      if (isOver || mText[i - 1] < key[k]) {
         return -1;
       }
-      if (mText[at - 1] > key[k]) {
+      if (mText[--i] > key[k]) {
         return 1;
       }
     }
@@ -166,10 +167,13 @@ qsizetype DB_Data_Reader::lookUp(QByteArrayView key, qsizetype fromMark) {
 
 /// From the cursor, then from the beginning; a negative result is a miss.
 qsizetype DB_Data_Reader::search(QByteArrayView key) {
-  const bool isIndexed = mWork > cWorkBeforeIndex;
-  const auto searchFrom = [&](qsizetype mark) { return isIndexed ? lookUp(key, mark) : scan(key, mark); };
-  const qsizetype at = searchFrom(mNextMark);
-  return at < 0 && mNextMark > 0 ? searchFrom(0) : at;
+  if (mWork > cWorkBeforeIndex) {
+    const qsizetype at = lookUp(key, mNextMark);
+    return at < 0 && mNextMark > 0 ? lookUp(key, 0) : at;
+  }
+  // A key before the cursor cannot reach beyond it, so the second search need not pass the rest again.
+  const qsizetype at = scan(key, mNextMark, mMarks.size());
+  return at < 0 ? scan(key, 0, mNextMark) : at;
 }
 
 std::optional<QByteArrayView> DB_Data_Reader::find(QByteArrayView key) {

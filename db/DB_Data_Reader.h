@@ -46,7 +46,7 @@ private:
   [[nodiscard]] qsizetype findPlainEnd(qsizetype from) const;
   [[nodiscard]] const char* findByte(char byte, qsizetype from) const;
   void findMarks();
-  [[nodiscard]] qsizetype scan(QByteArrayView key, qsizetype fromMark);
+  [[nodiscard]] qsizetype scan(QByteArrayView key, qsizetype fromMark, qsizetype toMark);
   [[nodiscard]] qsizetype lookUp(QByteArrayView key, qsizetype fromMark);
   [[nodiscard]] qsizetype search(QByteArrayView key);
   [[nodiscard]] bool endsAt(QByteArrayView key, qsizetype mark, qsizetype from) const;

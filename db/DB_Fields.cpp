@@ -8,7 +8,7 @@
 namespace {
 
 /// How many bytes the values of one record may yield beyond the size of its text.
-constexpr qsizetype cRepeatedValuesLimit = 16'777'216;
+constexpr qsizetype cRepeatedValuesLimit = qsizetype(16) * 1024 * 1024;
 
 /// Texts from outside may carry the marker bytes, which would end an item early: they are left out.
 void appendText(QByteArray& data, const QString& text) {
@@ -111,12 +111,8 @@ void DB_Fields::pushIndex(qsizetype index) {
   mSuffix.append(buffer.data(), result.ptr - buffer.data());
 }
 
-QByteArrayView DB_Fields::fullKey(Key key) {
-  const auto keySize = static_cast<qsizetype>(key.size());
-  if (mPrefix.isEmpty() && mSuffix.isEmpty()) {
-    return {key.data(), keySize};
-  }
-  const qsizetype size = mPrefix.size() + keySize + mSuffix.size();
+QByteArrayView DB_Fields::composedKey(Key key) {
+  const qsizetype size = mPrefix.size() + static_cast<qsizetype>(key.size()) + mSuffix.size();
   if (mFullKey.size() < size) {
     mFullKey.resize(size);
   }

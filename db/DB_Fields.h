@@ -99,7 +99,11 @@ private:
 
   qsizetype pushPrefix(Key key);
   void pushIndex(qsizetype index);
-  [[nodiscard]] QByteArrayView fullKey(Key key);
+  [[nodiscard]] QByteArrayView fullKey(Key key) {
+    const bool isPlain = mPrefix.isEmpty() && mSuffix.isEmpty();
+    return isPlain ? QByteArrayView(key.data(), static_cast<qsizetype>(key.size())) : composedKey(key);
+  }
+  [[nodiscard]] QByteArrayView composedKey(Key key);
   [[nodiscard]] std::optional<QByteArrayView> find(Key key);
   void collect(Key key);
   void beginItem(Key key);
