@@ -144,6 +144,10 @@ bool Project_Lifecycle::openDemo() {
     afterLoading(false);
     return true;
   }
+  const QString unreadable = tr("Das Demo-Projekt \"%1\" ist nicht lesbar. Neu anlegen?").arg(native(path));
+  if (!isAlreadyOpenAccepted(path) || (QFileInfo::exists(path) && !mDialogs.askYesNo(unreadable))) {
+    return false;
+  }
   QString error;
   if (!Demo_Project::build(mSession, path, error)) {
     mDialogs.showMessage(tr("Das Demo-Projekt kann nicht angelegt werden.") + u'\n' + error);

@@ -37,7 +37,7 @@ QByteArray inTable(const char* sql, DB_Table table) {
 
 void selectAll(const QString& path, Rows& rows) {
   DB_Sqlite database;
-  if (!database.open(path, DB_Sqlite::Mode::ReadOnly)) {
+  if (!database.open(path, DB_Sqlite::Mode::Immutable)) {
     stop(database.errorText());
   }
   for (const DB_Table_Row& row : DB_Tables::all()) {

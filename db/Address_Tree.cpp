@@ -67,8 +67,8 @@ Group* insertSorted(DB_Children<Group>& siblings, std::unique_ptr<Group> group, 
 
 /// Puts a group whose number was changed to its new place.
 template <class Group>
-void replace(DB_Children<Group>& siblings, qsizetype index) {
-  insertSorted(siblings, siblings.take(index), -1);
+void replace(DB_Children<Group>& siblings, qsizetype index, qsizetype wanted) {
+  insertSorted(siblings, siblings.take(index), wanted);
 }
 
 } // namespace
@@ -184,17 +184,17 @@ std::unique_ptr<DB_Data_Base> Address_Tree::take(const QUuid& key) {
   return taken;
 }
 
-bool Address_Tree::change(const QUuid& key, const std::function<void(DB_Data_Base&)>& change) {
+bool Address_Tree::change(const QUuid& key, const std::function<void(DB_Data_Base&)>& change, qsizetype wanted) {
   const auto apply = [&](auto& group, auto& siblings) {
     const int number = group.mNumber;
     const qsizetype place = indexIn(siblings, group);
     change(group);
-    if (group.mNumber == number) {
+    if (group.mNumber == number && (wanted < 0 || wanted == place)) {
       emit recordChanged(key);
       return;
     }
     beginChange();
-    replace(siblings, place);
+    replace(siblings, place, wanted);
     findAgain(group, number);
     findAgain(group, group.mNumber);
     endChange();

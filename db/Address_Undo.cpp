@@ -32,6 +32,8 @@ qsizetype Address_Undo::placeOf(const QUuid& id) const {
   return mTree.placeOf(id);
 }
 
-bool Address_Undo::move(const QUuid&, qsizetype) {
-  return false; // the number decides the place
+bool Address_Undo::move(const QUuid& id, qsizetype place) {
+  // The number decides the place, up to groups of the same number.
+  return mTree.change(
+      id, [](DB_Data_Base&) {}, place);
 }

@@ -2,7 +2,6 @@
 
 #include <QtGlobal>
 
-#include <algorithm>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -55,11 +54,6 @@ public:
   /// Iterates over the owning pointers, in order.
   [[nodiscard]] auto begin() const { return mItems.cbegin(); }
   [[nodiscard]] auto end() const { return mItems.cend(); }
-
-  template <class Less>
-  void stableSort(Less&& less) {
-    std::stable_sort(mItems.begin(), mItems.end(), [&less](const auto& a, const auto& b) { return less(*a, *b); });
-  }
 
 private:
   std::vector<std::unique_ptr<Child>> mItems;

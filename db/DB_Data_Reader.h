@@ -4,7 +4,6 @@
 #include <QByteArrayView>
 #include <QVarLengthArray>
 
-#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -29,7 +28,6 @@ public:
 
   [[nodiscard]] qsizetype cursor() const { return mCursor; }
   [[nodiscard]] qsizetype size() const { return mText.size(); }
-  [[nodiscard]] qsizetype itemCount() const { return std::count(mText.begin(), mText.end(), cKeyEnd); }
 
   /// True while some terminated item has not yet been found under its whole key.
   [[nodiscard]] bool hasUnusedItems() const;

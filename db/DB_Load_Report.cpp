@@ -13,14 +13,14 @@ QString tr(const char* text) {
 } // namespace
 
 bool DB_Load_Report::isDamaged() const {
-  return std::any_of(mCounts.cbegin(), mCounts.cend(), [](const Count& count) {
+  return !mFindings.isEmpty() || std::any_of(mCounts.cbegin(), mCounts.cend(), [](const Count& count) {
     return count.mLost > 0 || count.mPartial > 0 || count.mMissing || count.mWrongLayout ||
            !count.mUnreadable.isEmpty();
   });
 }
 
 QStringList DB_Load_Report::lines() const {
-  QStringList lines;
+  QStringList lines = mFindings;
   for (const DB_Table_Row& row : DB_Tables::all()) {
     const Count& count = mCounts[static_cast<size_t>(row.mTable)];
     const QString name = DB_Tables::germanName(row.mTable);

@@ -10,6 +10,8 @@
 /// What could not be read when a project was opened, counted per table, and how that reads for the user.
 class DB_Load_Report {
 public:
+  /// A finding about the file as a whole, a German sentence.
+  void addFinding(const QString& text) { mFindings.append(text); }
   void addLostRow(DB_Table table) { ++count(table).mLost; }
   void addPartialRow(DB_Table table) { ++count(table).mPartial; }
   void addOrphan(DB_Table table) { ++count(table).mOrphans; }
@@ -33,5 +35,6 @@ private:
   };
   Count& count(DB_Table table) { return mCounts[static_cast<size_t>(table)]; }
 
+  QStringList mFindings;
   std::array<Count, DB_Tables::cCount> mCounts;
 };

@@ -1,5 +1,8 @@
 #include "db/DB_Sqlite.h"
 
+#include <QFileInfo>
+#include <QUrl>
+
 #include <sqlite3.h>
 
 #include <cstdio>
@@ -61,13 +64,15 @@ QByteArray DB_Statement::columnName(int column) const {
 
 bool DB_Sqlite::open(const QString& path, Mode mode) {
   close();
+  QByteArray name = path.toUtf8();
   int flags = SQLITE_OPEN_READWRITE;
-  if (mode == Mode::ReadOnly) {
-    flags = SQLITE_OPEN_READONLY;
+  if (mode == Mode::Immutable) {
+    name = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded() + "?immutable=1";
+    flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
   } else if (mode == Mode::Create) {
     flags |= SQLITE_OPEN_CREATE;
   }
-  const int result = sqlite3_open_v2(path.toUtf8().constData(), &mHandle, flags, nullptr);
+  const int result = sqlite3_open_v2(name.constData(), &mHandle, flags, nullptr);
   if (result == SQLITE_OK) {
     return true;
   }

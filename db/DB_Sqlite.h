@@ -41,7 +41,11 @@ private:
 /// An open SQLite database; closed with the object.
 class DB_Sqlite {
 public:
-  enum class Mode { ReadOnly, ReadWrite, Create };
+  enum class Mode {
+    Immutable, ///< only read, and nothing is written beside the file either: nobody may change it meanwhile
+    ReadWrite,
+    Create, ///< as ReadWrite, and a missing file is made
+  };
 
   DB_Sqlite() = default;
   DB_Sqlite(const DB_Sqlite&) = delete;

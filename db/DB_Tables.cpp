@@ -48,6 +48,10 @@ const char* DB_Tables::name(DB_Table table) {
   return row(table).mName;
 }
 
+QByteArray DB_Tables::quoted(DB_Table table) {
+  return QByteArray("`") + name(table) + '`';
+}
+
 QString DB_Tables::germanName(DB_Table table) {
   return QCoreApplication::translate("DB_Tables", row(table).mGerman);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <array>
@@ -49,7 +50,9 @@ constexpr const char* cResourceLayout = "FILENAME TEXT PRIMARY KEY,DATA BLOB";
 
 [[nodiscard]] const std::array<DB_Table_Row, cCount>& all();
 [[nodiscard]] const char* name(DB_Table table);
-/// What a user calls the table's content, such as "Untergruppen".
+/// The name between back-quotes, as it stands in SQL texts.
+[[nodiscard]] QByteArray quoted(DB_Table table);
+/// What a user calls the table's content, such as "Gruppenadressen".
 [[nodiscard]] QString germanName(DB_Table table);
 [[nodiscard]] const char* layout(DB_Table table);
 

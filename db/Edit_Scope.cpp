@@ -22,6 +22,14 @@ void Edit_Scope::modified(Undo_Adapter& owner, const QUuid& id) {
   }
 }
 
+void Edit_Scope::moved(Undo_Adapter& owner, const QUuid& id) {
+  Q_ASSERT(mIsAllowed);
+  std::unique_ptr<DB_Data_Base> record = owner.find(id);
+  if (record) {
+    mHistory.record({&owner, History::Kind::Modified, id, owner.placeOf(id), std::move(record)}, true);
+  }
+}
+
 void Edit_Scope::created(Undo_Adapter& owner, const QUuid& id) {
   Q_ASSERT(mIsAllowed);
   mHistory.record({&owner, History::Kind::Created, id, -1, nullptr});

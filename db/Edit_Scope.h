@@ -33,8 +33,10 @@ public:
   /// Why nothing may be edited now (German); empty when it may.
   [[nodiscard]] QString refusal() const { return mRefusal; }
 
-  /// Before the record with that id is changed or moved.
+  /// Before the record with that id is changed.
   void modified(Undo_Adapter& owner, const QUuid& id);
+  /// Before each move of the record to another place of its list.
+  void moved(Undo_Adapter& owner, const QUuid& id);
   /// After a record was made.
   void created(Undo_Adapter& owner, const QUuid& id);
   /// Before a record is deleted.

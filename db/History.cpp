@@ -29,10 +29,10 @@ bool History::mayEdit(QString* refusal) const {
   return !isRefused;
 }
 
-void History::record(Entry entry) {
+void History::record(Entry entry, bool isAgain) {
   // One copy, from before the first change, tells all; a record made in this step needs none.
   const auto known = std::pair(entry.mOwner, entry.mId);
-  if (entry.mKind == Kind::Modified && mPendingKnown.contains(known)) {
+  if (entry.mKind == Kind::Modified && !isAgain && mPendingKnown.contains(known)) {
     return;
   }
   if (entry.mKind == Kind::Deleted) {
@@ -79,6 +79,20 @@ bool History::isWithoutEffect(const Entry& entry) {
   return present && entry.mPlace == entry.mOwner->placeOf(entry.mId) && entry.mOwner->isEqual(*entry.mRecord, *present);
 }
 
+/// Of an owner whose order changed every entry stays: a record may be back at its place only because others moved.
+void History::dropWithoutEffect(Entries& entries) {
+  std::set<Undo_Adapter*> reordered;
+  for (const Entry& entry : entries) {
+    if (entry.mKind != Kind::Modified || entry.mPlace != entry.mOwner->placeOf(entry.mId)) {
+      reordered.insert(entry.mOwner);
+    }
+  }
+  const auto isDropped = [&reordered](const Entry& entry) {
+    return !reordered.contains(entry.mOwner) && isWithoutEffect(entry);
+  };
+  entries.erase(std::remove_if(entries.begin(), entries.end(), isDropped), entries.end());
+}
+
 void History::commit() {
   if (mScopeDepth > 0 || mPending.empty()) {
     return;
@@ -87,7 +101,7 @@ void History::commit() {
   Entries entries = std::move(mPending);
   mPending.clear();
   mPendingKnown.clear();
-  entries.erase(std::remove_if(entries.begin(), entries.end(), isWithoutEffect), entries.end());
+  dropWithoutEffect(entries);
   if (!entries.empty()) {
     if (mSavedPosition > static_cast<qsizetype>(mPosition)) {
       mSavedPosition = cSavedGone;

@@ -77,10 +77,11 @@ private:
   static constexpr qsizetype cSavedGone = -1;
 
   [[nodiscard]] bool mayEdit(QString* refusal) const;
-  void record(Entry entry);
+  void record(Entry entry, bool isAgain = false);
   void enterScope(const QString& text, bool isOwn);
   void leaveScope();
   [[nodiscard]] static bool isWithoutEffect(const Entry& entry);
+  static void dropWithoutEffect(Entries& entries);
   [[nodiscard]] static Entry applyEntry(const Entry& entry);
   static void applyStep(Step& step);
 

@@ -8,13 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 
-namespace {
-
-QByteArray quoted(DB_Table table) {
-  return QByteArray("`") + DB_Tables::name(table) + '`';
-}
-
-} // namespace
+using DB_Tables::quoted;
 
 std::array<ProjectDatabase::Single, 8> ProjectDatabase::singles() {
   return {{{DB_Table::Project, &mProject},
@@ -44,14 +38,14 @@ void ProjectDatabase::close() {
   for (std::vector<QByteArray>& orphans : mOrphans) {
     orphans.clear();
   }
-  mWrongLayouts.clear();
+  mNeedsRebuild = false;
   mFileName.clear();
   mDatabase.close();
 }
 
 bool ProjectDatabase::isOlderLayout(const QString& path) {
   DB_Sqlite database;
-  return QFileInfo(path).size() > 0 && database.open(path, DB_Sqlite::Mode::ReadOnly) &&
+  return QFileInfo(path).size() > 0 && database.open(path, DB_Sqlite::Mode::Immutable) &&
          DB_Legacy_Import::isOlderLayout(database);
 }
 
@@ -63,19 +57,42 @@ bool ProjectDatabase::open(const QString& path, DB_Sqlite::Mode mode) {
   if (!hasContent) {
     return true;
   }
-  DB_Statement probe = mDatabase.prepare("select 1 from sqlite_master");
-  if (!probe.isValid() || probe.step() == DB_Statement::Step::Error) {
+  const auto isReadable = [this] {
+    DB_Statement probe = mDatabase.prepare("select 1 from sqlite_master");
+    return probe.isValid() && probe.step() != DB_Statement::Step::Error;
+  };
+  if (!isReadable()) {
     mLastError = mDatabase.errorText();
-    probe = {};
-    mDatabase.close();
-    return false;
+    // The engine refuses a file that is shorter than its header says, unless its schema may be written.
+    mDatabase.execute("PRAGMA writable_schema=ON");
+    if (!isReadable()) {
+      mDatabase.close();
+      return false;
+    }
+    mReport.addFinding(tr("Die Datei ist abgeschnitten oder ihr Verzeichnis beschädigt."));
   }
-  probe = {};
   if (noteMissingTables() == DB_Tables::cCount && !DB_Legacy_Import::isOlderLayout(mDatabase)) {
     mDatabase.close();
     return fail(tr("Die Datei ist kein Projekt des Quarna-Studio."));
   }
+  noteForeignObjects();
   return true;
+}
+
+/// Triggers and views are never ours and could undo what is written.
+void ProjectDatabase::noteForeignObjects() {
+  DB_Statement select = mDatabase.prepare("SELECT name FROM sqlite_master WHERE type IN ('trigger','view')");
+  while (select.isValid() && select.step() == DB_Statement::Step::Row) {
+    mReport.addFinding(tr("Fremder Inhalt wird nicht übernommen: %1.").arg(QString::fromUtf8(select.text(0)).left(60)));
+  }
+}
+
+/// The project file is copied as one file, so nothing of it may stand in a write-ahead log.
+void ProjectDatabase::configure() {
+  mDatabase.execute("PRAGMA synchronous=NORMAL");
+  DB_Statement mode = mDatabase.prepare("PRAGMA journal_mode=DELETE");
+  const bool isDelete = mode.isValid() && mode.step() == DB_Statement::Step::Row && mode.text(0) == "delete";
+  mNeedsRebuild = mNeedsRebuild || !isDelete;
 }
 
 int ProjectDatabase::noteMissingTables(bool wasOlder) {
@@ -115,19 +132,20 @@ bool ProjectDatabase::openProject(const QString& path, bool allowConversion) {
     return false;
   }
   mFileName = path;
-  mDatabase.execute("PRAGMA synchronous=NORMAL");
+  configure();
   if (isOlder && allowConversion && !convertOlderLayout(path)) {
     return false;
   }
-  createTables();
+  createTables(mDatabase);
   readAll();
+  mNeedsRebuild = mNeedsRebuild || mReport.isDamaged();
   return true;
 }
 
 bool ProjectDatabase::openProjectReadOnly(const QString& path) {
   close();
   mLastError.clear();
-  if (!open(path, DB_Sqlite::Mode::ReadOnly)) {
+  if (!open(path, DB_Sqlite::Mode::Immutable)) {
     mReport = {};
     return false;
   }
@@ -145,23 +163,26 @@ bool ProjectDatabase::attach(const QString& path) {
   if (!mDatabase.open(path, DB_Sqlite::Mode::ReadWrite)) {
     return fail(mDatabase.errorText());
   }
-  mDatabase.execute("PRAGMA synchronous=NORMAL");
+  configure();
   return true;
 }
 
 /// In one transaction: the disk is waited for once instead of for each table.
-void ProjectDatabase::createTables() {
-  mDatabase.execute("BEGIN TRANSACTION");
+void ProjectDatabase::createTables(DB_Sqlite& database) {
+  database.execute("BEGIN TRANSACTION");
   for (const DB_Table_Row& row : DB_Tables::all()) {
-    mDatabase.execute("CREATE TABLE IF NOT EXISTS " + quoted(row.mTable) + '(' + DB_Tables::layout(row.mTable) + ')');
+    database.execute("CREATE TABLE IF NOT EXISTS " + quoted(row.mTable) + '(' + DB_Tables::layout(row.mTable) + ')');
   }
-  if (!mDatabase.execute("END TRANSACTION") && mDatabase.isInTransaction()) {
-    mDatabase.execute("ROLLBACK TRANSACTION");
+  if (!database.execute("END TRANSACTION") && database.isInTransaction()) {
+    database.execute("ROLLBACK TRANSACTION");
   }
 }
 
 bool ProjectDatabase::execute(const QByteArray& sql) {
   mLastError.clear();
+  if (!mDatabase.isOpen()) {
+    return fail(QStringLiteral("Database not open"));
+  }
   return mDatabase.execute(sql) || fail(mDatabase.errorText());
 }
 
@@ -183,7 +204,7 @@ QByteArray ProjectDatabase::rowData(DB_Table table, QByteArrayView scrambled) {
   return data;
 }
 
-bool ProjectDatabase::readRows(DB_Table table, const std::function<void(QByteArray data)>& onRow) {
+bool ProjectDatabase::readRows(DB_Table table, const std::function<bool(const QByteArray& data)>& onRow) {
   DB_Statement statement = mDatabase.prepare("SELECT * FROM " + quoted(table));
   if (!statement.isValid()) {
     mReport.setUnreadable(table, mDatabase.errorText());
@@ -191,17 +212,14 @@ bool ProjectDatabase::readRows(DB_Table table, const std::function<void(QByteArr
   }
   if (statement.columnCount() != 1 || statement.columnName(0) != "DATA") {
     mReport.setWrongLayout(table);
-    mWrongLayouts.push_back(table);
   }
   for (;;) {
     switch (statement.step()) {
-    case DB_Statement::Step::Row: {
-      QByteArray data = rowData(table, statement.text(0));
-      if (!data.isEmpty()) {
-        onRow(std::move(data));
+    case DB_Statement::Step::Row:
+      if (!onRow(rowData(table, statement.text(0)))) {
+        return true;
       }
       break;
-    }
     case DB_Statement::Step::Done:
       return true;
     case DB_Statement::Step::Error:
@@ -213,26 +231,29 @@ bool ProjectDatabase::readRows(DB_Table table, const std::function<void(QByteArr
 }
 
 bool ProjectDatabase::readSingle(DB_Table table, DB_Data_Base& record) {
-  bool isFirst = true;
+  bool isFound = false;
   readRows(table, [&](const QByteArray& data) {
-    if (isFirst) {
-      record.setData(data);
-    }
-    isFirst = false;
+    record.setData(data);
+    isFound = true;
+    return false; // only the first row is ever read
   });
-  return !isFirst;
+  return isFound;
 }
 
 template <class Record>
 void ProjectDatabase::readList(DB_Table table, const std::function<bool(std::unique_ptr<Record>)>& place) {
   DB_Text_Pool texts;
   readRows(table, [&](const QByteArray& data) {
+    if (data.isEmpty()) {
+      return true;
+    }
     auto record = std::make_unique<Record>();
     record->setData(data, texts);
     if (!place(std::move(record))) {
       mReport.addOrphan(table);
       mOrphans[static_cast<size_t>(table)].push_back(data);
     }
+    return true;
   });
 }
 
@@ -258,7 +279,6 @@ void ProjectDatabase::checkResourceTable() {
   const bool exists = tableExists(DB_Tables::name(DB_Table::Resources));
   if (exists && !mDatabase.prepare("SELECT FILENAME,DATA FROM " + quoted(DB_Table::Resources)).isValid()) {
     mReport.setWrongLayout(DB_Table::Resources);
-    mWrongLayouts.push_back(DB_Table::Resources);
   }
 }
 

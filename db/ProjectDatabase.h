@@ -51,6 +51,9 @@ public:
   /// Writes every record in one transaction; with `stampTime` the current time goes into the project record.
   bool recordWriteAll(bool stampTime);
 
+  /// Gives the room of what was deleted back. A file that turns out to be damaged is made anew from the records.
+  bool compact();
+
   [[nodiscard]] QString lastError() const { return mLastError; }
   /// Runs one statement without result rows.
   bool execute(const QByteArray& sql);
@@ -119,10 +122,14 @@ private:
   int noteMissingTables(bool wasOlder = false);
   bool convertOlderLayout(const QString& path);
   void checkResourceTable();
-  void createTables();
-  bool repairLayouts();
+  void noteForeignObjects();
+  void configure();
+  static void createTables(DB_Sqlite& database);
+  bool rebuild();
+  bool copyResources(DB_Sqlite& to);
   [[nodiscard]] QByteArray rowData(DB_Table table, QByteArrayView scrambled);
-  bool readRows(DB_Table table, const std::function<void(QByteArray data)>& onRow);
+  /// Hands every row over until `onRow` answers false; the data of an unreadable row is empty.
+  bool readRows(DB_Table table, const std::function<bool(const QByteArray& data)>& onRow);
   bool readSingle(DB_Table table, DB_Data_Base& record);
   template <class Record>
   void readList(DB_Table table, const std::function<bool(std::unique_ptr<Record>)>& place);
@@ -146,5 +153,5 @@ private:
   DB_Load_Report mReport;
   /// DATA texts of children whose parent is missing, by table: kept and written again.
   std::array<std::vector<QByteArray>, DB_Tables::cCount> mOrphans;
-  std::vector<DB_Table> mWrongLayouts;
+  bool mNeedsRebuild = false; ///< the file is damaged and must not be written to
 };

@@ -3,13 +3,7 @@
 
 #include <QDateTime>
 
-namespace {
-
-QByteArray quoted(DB_Table table) {
-  return QByteArray("`") + DB_Tables::name(table) + '`';
-}
-
-} // namespace
+using DB_Tables::quoted;
 
 DB_Statement ProjectDatabase::prepareInsert(DB_Table table) {
   DB_Statement insert = mDatabase.prepare("INSERT INTO " + quoted(table) + "(DATA) VALUES(?)");
@@ -105,17 +99,6 @@ bool ProjectDatabase::writePages(DB_Table pageTable, DB_Table childTable, const 
   return writeOrphans(childTable, insertChild) && isOk;
 }
 
-/// A table of ours with foreign columns cannot take our rows; what of it was readable is in memory.
-bool ProjectDatabase::repairLayouts() {
-  for (const DB_Table table : mWrongLayouts) {
-    if (!mDatabase.execute("DROP TABLE IF EXISTS " + quoted(table))) {
-      return fail(mDatabase.errorText());
-    }
-  }
-  mWrongLayouts.clear();
-  return true;
-}
-
 bool ProjectDatabase::recordWriteAll(bool stampTime) {
   if (mFileName.isEmpty()) {
     return fail(QStringLiteral("Empty Filename"));
@@ -124,8 +107,10 @@ bool ProjectDatabase::recordWriteAll(bool stampTime) {
     return fail(QStringLiteral("Database not open"));
   }
   mLastError.clear();
-  repairLayouts();
-  createTables();
+  if (!rebuild()) {
+    return false;
+  }
+  createTables(mDatabase);
   const qint64 previousTimestamp = mProject.mTimestamp;
   if (stampTime) {
     mProject.mTimestamp = QDateTime::currentSecsSinceEpoch();
@@ -178,7 +163,7 @@ bool ProjectDatabase::ressourceWriteRaw(const QString& name, const QByteArray& b
   if (bytes.isEmpty()) {
     return fail(QStringLiteral("ressourceWriteRaw: Error size/data"));
   }
-  if (!checkResourceName(name)) {
+  if (!checkResourceName(name) || !rebuild()) {
     return false;
   }
   mLastError.clear();
@@ -221,7 +206,7 @@ bool ProjectDatabase::ressourceReadRaw(const QString& name, QByteArray& bytes) {
     bytes = select.blob(0).toByteArray();
     return true;
   case DB_Statement::Step::Done:
-    return false;
+    return fail(tr("Die Ressource \"%1\" gibt es nicht.").arg(name.left(60)));
   case DB_Statement::Step::Error:
     break;
   }
@@ -242,7 +227,7 @@ bool ProjectDatabase::ressourceDelete(const QString& name) {
     return fail(QStringLiteral("Database not open"));
   }
   mLastError.clear();
-  if (!deleteResource(name)) {
+  if (!rebuild() || !deleteResource(name)) {
     return false;
   }
   emit resourcesChanged();
@@ -254,7 +239,7 @@ bool ProjectDatabase::ressourceDeleteAll() {
     return fail(QStringLiteral("Database not open"));
   }
   mLastError.clear();
-  if (!emptyTable(DB_Table::Resources)) {
+  if (!rebuild() || !emptyTable(DB_Table::Resources)) {
     return false;
   }
   emit resourcesChanged();

@@ -7,8 +7,6 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include <cstdio>
-
 namespace {
 constexpr qint64 cCopyChunk = 1 << 20;
 } // namespace
@@ -60,9 +58,20 @@ void Project_Session::close() {
   }
 }
 
+bool Project_Session::claim(Working_Copy& copy, const QString& path) {
+  // The longest name beside the working file is its journal's.
+  constexpr qsizetype cLongestName = 255;
+  const QString name = QFileInfo(Working_Copy::pathFor(path)).fileName() + QStringLiteral("-journal");
+  if (name.toUtf8().size() > cLongestName) {
+    return fail(tr("Der Dateiname \"%1\" ist zu lang.").arg(QFileInfo(path).fileName()));
+  }
+  return copy.claim(path) ||
+         fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(Working_Copy::pathFor(path)));
+}
+
 bool Project_Session::copyToWorkingFile(const QString& path) {
-  if (!mWorkingCopy.claim(path)) {
-    return fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(Working_Copy::pathFor(path)));
+  if (!claim(mWorkingCopy, path)) {
+    return false;
   }
   QFile source(path);
   if (!source.copy(mWorkingCopy.path())) {
@@ -95,8 +104,8 @@ bool Project_Session::create(const QString& path, const New_Project::Options& op
   close();
   mLastError.clear();
   const QString absolutePath = QFileInfo(path).absoluteFilePath();
-  if (!mWorkingCopy.claim(absolutePath)) {
-    return fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(Working_Copy::pathFor(absolutePath)));
+  if (!claim(mWorkingCopy, absolutePath)) {
+    return false;
   }
   bool isOk = mDatabase.openProject(mWorkingCopy.path(), false);
   if (isOk) {
@@ -144,22 +153,20 @@ bool Project_Session::publish(const QString& path) {
 Project_Session::Save_Result Project_Session::writeTo(const QString& path) {
   mLastError.clear();
   mHistory.commit();
+  if (!mDatabase.isOpen() && !mDatabase.attach(mWorkingCopy.path())) {
+    fail(mDatabase.lastError());
+    return Save_Result::WriteFailed;
+  }
   DB_Project& project = mDatabase.mProject;
   const DB_Project before = project;
   project.mName = QFileInfo(path).completeBaseName();
   project.mVersion = Version::studio();
   Save_Result result = Save_Result::Saved;
-  if (!mDatabase.recordWriteAll(true)) {
+  if (!mDatabase.recordWriteAll(true) || !mDatabase.compact()) {
     fail(mDatabase.lastError());
     result = Save_Result::WriteFailed;
-  } else {
-    if (!mDatabase.execute("VACUUM")) {
-      // The file is whole without it, only larger than it need be.
-      std::printf("VACUUM: %s\n", qPrintable(mDatabase.lastError()));
-    }
-    if (!publish(path)) {
-      result = Save_Result::PublishFailed;
-    }
+  } else if (!publish(path)) {
+    result = Save_Result::PublishFailed;
   }
   if (result != Save_Result::Saved) {
     project = before;
@@ -182,8 +189,7 @@ Project_Session::Save_Result Project_Session::saveAs(const QString& path) {
     return save();
   }
   Working_Copy next;
-  if (!next.claim(absolutePath)) {
-    fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(Working_Copy::pathFor(absolutePath)));
+  if (!claim(next, absolutePath)) {
     return Save_Result::PublishFailed;
   }
   const Save_Result result = writeTo(absolutePath);
@@ -192,9 +198,10 @@ Project_Session::Save_Result Project_Session::saveAs(const QString& path) {
   }
   mDatabase.detach();
   const bool isMoved = QFile::rename(mWorkingCopy.path(), next.path());
-  if (mDatabase.attach(isMoved ? next.path() : mWorkingCopy.path()) && isMoved) {
+  if (isMoved) {
     std::swap(mWorkingCopy, next);
   }
+  mDatabase.attach(mWorkingCopy.path());
   setPath(absolutePath);
   mHistory.setSaved();
   return result;

@@ -73,6 +73,7 @@ private:
 
   [[nodiscard]] static Fingerprint fingerprintOf(const QString& path);
   bool fail(const QString& text);
+  bool claim(Working_Copy& copy, const QString& path);
   bool copyToWorkingFile(const QString& path);
   [[nodiscard]] Save_Result writeTo(const QString& path);
   bool publish(const QString& path);

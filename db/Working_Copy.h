@@ -31,7 +31,8 @@ public:
   [[nodiscard]] static QString pathFor(const QString& projectPath, int number = 1);
   [[nodiscard]] static State stateOf(const QString& projectPath);
 
-  /// Takes the first working file that no running studio owns, deletes what a former owner left of it, and locks it.
+  /// Takes the first working file that no running studio owns, locks it, and deletes what former owners that are gone
+  /// left of the project, under any number.
   /// False when no lock can be had (the temporary directory cannot be written).
   [[nodiscard]] bool claim(const QString& projectPath);
   /// Deletes the working file, its journals and its lock.

@@ -255,7 +255,7 @@ private:
     scope.modified(session().addressUndo(), mLight);
     database.mAddresses.change(
         mLight, [salt](DB_Data_Base& record) { dynamic_cast<DB_Address_Sub_Group&>(record).mNumber = 100 + salt; });
-    scope.modified(session().widgetPageUndo(), database.mWidgetPages.pages().at(0).mGuid);
+    scope.moved(session().widgetPageUndo(), database.mWidgetPages.pages().at(0).mGuid);
     database.mWidgetPages.movePage(0, 1);
   }
 

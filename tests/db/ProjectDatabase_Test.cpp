@@ -25,7 +25,7 @@ private slots:
     QCOMPARE(store.fileName(), mPath);
     store.close();
     DB_Sqlite database;
-    QVERIFY(database.open(mPath, DB_Sqlite::Mode::ReadOnly));
+    QVERIFY(database.open(mPath, DB_Sqlite::Mode::Immutable));
     DB_Statement select = database.prepare("SELECT name,sql FROM sqlite_master WHERE type='table'");
     QMap<QByteArray, QByteArray> tables;
     while (select.step() == DB_Statement::Step::Row) {

@@ -79,7 +79,7 @@ inline QByteArray quoted(DB_Table table) {
 /// First column of every row, as it stands in the file.
 inline QByteArrayList rawRows(const QString& path, const QByteArray& table) {
   DB_Sqlite database;
-  database.open(path, DB_Sqlite::Mode::ReadOnly);
+  database.open(path, DB_Sqlite::Mode::Immutable);
   DB_Statement select = database.prepare("SELECT * FROM " + table);
   QByteArrayList rows;
   while (select.isValid() && select.step() == DB_Statement::Step::Row) {
