@@ -23,13 +23,12 @@ private slots:
 
   void everyEditGoesForwardBackAndForward_data() {
     QTest::addColumn<int>("edit");
-    QTest::newRow("rename address") << 0;
-    QTest::newRow("rename main group") << 1;
-    QTest::newRow("rename logic page") << 2;
-    QTest::newRow("rename visualisation page") << 3;
-    QTest::newRow("geographic position") << 4;
-    QTest::newRow("make and delete groups") << 5;
-    QTest::newRow("renumber and move a page") << 6;
+    int edit = 0;
+    for (const char* const name :
+         {"rename address", "rename main group", "rename logic page", "rename visualisation page",
+          "geographic position", "make and delete groups", "renumber and move a page"}) {
+      QTest::newRow(name) << edit++;
+    }
   }
 
   void everyEditGoesForwardBackAndForward() {
@@ -101,37 +100,20 @@ private slots:
     QCOMPARE(dump(), before);
   }
 
-  void badValuesAreRefused_data() {
-    QTest::addColumn<int>("edit");
-    QTest::newRow("page without name") << 0;
-    QTest::newRow("page of blanks") << 1;
-    QTest::newRow("address name too long") << 2;
-    QTest::newRow("address that is gone") << 3;
-    QTest::newRow("latitude") << 4;
-    QTest::newRow("longitude is no number") << 5;
-  }
-
   void badValuesAreRefused() {
-    QFETCH(int, edit);
     const QByteArray before = dump();
     const QUuid page = session().database().mFbPages.pages().at(0).mGuid;
-    const Edit_Result results[] = {Project_Edits::renamePage(session(), page, QString()),
-                                   Project_Edits::renamePage(session(), page, QStringLiteral(" \t ")),
-                                   Project_Edits::renameAddress(session(), mLight, QString(256, u'x')),
-                                   Project_Edits::renameAddress(session(), QUuid::createUuid(), QStringLiteral("x")),
-                                   Project_Edits::setGeoposition(session(), 90.1, 0),
-                                   Project_Edits::setGeoposition(session(), 0, qQNaN())};
-    QVERIFY(!results[edit].mError.isEmpty());
+    for (const Edit_Result& result :
+         {Project_Edits::renamePage(session(), page, QString()),
+          Project_Edits::renamePage(session(), page, QStringLiteral(" \t ")),
+          Project_Edits::renameAddress(session(), mLight, QString(256, u'x')),
+          Project_Edits::renameAddress(session(), QUuid::createUuid(), QStringLiteral("x")),
+          Project_Edits::setGeoposition(session(), 90.1, 0), Project_Edits::setGeoposition(session(), 0, qQNaN())}) {
+      QVERIFY(!result.mError.isEmpty());
+    }
     history().commit();
     QCOMPARE(dump(), before);
     QCOMPARE(history().position(), size_t(0));
-  }
-
-  void markerBytesAreLostAtOnce() {
-    QVERIFY(Project_Edits::renameAddress(session(), mLight,
-                                         QStringLiteral("a\x02"
-                                                        "b\x03\nc")));
-    QCOMPARE(name(mLight), QStringLiteral("ab c"));
   }
 
   void theMarkFollowsTheSavedState() {
@@ -206,29 +188,15 @@ private:
     ProjectDatabase& database = session().database();
     const int salt = random ? static_cast<int>(random->bounded(0, 50)) : 7;
     const QString text = QStringLiteral("Neu %1").arg(salt);
-    switch (edit) {
-    case 0:
-      Project_Edits::renameAddress(session(), mLight, text);
-      break;
-    case 1:
-      Project_Edits::renameAddress(session(), database.mAddresses.mainGroup(1)->mKey, text);
-      break;
-    case 2:
-      Project_Edits::renamePage(session(), database.mFbPages.pages().at(0).mGuid, text);
-      break;
-    case 3:
-      Project_Edits::renamePage(session(), database.mWidgetPages.pages().at(1).mGuid, text);
-      break;
-    case 4:
-      Project_Edits::setGeoposition(session(), salt, -salt);
-      break;
-    case 5:
-      makeAndDelete(salt);
-      break;
-    default:
-      renumberAndMove(salt);
-      break;
-    }
+    const std::function<void()> edits[] = {
+        [&] { Project_Edits::renameAddress(session(), mLight, text); },
+        [&] { Project_Edits::renameAddress(session(), database.mAddresses.mainGroup(1)->mKey, text); },
+        [&] { Project_Edits::renamePage(session(), database.mFbPages.pages().at(0).mGuid, text); },
+        [&] { Project_Edits::renamePage(session(), database.mWidgetPages.pages().at(1).mGuid, text); },
+        [&] { Project_Edits::setGeoposition(session(), salt, -salt); },
+        [&] { makeAndDelete(salt); },
+        [&] { renumberAndMove(salt); }};
+    edits[edit]();
   }
 
   void makeAndDelete(int salt) {

@@ -73,46 +73,6 @@ private slots:
     QCOMPARE(Project_Dump::project(*mStore), dump);
   }
 
-  void firstErrorIsTold() {
-    for (const DB_Table table : {DB_Table::Mail, DB_Table::Logic_Pages}) {
-      const QByteArray text = DB_Tables::all()[static_cast<size_t>(table)].mPlainName;
-      QVERIFY(mStore->execute("CREATE TRIGGER " + text + " BEFORE INSERT ON " + quoted(table) +
-                              " BEGIN SELECT RAISE(FAIL, '" + text + "'); END"));
-    }
-    const qint64 timestamp = mStore->mProject.mTimestamp;
-    QVERIFY(!mStore->recordWriteAll(true));
-    QCOMPARE(mStore->lastError(), QStringLiteral("mail"));
-    QCOMPARE(mStore->mProject.mTimestamp, timestamp);
-  }
-
-  void fileFull_data() {
-    QTest::addColumn<int>("blocks");
-    QTest::newRow("many blocks") << 2000;
-    QTest::newRow("one page more") << 1;
-  }
-
-  /// The file stays as it was saved last, nothing is doubled in it, and with room again the next save is whole.
-  void fileFull() {
-    QFETCH(int, blocks);
-    const QByteArray saved = savedDump();
-    const QUuid page = mStore->mFbPages.pages().at(0).mGuid;
-    for (int i = 0; i < blocks; ++i) {
-      auto block = std::make_unique<DB_FB_Control>();
-      block->mPageGuid = page;
-      block->mTitle = QString(blocks == 1 ? 100'000 : 100, u'x');
-      mStore->mFbPages.appendChild(std::move(block));
-    }
-    const QByteArray dump = Project_Dump::project(*mStore);
-    QVERIFY(mStore->execute("PRAGMA max_page_count=1"));
-    QVERIFY(!mStore->recordWriteAll(true));
-    QVERIFY(!mStore->lastError().isEmpty());
-    QCOMPARE(Project_Dump::project(*mStore), dump);
-    QCOMPARE(savedDump(), saved);
-    QVERIFY(mStore->execute("PRAGMA max_page_count=1000000"));
-    QVERIFY2(mStore->recordWriteAll(false), qPrintable(mStore->lastError()));
-    QCOMPARE(savedDump(), dump);
-  }
-
   /// Another process that reads holds the commit up until the engine gives up.
   void commitRefused() {
     const QByteArray saved = savedDump();
