@@ -77,13 +77,6 @@ private slots:
       QVERIFY2(line.mError.contains(wrong.section(u'=', 0, 0)), qPrintable(line.mError));
     }
   }
-
-  void helpNamesEveryOption() {
-    for (const char* const option : {"--demo", "--kiosk", "--settings", "--mcp-port", "--help", "--version"}) {
-      QVERIFY2(Command_Line::helpText().contains(QLatin1String(option)), option);
-    }
-    QVERIFY(Command_Line::versionText().contains(Version::studio()));
-  }
 };
 
 QTEST_APPLESS_MAIN(Command_Line_Test)
