@@ -15,27 +15,19 @@ private slots:
 
   void lastProjects() {
     App_Settings settings(mFile);
-    QVERIFY(settings.lastProjects().isEmpty());
     QStringList expected;
     for (int i = 0; i < 15; ++i) {
       settings.addLastProject(path(i));
       expected.prepend(path(i));
     }
-    expected = expected.first(12);
-    QCOMPARE(settings.lastProjects(), expected);
     settings.addLastProject(path(7));
-    expected.removeAll(path(7));
-    expected.prepend(path(7));
-    QCOMPARE(settings.lastProjects(), expected);
     settings.removeLastProject(path(10));
     settings.removeLastProject(path(99));
+    expected = expected.first(12);
+    expected.move(expected.indexOf(path(7)), 0);
     expected.removeAll(path(10));
     settings.sync();
     QCOMPARE(App_Settings(mFile).lastProjects(), expected);
-    for (const QString& project : std::as_const(expected)) {
-      settings.removeLastProject(project);
-    }
-    QVERIFY(settings.lastProjects().isEmpty());
   }
 
   /// A list that somebody else wrote: too long, with empty and doubled entries.

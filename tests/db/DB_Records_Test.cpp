@@ -8,13 +8,10 @@ using Record_Kinds::Kind;
 
 namespace {
 
-const Kind& kindOf(const char* tag) {
-  const auto& kinds = Record_Kinds::all();
-  return *std::find_if(kinds.cbegin(), kinds.cend(), [tag](const Kind& kind) { return qstrcmp(kind.mName, tag) == 0; });
-}
-
 const Kind& currentKind() {
-  return kindOf(QTest::currentDataTag());
+  const auto& kinds = Record_Kinds::all();
+  return *std::find_if(kinds.cbegin(), kinds.cend(),
+                       [](const Kind& kind) { return qstrcmp(kind.mName, QTest::currentDataTag()) == 0; });
 }
 
 void everyKind() {
@@ -22,14 +19,6 @@ void everyKind() {
   for (const Kind& kind : Record_Kinds::all()) {
     QTest::newRow(kind.mName) << true;
   }
-}
-
-/// The DATA text of a record with one added element in a list, as the program makes it.
-template <class Record, class Element>
-QByteArray withElement(std::vector<Element> Record::*list) {
-  Record record;
-  (record.*list).emplace_back();
-  return record.toData();
 }
 
 QByteArray item(const char* key, const char* value) {
@@ -68,28 +57,6 @@ private slots:
     QCOMPARE(assigned->toData(), data);
     assigned->setData({});
     QCOMPARE(assigned->toData(), defaults);
-  }
-
-  /// An element of which only the first item stands in the text has the defaults of a new one.
-  void elementDefaults() {
-    const auto check = [](const QByteArray& made, const char* first, const char* kind) {
-      const QList<Item> items = Record_Kinds::items(made);
-      const auto at = std::find_if(items.cbegin(), items.cend(),
-                                   [first](const Item& item) { return item.mKey == QByteArray(first) + "_0"; });
-      QVERIFY2(at != items.cend(), first);
-      const std::unique_ptr<DB_Data_Base> record = kindOf(kind).mMake();
-      record->setData(Record_Kinds::text({*at}));
-      QCOMPARE(record->toData(), made);
-    };
-    check(withElement(&DB_FB_Control::mModbusRegisters), "mModbusRegister.mName", "block");
-    check(withElement(&DB_FB_Control::mInputs), "mInput.mLongName", "block");
-    check(withElement(&DB_FB_Control::mOutputs), "mOutput.mLongName", "block");
-    check(withElement(&DB_Widget::mAddresses), "mAddressList.mKind", "element");
-    check(withElement(&DB_M8800::mModules), "mModule.mType", "module bus");
-    check(withElement(&DB_Statistic::mRecordings), "mRecording.mName", "statistic");
-    check(withElement(&DB_Project_Generator::mRules), "mRule.mPattern", "project generator");
-    check(withElement(&DB_Connections::mItems), "mItem.mKind", "connections");
-    check(withElement(&DB_Project::mControllers), "mControllerList.mNumber", "project");
   }
 
   void keysDoNoHarm_data() { everyKind(); }

@@ -21,30 +21,22 @@ private slots:
     QCOMPARE(session().save(), Project_Session::Save_Result::Saved);
   }
 
-  void everyEditGoesForwardBackAndForward_data() {
-    QTest::addColumn<int>("edit");
-    int edit = 0;
-    for (const char* const name :
-         {"rename address", "rename main group", "rename logic page", "rename visualisation page",
-          "geographic position", "make and delete groups", "renumber and move a page"}) {
-      QTest::newRow(name) << edit++;
-    }
-  }
-
   void everyEditGoesForwardBackAndForward() {
-    QFETCH(int, edit);
-    const QByteArray before = dump();
-    apply(edit);
-    history().commit();
-    const QByteArray after = dump();
-    QVERIFY(before != after);
-    for (int round = 0; round < 3; ++round) {
-      QVERIFY(session().isModified());
-      QVERIFY(history().undo());
-      QCOMPARE(dump(), before);
-      QVERIFY(!session().isModified());
-      QVERIFY(history().redo());
-      QCOMPARE(dump(), after);
+    for (int edit = 0; edit < cEdits; ++edit) {
+      const bool wasModified = session().isModified();
+      const QByteArray before = dump();
+      apply(edit, 7);
+      history().commit();
+      const QByteArray after = dump();
+      QVERIFY(before != after);
+      for (int round = 0; round < 3; ++round) {
+        QVERIFY(session().isModified());
+        QVERIFY(history().undo());
+        QCOMPARE(dump(), before);
+        QCOMPARE(session().isModified(), wasModified);
+        QVERIFY(history().redo());
+        QCOMPARE(dump(), after);
+      }
     }
   }
 
@@ -74,14 +66,6 @@ private slots:
     QCOMPARE(history().undoText(), QStringLiteral("Eigener"));
     QVERIFY(history().undo());
     QCOMPARE(name(mLight), QStringLiteral("A"));
-  }
-
-  void withoutEffectIsNoStep() {
-    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
-    Project_Edits::renameAddress(session(), mLight, QStringLiteral("Licht"));
-    history().commit();
-    QCOMPARE(history().position(), size_t(0));
-    QVERIFY(!session().isModified());
   }
 
   void theOperatingModeRefusesEverything() {
@@ -163,13 +147,13 @@ private slots:
     QRandomGenerator random(7);
     std::vector<QByteArray> states{dump()};
     for (int i = 0; i < 200; ++i) {
-      const int back = static_cast<int>(random.bounded(0, 3));
+      const int back = random.bounded(3);
       for (int k = 0; k < back && states.size() > 1; ++k) {
         QVERIFY(history().undo());
         states.pop_back();
         QCOMPARE(dump(), states.back());
       }
-      apply(static_cast<int>(random.bounded(0, 7)), &random);
+      apply(random.bounded(cEdits), random.bounded(50));
       history().commit();
       const QByteArray state = dump();
       if (state != states.back()) {
@@ -184,11 +168,11 @@ private:
   QByteArray dump() { return Project_Dump::project(session().database()); }
   QString name(const QUuid& key) { return session().database().mAddresses.subGroup(key)->mName; }
 
-  void apply(int edit, QRandomGenerator* random = nullptr) {
+  /// Renames, a position, groups made and deleted, an order changed; `salt` makes each one another.
+  void apply(int edit, int salt) {
     ProjectDatabase& database = session().database();
-    const int salt = random ? static_cast<int>(random->bounded(0, 50)) : 7;
     const QString text = QStringLiteral("Neu %1").arg(salt);
-    const std::function<void()> edits[] = {
+    const std::function<void()> edits[cEdits] = {
         [&] { Project_Edits::renameAddress(session(), mLight, text); },
         [&] { Project_Edits::renameAddress(session(), database.mAddresses.mainGroup(1)->mKey, text); },
         [&] { Project_Edits::renamePage(session(), database.mFbPages.pages().at(0).mGuid, text); },
@@ -227,6 +211,7 @@ private:
     database.mWidgetPages.movePage(0, 1);
   }
 
+  static constexpr int cEdits = 7;
   std::unique_ptr<Session_Rig> mRig;
   QUuid mLight;
   QUuid mBlind;

@@ -164,24 +164,6 @@ private slots:
     QVERIFY(store.mFbPages.pages().at(1).mCaption == u"Seite 0");
   }
 
-  void doubledKeys() {
-    for (const DB_Table table :
-         {DB_Table::Main_Groups, DB_Table::Middle_Groups, DB_Table::Sub_Groups, DB_Table::Visu_Pages,
-          DB_Table::Visu_Elements, DB_Table::Logic_Pages, DB_Table::Logic_Blocks}) {
-      const QByteArray name = quoted(table);
-      QVERIFY(run(mPath, "INSERT INTO " + name + " SELECT * FROM " + name));
-    }
-    ProjectDatabase store;
-    QVERIFY(store.openProject(mPath, true));
-    QCOMPARE(store.mAddresses.subGroupCount(), 24);
-    QCOMPARE(store.mWidgetPages.childCount(), 12);
-    const QByteArray dump = Project_Dump::project(store);
-    QVERIFY(!dump.contains("NOT FOUND"));
-    QVERIFY(store.recordWriteAll(false));
-    QVERIFY(store.openProject(mPath, true));
-    QCOMPARE(Project_Dump::project(store), dump);
-  }
-
 private:
   QTemporaryDir mFolder;
   QString mPath;

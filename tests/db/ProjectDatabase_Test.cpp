@@ -73,23 +73,6 @@ private slots:
     }
   }
 
-  void twoRowsOfASingleRecord() {
-    ProjectDatabase store;
-    QVERIFY(store.openProject(mPath, true));
-    store.mProject.mName = QStringLiteral("Erste");
-    store.mProject.mAuthor = QStringLiteral("Eins");
-    QVERIFY(store.recordWriteAll(false));
-    store.close();
-    DB_Project second;
-    second.mName = QStringLiteral("Zweite");
-    QVERIFY(run(mPath, insertion(DB_Table::Project, second.toData())));
-    QVERIFY(store.openProject(mPath, true));
-    QCOMPARE(store.mProject.mName, QStringLiteral("Erste"));
-    QCOMPARE(store.mProject.mAuthor, QStringLiteral("Eins"));
-    QVERIFY(store.recordWriteAll(false));
-    QCOMPARE(rows(mPath, DB_Table::Project), QByteArrayList{store.mProject.toData()});
-  }
-
   /// The project stays in memory while its file is moved away.
   void detachedAndAttachedAgain() {
     ProjectDatabase store;
@@ -107,23 +90,6 @@ private slots:
     QVERIFY(store.attach(moved));
     QVERIFY(store.recordWriteAll(false));
     QCOMPARE(rows(moved, DB_Table::Project), QByteArrayList{store.mProject.toData()});
-  }
-
-  void readOnlyLeavesTheFile() {
-    ProjectDatabase store;
-    QVERIFY(store.openProject(mPath, true));
-    fill(store);
-    QVERIFY(store.recordWriteAll(false));
-    QVERIFY(store.execute(QByteArray("DROP TABLE ") + quoted(DB_Table::Logic_Blocks)));
-    store.close();
-    const QByteArray bytes = bytesOf(mPath);
-    QVERIFY(store.openProjectReadOnly(mPath));
-    QVERIFY(store.loadReport().isDamaged());
-    QVERIFY(!store.recordWriteAll(true));
-    QVERIFY(!store.ressourceWriteRaw(QStringLiteral("a"), "b"));
-    store.close();
-    QCOMPARE(bytesOf(mPath), bytes);
-    QCOMPARE(QDir(mFolder->path()).entryList(QDir::Files), QStringList{QStringLiteral("Büro Nord.zpro")});
   }
 
   /// A page that comes back with its children has them found again; what is doubled gets GUIDs of its own.

@@ -1,11 +1,12 @@
 #include "tests/db/Session_Rig.h"
 #include "ui/Address_View.h"
 
+#include <QAbstractItemModelTester>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTreeView>
 
-/// The tab of group addresses, used through its keys and read from its widgets.
+/// The tab of group addresses, used through its keys and read from its widgets. A model tester stands beside it.
 class Address_View_Test : public QObject {
   Q_OBJECT
 
@@ -17,6 +18,7 @@ private slots:
     mView->show();
     QVERIFY(QTest::qWaitForWindowActive(mView.get()));
     mTree = mView->findChild<QTreeView*>();
+    new QAbstractItemModelTester(mTree->model(), QAbstractItemModelTester::FailureReportingMode::QtTest, mView.get());
     mFilter = mView->findChild<QLineEdit*>();
   }
 
@@ -40,6 +42,23 @@ private slots:
     QVERIFY(!mTree->isExpanded(mTree->model()->index(0, 0)));
     QVERIFY(mTree->isExpanded(mTree->model()->index(1, 0)));
     QCOMPARE(mTree->currentIndex().data().toString(), QStringLiteral("4/0/*"));
+  }
+
+  void filterKeepsHitsAndWhatTheyStandIn() {
+    fill();
+    const std::pair<const char*, QStringList> cases[] = {
+        {"KÜCHE", {"1/*", "1/2/*", "1/2/3"}},
+        {"bad licht", {"1/*", "1/2/*", "1/2/4"}},
+        {"1/2 keller 9.001", {"1/*", "1/2/*", "1/2/4"}}, // words of several columns
+        {"garage", {}},
+        {"bad keller 9.0012", {}},
+        {"  ", {"1/*", "1/2/*", "1/2/3", "1/2/4", "1/3/*", "1/3/0", "4/*", "4/0/*", "4/0/0", "4/0/1"}}};
+    for (const auto& [text, addresses] : cases) {
+      setFilter(QString::fromUtf8(text));
+      QTRY_COMPARE(shownAddresses(), addresses);
+    }
+    mRig->mSession.close();
+    QCOMPARE(mTree->model()->rowCount(), 0);
   }
 
   void expansionAndCurrentSurviveEdits() {
@@ -92,10 +111,23 @@ private:
   void fill() {
     QVERIFY(mRig->create());
     mRig->addAddress({1, 2, 3}, QStringLiteral("Licht Küche"));
-    mRig->addAddress({1, 2, 4}, QStringLiteral("Licht Bad"));
+    DB_Address_Sub_Group* const bath = mRig->addAddress({1, 2, 4}, QStringLiteral("Licht Bad"));
+    bath->mDescription = QStringLiteral("Keller");
+    bath->mDptMain = 9;
+    bath->mDptSub = 1;
     mRig->addAddress({1, 3, 0}, QStringLiteral("Jalousie"));
     mRig->addAddress({4, 0, 0}, QStringLiteral("Wind"));
     mRig->addAddress({4, 0, 1}, QStringLiteral("Regen"));
+  }
+
+  [[nodiscard]] QStringList shownAddresses(const QModelIndex& parent = {}) const {
+    QStringList addresses;
+    for (int row = 0; row < mTree->model()->rowCount(parent); ++row) {
+      const QModelIndex index = mTree->model()->index(row, 0, parent);
+      addresses += index.data().toString();
+      addresses += shownAddresses(index);
+    }
+    return addresses;
   }
 
   void setFilter(const QString& text) {

@@ -1,12 +1,13 @@
 #include "tests/db/Session_Rig.h"
 #include "ui/Page_View.h"
 
+#include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTreeView>
 
-/// The tab of pages, used through its keys and read from its widgets.
+/// The tab of pages, used through its keys and read from its widgets. A model tester stands beside it.
 class Page_View_Test : public QObject {
   Q_OBJECT
 
@@ -18,6 +19,7 @@ private slots:
     mView->show();
     QVERIFY(QTest::qWaitForWindowActive(mView.get()));
     mTree = mView->findChild<QTreeView*>();
+    new QAbstractItemModelTester(mTree->model(), QAbstractItemModelTester::FailureReportingMode::QtTest, mView.get());
     mName = mView->findChild<QLineEdit*>();
   }
 
