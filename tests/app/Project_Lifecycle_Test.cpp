@@ -13,20 +13,22 @@ namespace {
 using namespace Qt::StringLiterals;
 
 const QString cUnsaved = u"Ja/Nein/Abbrechen: Das Projekt \"Haus\" wurde geändert. Änderungen speichern?"_s;
-const QString cAlreadyOpen = u"Ja/Nein: Datei bereits geöffnet, soll diese noch einmal geöffnet werden?"_s;
+const QStringList cAlreadyOpen = {u"Ja/Nein: Datei bereits geöffnet, soll diese noch einmal geöffnet werden?"_s};
+const QString cSaveFailed = u"Meldung: Fehler beim Speichern der Datei\n"_s;
 const QString cOlder = u"Ja/Nein: Projekt wurde mit einer älteren Version erstellt, auf neue Version aktualisieren?"_s;
 const QString cNewer =
     u"Ja/Nein: Projekt wurde mit einer neueren Version des Studios erstellt! Weiter mit dieser Version bearbeiten?"_s;
-const QString cChangedOnDisk = u"Ja/Nein: Die Datei \"DIR/Haus.zpro\" wurde seit dem Öffnen geändert. Überschreiben?"_s;
+const QStringList cChangedOnDisk = {
+    u"Ja/Nein: Die Datei \"DIR/Haus.zpro\" wurde seit dem Öffnen geändert. Überschreiben?"_s};
 const QString cOverwriteDamaged = u"Ja/Nein: Das Projekt war beim Öffnen beschädigt. Was nicht lesbar war, ist nach "
                                   u"dem Speichern verloren. Die Datei "
                                   "\"DIR/Anderes.zpro\" überschreiben?"_s;
-const QString cReplaceOther = u"Ja/Nein: Die Datei \"DIR/Anderes.zpro\" ist schon vorhanden. Ersetzen?"_s;
+const QStringList cReplaceOther = {u"Ja/Nein: Die Datei \"DIR/Anderes.zpro\" ist schon vorhanden. Ersetzen?"_s};
 const QString cDamage =
     u"Meldung: Das Projekt ist beschädigt. Geöffnet ist, was lesbar war:\n\nVisualisierungsseiten: Die Tabelle fehlt."_s;
 const QString cOpenDialog = u"Datei: Datei öffnen, Projekte (*.zpro)"_s;
-const QString cSaveDialog = u"Datei: Datei speichern, Projekte (*.zpro)"_s;
-const QString cNewDialog = u"Datei: Neues Projekt, Projekte (*.zpro)"_s;
+const QStringList cSaveDialog = {u"Datei: Datei speichern, Projekte (*.zpro)"_s};
+const QStringList cNewDialog = {u"Datei: Neues Projekt, Projekte (*.zpro)"_s};
 const QStringList cLoading = {u"Öffne Projekt... 10"_s};
 const QStringList cBuilding = {u"Öffne Projekt... 40"_s, u"Öffne Projekt... 60"_s, u"Öffne Projekt... 80"_s};
 const QStringList cOpening = cLoading + cBuilding;
@@ -34,14 +36,7 @@ const QStringList cOpening = cLoading + cBuilding;
 /// A lifecycle in folders of its own. "Haus.zpro" is the project that is open, "Anderes.zpro" the other one.
 struct Lifecycle_Rig : Session_Rig {
   QString other() const { return path(u"Anderes.zpro"_s); }
-  bool edit() {
-    const QUuid page = mSession.database().mFbPages.pages().at(0).mGuid;
-    return bool(Project_Edits::renamePage(mSession, page, u"Umbenannt"_s));
-  }
-  void makeOther() {
-    Project_Session session(mState);
-    session.create(other(), {});
-  }
+  void makeOther() { Project_Session(mState).create(other(), {}); }
   void change(const QString& file, const QByteArray& sql) {
     DB_Sqlite database;
     database.open(file, DB_Sqlite::Mode::Create);
@@ -55,18 +50,66 @@ struct Lifecycle_Rig : Session_Rig {
     change(file, sql + "INSERT INTO `project` VALUES('mVersion\x02"
                        "0.000\x03'); COMMIT");
   }
-  void makeNewer(const char* version) {
-    makeOther();
-    ProjectDatabase database;
-    database.openProject(other(), false);
-    database.mProject.mVersion = QLatin1String(version);
-    database.recordWriteAll(false);
-  }
-  static void write(const QString& file, const QByteArray& bytes) {
+  void write(const QString& file, const QByteArray& bytes) {
     QFile out(file);
     out.open(QIODevice::WriteOnly);
     out.write(bytes);
   }
+
+  // What is there before the act.
+  void nothing() {}
+  void haus() { create(); }
+  bool edit() {
+    const QUuid page = mSession.database().mFbPages.pages().at(0).mGuid;
+    return bool(Project_Edits::renamePage(mSession, page, u"Umbenannt"_s));
+  }
+  void edited() { static_cast<void>(create() && edit()); }
+  void both() { makeOther(), haus(); }
+  void bothEdited() { makeOther(), edited(); }
+  void otherElsewhere() { both(), mElsewhere.open(other()); }
+  void otherCrashed() { both(), write(Working_Copy::pathFor(other()), "x"); }
+  void otherOlder() { haus(), makeOlder(other()); }
+  void oldExtension() { makeOther(), makeOlder(path(u"Anderes.zprj"_s)); }
+  void otherNewer() {
+    makeOther();
+    ProjectDatabase database;
+    database.openProject(other(), false);
+    database.mProject.mVersion = u"2.4"_s;
+    database.recordWriteAll(false);
+  }
+  void noProject() { haus(), write(other(), QByteArray(4096, 'x')); }
+  void damaged() {
+    makeOther();
+    change(other(), QByteArray("DROP TABLE `") + DB_Tables::name(DB_Table::Visu_Pages) + '`');
+  }
+  void damagedIsOpen() { damaged(), openOther(), mDialogs.mTranscript.clear(); }
+  void changedOnDisk() { edited(), write(path(), bytesOf(path()) + 'x'); }
+  void deletedOnDisk() { edited(), QFile::remove(path()); }
+  void fileFull() {
+    edited();
+    mSession.database().execute("PRAGMA max_page_count=1");
+    for (int i = 0; i < 250; ++i) {
+      addAddress({1, 1, i}, QString(500, u'x'));
+    }
+  }
+  void folderGone() {
+    QDir().mkpath(path(u"Ordner"_s));
+    mSession.create(path(u"Ordner/Haus.zpro"_s), {});
+    QDir(path(u"Ordner"_s)).removeRecursively();
+  }
+
+  // The acts.
+  bool openOther() { return mLifecycle.open(other()); }
+  bool openHere() { return mLifecycle.open(path()); }
+  bool openOldExtension() { return mLifecycle.open(path(u"Anderes.zprj"_s)); }
+  bool openChosen() { return mLifecycle.open(); }
+  bool newProject() { return mLifecycle.newProject(); }
+  bool save() { return mLifecycle.save(); }
+  bool saveTwice() { return save() && save(); }
+  bool saveAsThenSave() { return saveAs() && save(); }
+  bool saveAs() { return mLifecycle.saveAs(); }
+  bool close() { return mLifecycle.close(); }
+  bool mayQuit() { return mLifecycle.mayQuit(); }
 
   App_Settings mSettings{path(u"studio.ini"_s)};
   Scripted_Dialogs mDialogs;
@@ -79,174 +122,89 @@ using Rig = Lifecycle_Rig;
 /// `mAnswers` and `mTranscript` write DIR for the project folder.
 struct Row {
   const char* mName;
-  std::function<void(Rig&)> mPrepare;
-  std::function<bool(Rig&)> mAct;
+  void (Rig::*mPrepare)();
+  bool (Rig::*mAct)();
   QStringList mAnswers;
   QStringList mTranscript;
   bool mIsDone;
   QString mOpenAfter; ///< file name, empty for none
 };
 
-void nothing(Rig&) {}
-void haus(Rig& rig) {
-  rig.create();
-}
-void edited(Rig& rig) {
-  rig.create();
-  rig.edit();
-}
-void both(Rig& rig) {
-  rig.makeOther();
-  rig.create();
-}
-void bothEdited(Rig& rig) {
-  rig.makeOther();
-  edited(rig);
-}
-void otherElsewhere(Rig& rig) {
-  both(rig);
-  rig.mElsewhere.open(rig.other());
-}
-void damaged(Rig& rig) {
-  rig.makeOther();
-  rig.change(rig.other(), QByteArray("DROP TABLE `") + DB_Tables::name(DB_Table::Visu_Pages) + '`');
-}
-void damagedIsOpen(Rig& rig) {
-  damaged(rig);
-  rig.mLifecycle.open(rig.other());
-  rig.mDialogs.mTranscript.clear();
-}
-void changedOnDisk(Rig& rig) {
-  edited(rig);
-  QFile file(rig.path());
-  file.open(QIODevice::Append);
-  file.write("x");
-}
-bool openOther(Rig& rig) {
-  return rig.mLifecycle.open(rig.other());
-}
-bool openChosen(Rig& rig) {
-  return rig.mLifecycle.open();
-}
-bool newProject(Rig& rig) {
-  return rig.mLifecycle.newProject();
-}
-bool save(Rig& rig) {
-  return rig.mLifecycle.save();
-}
-bool saveAs(Rig& rig) {
-  return rig.mLifecycle.saveAs();
-}
-bool close(Rig& rig) {
-  return rig.mLifecycle.close();
-}
-bool mayQuit(Rig& rig) {
-  return rig.mLifecycle.mayQuit();
-}
-
 const QString cHaus = u"Haus.zpro"_s;
 const QString cOther = u"Anderes.zpro"_s;
 const QString cJa = u"Ja"_s;
 const QString cNein = u"Nein"_s;
-const QString cNeu = u"DIR/Neu.zpro"_s;
+const QString cNeu = u"Neu.zpro"_s;
 const QString cOtherPath = u"DIR/Anderes.zpro"_s;
 
 const std::vector<Row>& rows() {
   // clang-format off
   static const std::vector<Row> rows = {
-      {"close, nothing changed", haus, close, {}, {}, true, {}},
-      {"close without a project", nothing, close, {}, {}, false, {}},
-      {"close, changes saved", edited, close, {cJa}, {cUnsaved}, true, {}},
-      {"close, changes dropped", edited, close, {cNein}, {cUnsaved}, true, {}},
-      {"close, cancelled", edited, close, {}, {cUnsaved}, false, cHaus},
-      {"close, saving fails", [](Rig& rig) { edited(rig); rig.mSession.database().execute("PRAGMA max_page_count=1");
-         for (int i = 0; i < 250; ++i) { rig.addAddress({1, 1, i}, QString(500, u'x')); } }, close, {cJa}, {cUnsaved,
-         u"Meldung: Fehler beim Speichern der Datei\n Error code: Error: recordWriteAddress"_s}, false, cHaus},
-      {"quit, nothing changed", haus, mayQuit, {}, {}, true, cHaus},
-      {"quit, cancelled", edited, mayQuit, {}, {cUnsaved}, false, cHaus},
-      {"quit, changes dropped", edited, mayQuit, {cNein}, {cUnsaved}, true, cHaus},
-      {"new", nothing, newProject, {cNeu}, QStringList{cNewDialog} + cBuilding, true, u"Neu.zpro"_s},
-      {"new, extension added", nothing, newProject, {u"DIR/Neu"_s}, QStringList{cNewDialog} + cBuilding, true,
-         u"Neu.zpro"_s},
-      {"new, extension in capitals", nothing, newProject, {u"DIR/Neu.ZPRO"_s}, QStringList{cNewDialog} + cBuilding,
-         true, u"Neu.ZPRO"_s},
-      {"new, dialog cancelled", haus, newProject, {}, {cNewDialog}, false, cHaus},
-      {"new, changes first", edited, newProject, {cNein, cNeu}, QStringList{cUnsaved, cNewDialog} + cBuilding, true,
-         u"Neu.zpro"_s},
-      {"new, changes first, cancelled", edited, newProject, {}, {cUnsaved}, false, cHaus},
-      {"new over a file, kept", both, newProject, {cOtherPath, cNein}, {cNewDialog, cReplaceOther}, false, cHaus},
-      {"new over a file, replaced", both, newProject, {cOtherPath, cJa}, QStringList{cNewDialog, cReplaceOther} +
+      {"close, nothing changed", &Rig::haus, &Rig::close, {}, {}, true, {}},
+      {"close, changes saved", &Rig::edited, &Rig::close, {cJa}, {cUnsaved}, true, {}},
+      {"close, changes dropped", &Rig::edited, &Rig::close, {cNein}, {cUnsaved}, true, {}},
+      {"close, cancelled", &Rig::edited, &Rig::close, {}, {cUnsaved}, false, cHaus},
+      {"close, saving fails", &Rig::fileFull, &Rig::close, {cJa}, {cUnsaved, cSaveFailed +
+         u" Error code: Error: recordWriteAddress"_s}, false, cHaus},
+      {"quit, cancelled", &Rig::edited, &Rig::mayQuit, {}, {cUnsaved}, false, cHaus},
+      {"quit, changes dropped", &Rig::edited, &Rig::mayQuit, {cNein}, {cUnsaved}, true, cHaus},
+      {"new, extension added", &Rig::nothing, &Rig::newProject, {u"DIR/Neu"_s}, cNewDialog + cBuilding, true, cNeu},
+      {"new, dialog cancelled", &Rig::haus, &Rig::newProject, {}, cNewDialog, false, cHaus},
+      {"new, changes first, cancelled", &Rig::edited, &Rig::newProject, {}, {cUnsaved}, false, cHaus},
+      {"new over a file, kept", &Rig::both, &Rig::newProject, {cOtherPath, cNein}, cNewDialog + cReplaceOther, false,
+         cHaus},
+      {"new over a file, replaced", &Rig::both, &Rig::newProject, {cOtherPath, cJa}, cNewDialog + cReplaceOther +
          cBuilding, true, cOther},
-      {"new over a file that is open elsewhere", otherElsewhere, newProject, {cOtherPath, cJa, cNein}, {cNewDialog,
-         cReplaceOther, cAlreadyOpen}, false, cHaus},
-      {"new where no file can be", nothing, newProject, {u"DIR/fehlt/Neu.zpro"_s}, {cNewDialog,
-         u"Meldung: Fehler beim Speichern der Datei\nNo such file or directory"_s}, false, {}},
-      {"open", both, openOther, {}, cOpening, true, cOther},
-      {"open, chosen", both, openChosen, {cOtherPath}, QStringList{cOpenDialog} + cOpening, true, cOther},
-      {"open, dialog cancelled", both, openChosen, {}, {cOpenDialog}, false, cHaus},
-      {"open, changes first", bothEdited, openOther, {cJa}, QStringList{cUnsaved} + cOpening, true, cOther},
-      {"open, changes first, cancelled", bothEdited, openOther, {}, {cUnsaved}, false, cHaus},
-      {"open, chosen, changes before the dialog", bothEdited, openChosen, {cNein, cOtherPath}, QStringList{cUnsaved,
-         cOpenDialog} + cOpening, true, cOther},
-      {"open what is open elsewhere, no", otherElsewhere, openOther, {cNein}, {cAlreadyOpen}, false, cHaus},
-      {"open what is open elsewhere, yes", otherElsewhere, openOther, {cJa}, QStringList{cAlreadyOpen} + cOpening, true,
+      {"new over a file that is open elsewhere", &Rig::otherElsewhere, &Rig::newProject, {cOtherPath, cJa, cNein},
+         cNewDialog + cReplaceOther + cAlreadyOpen, false, cHaus},
+      {"new where no file can be", &Rig::nothing, &Rig::newProject, {u"DIR/fehlt/Neu.zpro"_s}, cNewDialog +
+         QStringList{cSaveFailed + u"No such file or directory"_s}, false, {}},
+      {"open", &Rig::both, &Rig::openOther, {}, cOpening, true, cOther},
+      {"open, changes first", &Rig::bothEdited, &Rig::openOther, {cJa}, QStringList{cUnsaved} + cOpening, true, cOther},
+      {"open, changes first, cancelled", &Rig::bothEdited, &Rig::openOther, {}, {cUnsaved}, false, cHaus},
+      {"open, chosen, changes before the dialog", &Rig::bothEdited, &Rig::openChosen, {cNein, cOtherPath},
+         QStringList{cUnsaved, cOpenDialog} + cOpening, true, cOther},
+      {"open what is open elsewhere, no", &Rig::otherElsewhere, &Rig::openOther, {cNein}, cAlreadyOpen, false, cHaus},
+      {"open what is open elsewhere, yes", &Rig::otherElsewhere, &Rig::openOther, {cJa}, cAlreadyOpen + cOpening, true,
          cOther},
-      {"open what a crash left", [](Rig& rig) { both(rig); Rig::write(Working_Copy::pathFor(rig.other()), "x"); },
-         openOther, {cJa}, QStringList{cAlreadyOpen} + cOpening, true, cOther},
-      {"open what is open here", haus, [](Rig& rig) { return rig.mLifecycle.open(rig.path()); }, {cJa},
-         QStringList{cAlreadyOpen} + cOpening, true, cHaus},
-      {"open an older file, no", [](Rig& rig) { haus(rig); rig.makeOlder(rig.other()); }, openOther, {cNein}, {cOlder},
-         false, cHaus},
-      {"open an older file, yes", [](Rig& rig) { haus(rig); rig.makeOlder(rig.other()); }, openOther, {cJa},
-         QStringList{cOlder} + cOpening, true, cOther},
-      {"open a file of the older extension", [](Rig& rig) { rig.makeOlder(rig.path(u"Alt.ZPRJ"_s)); }, [](Rig& rig) {
-         return rig.mLifecycle.open(rig.path(u"Alt.ZPRJ"_s)); }, {cJa}, QStringList{cOlder} + cOpening, true,
-         u"Alt.zpro"_s},
-      {"open a file of the older extension, copy kept", [](Rig& rig) { rig.makeOther();
-         rig.makeOlder(rig.path(u"Anderes.zprj"_s)); }, [](Rig& rig) { return
-         rig.mLifecycle.open(rig.path(u"Anderes.zprj"_s)); }, {cJa, cNein}, {cOlder, cReplaceOther}, false, {}},
-      {"open a file of the older extension, copy replaced", [](Rig& rig) { rig.makeOther();
-         rig.makeOlder(rig.path(u"Anderes.zprj"_s)); }, [](Rig& rig) { return
-         rig.mLifecycle.open(rig.path(u"Anderes.zprj"_s)); }, {cJa, cJa}, QStringList{cOlder, cReplaceOther} + cOpening,
-         true, cOther},
-      {"open a newer project, no", [](Rig& rig) { rig.makeNewer("2.4"); }, openOther, {cNein}, cLoading +
-         QStringList{cNewer}, false, {}},
-      {"open a newer project, yes", [](Rig& rig) { rig.makeNewer("2.4"); }, openOther, {cJa}, cLoading +
-         QStringList{cNewer} + cBuilding, true, cOther},
-      {"open a project of this version", [](Rig& rig) { rig.makeNewer("2.3146"); }, openOther, {}, cOpening, true,
+      {"open what a crash left", &Rig::otherCrashed, &Rig::openOther, {cJa}, cAlreadyOpen + cOpening, true, cOther},
+      {"open what is open here", &Rig::haus, &Rig::openHere, {cJa}, cAlreadyOpen + cOpening, true, cHaus},
+      {"open an older file, no", &Rig::otherOlder, &Rig::openOther, {cNein}, {cOlder}, false, cHaus},
+      {"open an older file, yes", &Rig::otherOlder, &Rig::openOther, {cJa}, QStringList{cOlder} + cOpening, true,
          cOther},
-      {"open what is no project", [](Rig& rig) { haus(rig); Rig::write(rig.other(), QByteArray(4096, 'x')); },
-         openOther, {}, cLoading + QStringList{u"Meldung: Fehler beim Öffnen der Datei: file is not a database"_s},
-         false, {}},
-      {"open a damaged project", damaged, openOther, {}, cOpening + QStringList{cDamage}, true, cOther},
-      {"open what is missing", haus, openOther, {},
+      {"open the older extension, copy kept", &Rig::oldExtension, &Rig::openOldExtension, {cJa, cNein},
+         QStringList{cOlder} + cReplaceOther, false, {}},
+      {"open the older extension, copy replaced", &Rig::oldExtension, &Rig::openOldExtension, {cJa, cJa},
+         QStringList{cOlder} + cReplaceOther + cOpening, true, cOther},
+      {"open a newer project, no", &Rig::otherNewer, &Rig::openOther, {cNein}, cLoading + QStringList{cNewer}, false,
+         {}},
+      {"open a newer project, yes", &Rig::otherNewer, &Rig::openOther, {cJa}, cLoading + QStringList{cNewer} +
+         cBuilding, true, cOther},
+      {"open what is no project", &Rig::noProject, &Rig::openOther, {}, cLoading +
+         QStringList{u"Meldung: Fehler beim Öffnen der Datei: file is not a database"_s}, false, {}},
+      {"open a damaged project", &Rig::damaged, &Rig::openOther, {}, cOpening + QStringList{cDamage}, true, cOther},
+      {"open what is missing", &Rig::haus, &Rig::openOther, {},
          {u"Meldung: Das Projekt \"DIR/Anderes.zpro\" wurde nicht gefunden."_s}, false, cHaus},
-      {"save", edited, save, {}, {}, true, cHaus},
-      {"save without a project", nothing, save, {}, {}, false, {}},
-      {"save what changed on disk, no", changedOnDisk, save, {cNein}, {cChangedOnDisk}, false, cHaus},
-      {"save what changed on disk, yes", changedOnDisk, save, {cJa}, {cChangedOnDisk}, true, cHaus},
-      {"save what was deleted on disk", [](Rig& rig) { edited(rig); QFile::remove(rig.path()); }, save, {}, {}, true,
+      {"save", &Rig::edited, &Rig::save, {}, {}, true, cHaus},
+      {"save what changed on disk, no", &Rig::changedOnDisk, &Rig::save, {cNein}, cChangedOnDisk, false, cHaus},
+      {"save what changed on disk, yes", &Rig::changedOnDisk, &Rig::save, {cJa}, cChangedOnDisk, true, cHaus},
+      {"save what was deleted on disk", &Rig::deletedOnDisk, &Rig::save, {}, {}, true, cHaus},
+      {"save over a damaged original, no", &Rig::damagedIsOpen, &Rig::save, {cNein}, {cOverwriteDamaged}, false,
+         cOther},
+      {"save over a damaged original, asked once", &Rig::damagedIsOpen, &Rig::saveTwice, {cJa}, {cOverwriteDamaged},
+         true, cOther},
+      {"save, the folder is gone", &Rig::folderGone, &Rig::save, {}, {cSaveFailed + u"No such file or directory"_s},
+         false, cHaus},
+      {"save as", &Rig::edited, &Rig::saveAs, {u"DIR/Neu"_s}, cSaveDialog, true, cNeu},
+      {"save as, cancelled", &Rig::edited, &Rig::saveAs, {}, cSaveDialog, false, cHaus},
+      {"save as, same file", &Rig::changedOnDisk, &Rig::saveAs, {u"DIR/Haus"_s, cNein}, cSaveDialog + cChangedOnDisk,
+         false, cHaus},
+      {"save as over a file, kept", &Rig::both, &Rig::saveAs, {cOtherPath, cNein}, cSaveDialog + cReplaceOther, false,
          cHaus},
-      {"save over a damaged original, no", damagedIsOpen, save, {cNein}, {cOverwriteDamaged}, false, cOther},
-      {"save over a damaged original, asked once", damagedIsOpen, [](Rig& rig) { return rig.mLifecycle.save() &&
-         rig.mLifecycle.save(); }, {cJa}, {cOverwriteDamaged}, true, cOther},
-      {"save, the folder is gone", [](Rig& rig) { QDir().mkpath(rig.path(u"Ordner"_s));
-         rig.mSession.create(rig.path(u"Ordner/Haus.zpro"_s), {}); QDir(rig.path(u"Ordner"_s)).removeRecursively(); },
-         save, {}, {u"Meldung: Fehler beim Speichern der Datei\nNo such file or directory"_s}, false, cHaus},
-      {"save as", edited, saveAs, {u"DIR/Neu"_s}, {cSaveDialog}, true, u"Neu.zpro"_s},
-      {"save as, cancelled", edited, saveAs, {}, {cSaveDialog}, false, cHaus},
-      {"save as, same file", changedOnDisk, saveAs, {u"DIR/Haus"_s, cNein}, {cSaveDialog, cChangedOnDisk}, false,
-         cHaus},
-      {"save as over a file, kept", both, saveAs, {cOtherPath, cNein}, {cSaveDialog, cReplaceOther}, false, cHaus},
-      {"save as over a file", both, saveAs, {cOtherPath, cJa}, {cSaveDialog, cReplaceOther}, true, cOther},
-      {"save as over a file that is open elsewhere, no", otherElsewhere, saveAs, {cOtherPath, cJa, cNein}, {cSaveDialog,
-         cReplaceOther, cAlreadyOpen}, false, cHaus},
-      {"save as over a file that is open elsewhere, yes", otherElsewhere, saveAs, {cOtherPath, cJa, cJa}, {cSaveDialog,
-         cReplaceOther, cAlreadyOpen}, true, cOther},
-      {"save a damaged project elsewhere, then again", damagedIsOpen, [](Rig& rig) { return rig.mLifecycle.saveAs() &&
-         rig.mLifecycle.save(); }, {cNeu}, {cSaveDialog}, true, u"Neu.zpro"_s},
-      {"save as where no file can be", haus, saveAs, {u"DIR/fehlt/Neu.zpro"_s}, {cSaveDialog,
-         u"Meldung: Fehler beim Speichern der Datei\nNo such file or directory"_s}, false, cHaus},
+      {"save as over a file that is open elsewhere, yes", &Rig::otherElsewhere, &Rig::saveAs, {cOtherPath, cJa, cJa},
+         cSaveDialog + cReplaceOther + cAlreadyOpen, true, cOther},
+      {"save a damaged project elsewhere, then again", &Rig::damagedIsOpen, &Rig::saveAsThenSave, {u"DIR/Neu"_s},
+         cSaveDialog, true, cNeu},
   };
   // clang-format on
   return rows;
@@ -271,9 +229,9 @@ private slots:
   void questions() {
     QFETCH(size_t, row);
     const Row& expected = rows()[row];
-    expected.mPrepare(*mRig);
+    (mRig.get()->*expected.mPrepare)();
     mRig->mDialogs.mAnswers = QStringList(expected.mAnswers).replaceInStrings(u"DIR"_s, mRig->folder());
-    const bool isDone = expected.mAct(*mRig);
+    const bool isDone = (mRig.get()->*expected.mAct)();
     QStringList transcript = mRig->mDialogs.mTranscript;
     QCOMPARE(transcript.replaceInStrings(mRig->folder(), u"DIR"_s), expected.mTranscript);
     QCOMPARE(isDone, expected.mIsDone);
@@ -283,145 +241,94 @@ private slots:
     QVERIFY(!mRig->mLifecycle.isBusy());
   }
 
-  void savedChangesAreInTheFileAndDroppedOnesAreNot_data() {
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<QString>("caption");
-    QTest::newRow("saved") << cJa << u"Umbenannt"_s;
-    QTest::newRow("dropped") << cNein << u"Programm 1"_s;
-  }
-
   void savedChangesAreInTheFileAndDroppedOnesAreNot() {
-    QFETCH(QString, answer);
-    QFETCH(QString, caption);
-    edited(*mRig);
-    mRig->mDialogs.mAnswers = {answer};
-    QVERIFY(mRig->mLifecycle.close());
-    QVERIFY(mRig->mLifecycle.open(mRig->path()));
-    QCOMPARE(mRig->mSession.database().mFbPages.pages().at(0).mCaption, caption);
-  }
-
-  void anotherOperationIsRefusedQuietly_data() {
-    QTest::addColumn<bool>("duringQuestion");
-    QTest::newRow("while a question is open") << true;
-    QTest::newRow("dropped while another file is being opened") << false;
+    mRig->edited();
+    for (const QString& answer : {cNein, cJa}) {
+      mRig->mDialogs.mAnswers = {answer};
+      QVERIFY(mRig->close() && mRig->openHere());
+      const QString caption = mRig->mSession.database().mFbPages.pages().at(0).mCaption;
+      QCOMPARE(caption, answer == cJa ? u"Umbenannt"_s : u"Programm 1"_s);
+      mRig->edit();
+    }
   }
 
   void anotherOperationIsRefusedQuietly() {
-    QFETCH(bool, duringQuestion);
-    if (duringQuestion) {
-      bothEdited(*mRig);
-    } else {
-      both(*mRig);
-    }
+    mRig->bothEdited();
     int refused = 0;
     const auto interfere = [&] {
       mRig->mDialogs.mWhileAsked = nullptr;
-      Project_Lifecycle& lifecycle = mRig->mLifecycle;
-      const bool isAnyDone = lifecycle.open(mRig->path()) || lifecycle.save() || lifecycle.saveAs() ||
-                             lifecycle.close() || lifecycle.newProject() || lifecycle.openDemo() || lifecycle.mayQuit();
-      refused = isAnyDone ? -1 : 1;
+      const bool isAnyDone = mRig->openHere() || mRig->save() || mRig->saveAs() || mRig->close() ||
+                             mRig->newProject() || mRig->mLifecycle.openDemo() || mRig->mayQuit();
+      refused += isAnyDone ? 0 : 1;
     };
-    if (duringQuestion) {
-      mRig->mDialogs.mWhileAsked = interfere;
-      mRig->mDialogs.mAnswers = {cNein};
-    } else {
-      QTimer::singleShot(0, &mRig->mLifecycle, interfere);
-    }
-    QVERIFY(openOther(*mRig));
-    QCOMPARE(refused, 1);
-    QCOMPARE(mRig->mDialogs.mTranscript, (duringQuestion ? QStringList{cUnsaved} : QStringList{}) + cOpening);
+    mRig->mDialogs.mWhileAsked = interfere;
+    mRig->mDialogs.mAnswers = {cNein};
+    QTimer::singleShot(0, &mRig->mLifecycle, interfere); // comes while the other file is being opened
+    QVERIFY(mRig->openOther());
+    QCOMPARE(refused, 2);
+    QCOMPARE(mRig->mDialogs.mTranscript, QStringList{cUnsaved} + cOpening);
     QCOMPARE(mRig->mSession.path(), mRig->other());
   }
 
   void changesMadeDuringTheWaitAreAskedAbout() {
-    both(*mRig);
+    mRig->both();
     QTimer::singleShot(0, &mRig->mLifecycle, [this] { mRig->edit(); });
-    QVERIFY(!openOther(*mRig));
+    QVERIFY(!mRig->openOther());
     QCOMPARE(mRig->mDialogs.mTranscript, cLoading + QStringList{cUnsaved});
     QCOMPARE(mRig->mSession.path(), mRig->path());
     QVERIFY(!mRig->mDialogs.mIsProgressShown);
   }
 
   void aRunningToolCallRefusesWithAWord() {
-    edited(*mRig);
-    mRig->makeOther();
+    mRig->bothEdited();
     QStringList infos;
     connect(&mRig->mLifecycle, &Project_Lifecycle::info, [&infos](const QString& text) { infos.append(text); });
     mRig->mState.beginToolCall(0);
-    QVERIFY(!openOther(*mRig));
-    QVERIFY(!mayQuit(*mRig));
-    QVERIFY(!close(*mRig));
-    mRig->mState.endToolCall(1);
+    QVERIFY(!mRig->openOther() && !mRig->mayQuit() && !mRig->close());
     QCOMPARE(infos, QStringList(3, u"Nicht möglich, solange der KI-Assistent arbeitet."_s));
     QCOMPARE(mRig->mDialogs.mTranscript, QStringList());
     QVERIFY(mRig->mSession.isModified());
   }
 
-  void recentProjectsFollow() {
-    both(*mRig);
-    QVERIFY(openOther(*mRig));
-    mRig->mDialogs.mAnswers = {mRig->path(u"Neu.zpro"_s)};
-    QVERIFY(saveAs(*mRig));
-    const QStringList both = {mRig->path(u"Neu.zpro"_s), mRig->other()};
-    QCOMPARE(mRig->mSettings.lastProjects(), both);
-    QCOMPARE(mRig->mSettings.lastProjectDir(), mRig->folder());
-  }
-
-  void aMissingRecentProjectIsOfferedForRemoval_data() {
-    QTest::addColumn<QString>("answer");
-    QTest::newRow("removed") << cJa;
-    QTest::newRow("kept") << cNein;
-  }
-
   void aMissingRecentProjectIsOfferedForRemoval() {
-    QFETCH(QString, answer);
-    mRig->mSettings.addLastProject(mRig->other());
-    mRig->mDialogs.mAnswers = {answer};
-    QVERIFY(!openOther(*mRig));
-    QCOMPARE(mRig->mDialogs.mTranscript.size(), 1);
-    QVERIFY(mRig->mDialogs.mTranscript.at(0).startsWith(u"Ja/Nein: Das Projekt"_s));
-    QCOMPARE(mRig->mSettings.lastProjects().isEmpty(), answer == cJa);
+    for (const QString& answer : {cNein, cJa}) {
+      mRig->mSettings.addLastProject(mRig->other());
+      mRig->mDialogs.mAnswers = {answer};
+      QVERIFY(!mRig->openOther());
+      QCOMPARE(mRig->mDialogs.mAnswers, QStringList());
+      QCOMPARE(mRig->mSettings.lastProjects().isEmpty(), answer == cJa);
+    }
   }
 
   void theDemoIsBuiltWhenItIsMissingOrBrokenElseOpenedAsItIs() {
     QFile::remove(Demo_Project::defaultPath());
     QVERIFY(mRig->mLifecycle.openDemo());
-    QCOMPARE(mRig->mDialogs.mTranscript, cBuilding);
-    QCOMPARE(mRig->mSession.path(), Demo_Project::defaultPath());
-    const qsizetype addresses = mRig->mSession.database().mAddresses.subGroupCount();
-    QVERIFY(addresses > 0);
-    QVERIFY(mRig->edit() && save(*mRig) && close(*mRig));
-
-    mRig->mDialogs.mTranscript.clear();
+    QVERIFY(mRig->edit() && mRig->save() && mRig->close());
     QVERIFY(mRig->mLifecycle.openDemo());
-    QCOMPARE(mRig->mDialogs.mTranscript, cOpening);
+    QCOMPARE(mRig->mDialogs.mTranscript, cBuilding + cOpening);
     QCOMPARE(mRig->mSession.database().mFbPages.pages().at(0).mCaption, u"Umbenannt"_s);
-    QVERIFY(close(*mRig));
-
-    Rig::write(Demo_Project::defaultPath(), "kein Projekt");
+    QVERIFY(mRig->close());
+    mRig->write(Demo_Project::defaultPath(), "kein Projekt");
+    mRig->mDialogs.mAnswers = {u"Nein"_s, u"Ja"_s};
+    QVERIFY2(!mRig->mLifecycle.openDemo(), "not replaced unasked");
     QVERIFY(mRig->mLifecycle.openDemo());
-    QCOMPARE(mRig->mSession.database().mAddresses.subGroupCount(), addresses);
+    QVERIFY(mRig->mSession.database().mAddresses.subGroupCount() > 0);
     QCOMPARE(mRig->mSettings.lastProjects(), QStringList());
-    QVERIFY(close(*mRig));
-    QFile::remove(Demo_Project::defaultPath());
+    QVERIFY(mRig->close() && QFile::remove(Demo_Project::defaultPath()));
   }
 
   void unknownBlocksBecomeCommentsBeforeTheEditorsAreBuilt() {
-    mRig->makeOther();
-    QUuid block;
-    {
-      Project_Session session(mRig->mState);
-      QVERIFY(session.open(mRig->other()));
-      auto made = std::make_unique<DB_FB_Control>();
-      made->mPageGuid = session.database().mFbPages.pages().at(0).mGuid;
-      made->mType = 54321;
-      block = session.database().mFbPages.appendChild(std::move(made))->mGuid;
-      QCOMPARE(session.save(), Project_Session::Save_Result::Saved);
-    }
+    mRig->haus();
+    auto made = std::make_unique<DB_FB_Control>();
+    made->mPageGuid = mRig->mSession.database().mFbPages.pages().at(0).mGuid;
+    made->mType = 54321;
+    const QUuid block = mRig->mSession.database().mFbPages.appendChild(std::move(made))->mGuid;
+    QVERIFY(mRig->save());
+    mRig->mSession.close();
     QList<int> types;
     connect(&mRig->mLifecycle, &Project_Lifecycle::buildEditors,
             [&] { types.append(mRig->mSession.database().mFbPages.child(block)->mType); });
-    QVERIFY(openOther(*mRig));
+    QVERIFY(mRig->openHere());
     QCOMPARE(types, QList<int>(3, 10));
   }
 

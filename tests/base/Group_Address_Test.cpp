@@ -54,25 +54,6 @@ private slots:
       QVERIFY(number == 0 || Group_Address::fromNumber(static_cast<quint16>(number - 1)) < address);
     }
   }
-
-  void onBus_data() {
-    QTest::addColumn<int>("main");
-    QTest::addColumn<int>("middle");
-    QTest::addColumn<int>("sub");
-    QTest::addColumn<bool>("isOnBus");
-    QTest::newRow("highest") << 31 << 7 << 255 << true;
-    QTest::newRow("main group of a record") << 32 << 0 << 0 << false;
-    QTest::newRow("middle group") << 0 << 8 << 0 << false;
-    QTest::newRow("sub group") << 0 << 0 << 256 << false;
-    QTest::newRow("negative") << 0 << 0 << -1 << false;
-  }
-
-  void onBus() {
-    QFETCH(int, main);
-    QFETCH(int, middle);
-    QFETCH(int, sub);
-    QTEST(Group_Address(main, middle, sub).isOnBus(), "isOnBus");
-  }
 };
 
 QTEST_APPLESS_MAIN(Group_Address_Test)

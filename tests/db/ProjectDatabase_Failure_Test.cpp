@@ -35,19 +35,14 @@ private slots:
     const char* const addressError = "Error: recordWriteAddress";
     // Main, middle, sub groups; single records; visualisation pages, elements; logic pages, blocks.
     row("first sub group", DB_Table::Sub_Groups, 1, "ABORT", addressError, "2,4,11;8;3,6;2,6");
-    row("third sub group", DB_Table::Sub_Groups, 3, "FAIL", addressError, "2,4,11;8;3,6;2,6");
     row("main group, its middle groups go on", DB_Table::Main_Groups, 2, "ABORT", addressError, "1,4,12;8;3,6;2,6");
     row("middle group", DB_Table::Middle_Groups, 1, "FAIL", addressError, "2,3,12;8;3,6;2,6");
-    row("first single record", DB_Table::Project, 1, "ABORT", "voll", "2,4,12;7;3,6;2,6");
     row("last single record", DB_Table::Project_Generator, 1, "FAIL", "voll", "2,4,12;7;3,6;2,6");
-    row("first visualisation page", DB_Table::Visu_Pages, 1, "ABORT", "voll", "2,4,12;8;0,0;2,6");
     row("second visualisation page", DB_Table::Visu_Pages, 2, "FAIL", "voll", "2,4,12;8;1,2;2,6");
-    row("first element of a page", DB_Table::Visu_Elements, 3, "ABORT", "voll", "2,4,12;8;3,4;2,6");
     row("last element of a page", DB_Table::Visu_Elements, 4, "FAIL", "voll", "2,4,12;8;3,5;2,6");
     row("second logic page", DB_Table::Logic_Pages, 2, "ABORT", "voll", "2,4,12;8;3,6;1,3");
     row("second block", DB_Table::Logic_Blocks, 2, "FAIL", "voll", "2,4,12;8;3,6;2,4");
     // The engine takes everything back: the file stays as it was.
-    row("everything rolled back", DB_Table::Sub_Groups, 5, "ROLLBACK", addressError, "2,4,12;8;3,6;2,6");
     row("everything rolled back late", DB_Table::Logic_Blocks, 2, "ROLLBACK", "voll", "2,4,12;8;3,6;2,6");
   }
 
@@ -71,46 +66,6 @@ private slots:
     QVERIFY2(mStore->recordWriteAll(false), qPrintable(mStore->lastError()));
     QVERIFY(mStore->openProject(mPath, true));
     QCOMPARE(Project_Dump::project(*mStore), dump);
-  }
-
-  void firstErrorIsTold() {
-    for (const DB_Table table : {DB_Table::Mail, DB_Table::Logic_Pages}) {
-      const QByteArray text = DB_Tables::all()[static_cast<size_t>(table)].mPlainName;
-      QVERIFY(mStore->execute("CREATE TRIGGER " + text + " BEFORE INSERT ON " + quoted(table) +
-                              " BEGIN SELECT RAISE(FAIL, '" + text + "'); END"));
-    }
-    const qint64 timestamp = mStore->mProject.mTimestamp;
-    QVERIFY(!mStore->recordWriteAll(true));
-    QCOMPARE(mStore->lastError(), QStringLiteral("mail"));
-    QCOMPARE(mStore->mProject.mTimestamp, timestamp);
-  }
-
-  void fileFull_data() {
-    QTest::addColumn<int>("blocks");
-    QTest::newRow("many blocks") << 2000;
-    QTest::newRow("one page more") << 1;
-  }
-
-  /// The file stays as it was saved last, nothing is doubled in it, and with room again the next save is whole.
-  void fileFull() {
-    QFETCH(int, blocks);
-    const QByteArray saved = savedDump();
-    const QUuid page = mStore->mFbPages.pages().at(0).mGuid;
-    for (int i = 0; i < blocks; ++i) {
-      auto block = std::make_unique<DB_FB_Control>();
-      block->mPageGuid = page;
-      block->mTitle = QString(blocks == 1 ? 100'000 : 100, u'x');
-      mStore->mFbPages.appendChild(std::move(block));
-    }
-    const QByteArray dump = Project_Dump::project(*mStore);
-    QVERIFY(mStore->execute("PRAGMA max_page_count=1"));
-    QVERIFY(!mStore->recordWriteAll(true));
-    QVERIFY(!mStore->lastError().isEmpty());
-    QCOMPARE(Project_Dump::project(*mStore), dump);
-    QCOMPARE(savedDump(), saved);
-    QVERIFY(mStore->execute("PRAGMA max_page_count=1000000"));
-    QVERIFY2(mStore->recordWriteAll(false), qPrintable(mStore->lastError()));
-    QCOMPARE(savedDump(), dump);
   }
 
   /// Another process that reads holds the commit up until the engine gives up.

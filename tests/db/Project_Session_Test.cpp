@@ -1,5 +1,3 @@
-#include "base/Version.h"
-#include "db/Demo_Project.h"
 #include "db/Project_Edits.h"
 #include "tests/db/Project_Dump.h"
 #include "tests/db/Session_Rig.h"
@@ -13,31 +11,6 @@ class Project_Session_Test : public QObject {
 
 private slots:
   void init() { mRig = std::make_unique<Session_Rig>(); }
-
-  void aNewProjectHoldsItsFirstPagesAndConnection() {
-    QVERIFY(mRig->mSession.create(mRig->path(), {}));
-    ProjectDatabase& database = mRig->mSession.database();
-    QCOMPARE(database.mProject.mVersion, QStringLiteral("2.3146"));
-    QCOMPARE(database.mProject.mName, QStringLiteral("Haus"));
-    QCOMPARE(database.mFbPages.pages().size(), 1);
-    QCOMPARE(database.mWidgetPages.pages().size(), 2);
-    QVERIFY(database.mWidgetPages.pages().at(0).mHeight > database.mWidgetPages.pages().at(0).mWidth);
-    QVERIFY(database.mWidgetPages.pages().at(1).mWidth > database.mWidgetPages.pages().at(1).mHeight);
-    QCOMPARE(database.mConnections.mItems.at(0).mAddress, QStringLiteral("172.31.1.100"));
-    QCOMPARE(database.mConnections.mSelected, 0);
-    QVERIFY(!mRig->mSession.isModified());
-    reopenIsEqual();
-  }
-
-  void theDemoProjectIsBuiltAndOpensAgain() {
-    QString error;
-    QVERIFY2(Demo_Project::build(mRig->mSession, mRig->path(QStringLiteral("neu/Demo.zpro")), error),
-             qPrintable(error));
-    QVERIFY(mRig->mSession.database().mAddresses.subGroupCount() > 100);
-    QCOMPARE(mRig->mSession.database().mConnections.mItems.at(0).mAddress, QStringLiteral("127.0.0.1"));
-    QVERIFY(!mRig->mSession.isModified());
-    reopenIsEqual();
-  }
 
   void savingAsGoesOnUnderTheNewNameAndLeavesTheOldFile() {
     QVERIFY(mRig->create());
@@ -57,33 +30,6 @@ private slots:
     QVERIFY(mRig->mSession.history().undo());
     QCOMPARE(mRig->mSession.save(), Save::Saved);
     reopenIsEqual();
-  }
-
-  void closingDeletesWorkingFileAndLock() {
-    QVERIFY(mRig->create());
-    QVERIFY(QFile::exists(Working_Copy::pathFor(mRig->path())));
-    mRig->mSession.close();
-    QCOMPARE(QDir(mRig->tempFolder()).entryList(QDir::Files | QDir::Hidden), QStringList());
-    QCOMPARE(QDir(mRig->folder()).entryList(QDir::Files | QDir::Hidden), QStringList(QStringLiteral("Haus.zpro")));
-  }
-
-  void twoSessionsOnOneFileDoNotMeet() {
-    QVERIFY(mRig->create());
-    const QUuid key = mRig->addAddress({1, 1, 1}, QStringLiteral("Licht"))->mKey;
-    QCOMPARE(mRig->mSession.save(), Save::Saved);
-    Session_State state;
-    Project_Session second(state);
-    QVERIFY(second.open(mRig->path()));
-    QVERIFY(second.database().fileName() != mRig->mSession.database().fileName());
-    QVERIFY(!mRig->mSession.isChangedOnDisk());
-    QVERIFY(Project_Edits::renameAddress(second, key, QStringLiteral("von der zweiten, länger als zuvor")));
-    QCOMPARE(second.save(), Save::Saved);
-    QVERIFY(mRig->mSession.isChangedOnDisk());
-    QVERIFY(!second.isChangedOnDisk());
-    second.close();
-    QVERIFY(QFile::exists(mRig->mSession.database().fileName()));
-    QCOMPARE(mRig->mSession.save(), Save::Saved);
-    QVERIFY(!mRig->mSession.isChangedOnDisk());
   }
 
   void aFailedSaveLosesNothing_data() {
@@ -144,22 +90,6 @@ private slots:
     QVERIFY(!mRig->mSession.isOpen());
     QCOMPARE(Session_Rig::bytesOf(mRig->path()), bytes);
     QCOMPARE(QDir(mRig->tempFolder()).entryList(QDir::Files | QDir::Hidden), QStringList());
-  }
-
-  void aReadOnlyFileOpensAndItsFailedSaveLeavesItAsItIs() {
-    QVERIFY(mRig->create());
-    mRig->mSession.close();
-    const QByteArray bytes = Session_Rig::bytesOf(mRig->path());
-    QVERIFY(QFile::setPermissions(mRig->path(), QFile::ReadOwner));
-    QVERIFY(mRig->mSession.open(mRig->path()));
-    QCOMPARE(Session_Rig::bytesOf(mRig->path()), bytes);
-    mRig->addAddress({1, 1, 1}, QStringLiteral("neu"));
-    const Save result = mRig->mSession.save();
-    if (QFileInfo(mRig->path()).isWritable()) {
-      QSKIP("this user may write every file");
-    }
-    QCOMPARE(result, Save::PublishFailed);
-    QCOMPARE(Session_Rig::bytesOf(mRig->path()), bytes);
   }
 
 private:

@@ -7,21 +7,6 @@ class FB_Normaliser_Test : public QObject {
   Q_OBJECT
 
 private slots:
-  void theTypesAreOrderedAndNamed() {
-    int last = 0;
-    for (const FB_Types::Type& type : FB_Types::all()) {
-      QVERIFY2(type.mId > last, qPrintable(QString::number(type.mId)));
-      last = type.mId;
-      QVERIFY(FB_Types::find(type.mId) == &type);
-    }
-    QCOMPARE(FB_Types::all().size(), size_t(325));
-    QCOMPARE(FB_Types::name(50), QStringLiteral("Und"));
-    QCOMPARE(FB_Types::name(1356), QStringLiteral("<  Kleiner (1xE)"));
-    QCOMPARE(FB_Types::name(1393), QStringLiteral("Formel *"));
-    QCOMPARE(FB_Types::name(9107), QStringLiteral("KNX lesen Trigger"));
-    QCOMPARE(FB_Types::name(13), QStringLiteral("Unknown"));
-  }
-
   void anUnknownTypeBecomesACommentAndComesBack() {
     Session_Rig rig;
     QVERIFY(rig.create());
