@@ -82,7 +82,7 @@ struct Plain_Tree {
 QStringList lines(const Address_Tree& tree) {
   QStringList lines;
   const auto tell = [&](const QString& path, const auto& group) {
-    const QString here = path + u'/' + QString::number(group->mNumber);
+    QString here = path + u'/' + QString::number(group->mNumber);
     lines.append(QStringLiteral("%1 %2 %3").arg(here, group->mKey.toString()).arg(tree.placeOf(group->mKey)));
     return here;
   };

@@ -14,14 +14,19 @@ constexpr int cAddresses = 2000;
 constexpr int cUsualKills = 12;
 constexpr int cWaitMs = 60'000;
 
-void rename(Address_Tree& tree, const QString& prefix) {
+template <class Visit>
+void forEachAddress(const Address_Tree& tree, Visit&& visit) {
   for (const auto& main : tree.mainGroups()) {
     for (const auto& middle : main->mMiddleGroups) {
       for (const auto& sub : middle->mSubGroups) {
-        sub->mName = prefix + QString::number(sub->mNumber).repeated(4);
+        visit(*sub);
       }
     }
   }
+}
+
+void rename(const Address_Tree& tree, const QString& prefix) {
+  forEachAddress(tree, [&prefix](auto& sub) { sub.mName = prefix + QString::number(sub.mNumber).repeated(4); });
 }
 
 /// The process that is killed: opens the project and, once told to, changes every address and saves.
@@ -120,13 +125,8 @@ private:
     const Address_Tree& tree = rig.mSession.database().mAddresses;
     QCOMPARE(tree.subGroupCount(), cAddresses);
     prefix = tree.subGroup(Group_Address(0, 0, 0))->mName.at(0);
-    for (const auto& main : tree.mainGroups()) {
-      for (const auto& middle : main->mMiddleGroups) {
-        for (const auto& sub : middle->mSubGroups) {
-          QCOMPARE(sub->mName, prefix + QString::number(sub->mNumber).repeated(4));
-        }
-      }
-    }
+    forEachAddress(
+        tree, [&prefix](const auto& sub) { QCOMPARE(sub.mName, prefix + QString::number(sub.mNumber).repeated(4)); });
     rig.mSession.close();
   }
 };
