@@ -74,22 +74,6 @@ private slots:
     QVERIFY(mTree->isExpanded(mTree->currentIndex()));
   }
 
-  void escapeClosesTheEditorBeforeTheFilter() {
-    fill();
-    setFilter(QStringLiteral("licht"));
-    QTRY_COMPARE(mTree->model()->rowCount(), 1);
-    QTest::keyClick(mFilter, Qt::Key_Down);
-    QCOMPARE(QApplication::focusWidget(), mTree);
-    QTest::keyClick(mTree, Qt::Key_F2);
-    QWidget* const editor = QApplication::focusWidget();
-    QVERIFY(qobject_cast<QLineEdit*>(editor));
-    QTest::keyClick(editor, Qt::Key_Escape);
-    QTRY_COMPARE(QApplication::focusWidget(), mTree);
-    QCOMPARE(mFilter->text(), QStringLiteral("licht"));
-    QTest::keyClick(mTree, Qt::Key_Escape);
-    QVERIFY(mFilter->text().isEmpty());
-  }
-
   void refusalComesOnce() {
     fill();
     const QSignalSpy refused(mView.get(), &Address_View::refused);
