@@ -287,16 +287,6 @@ private slots:
     QVERIFY(mRig->mSession.isModified());
   }
 
-  void aMissingRecentProjectIsOfferedForRemoval() {
-    for (const QString& answer : {cNein, cJa}) {
-      mRig->mSettings.addLastProject(mRig->other());
-      mRig->mDialogs.mAnswers = {answer};
-      QVERIFY(!mRig->openOther());
-      QCOMPARE(mRig->mDialogs.mAnswers, QStringList());
-      QCOMPARE(mRig->mSettings.lastProjects().isEmpty(), answer == cJa);
-    }
-  }
-
   void theDemoIsBuiltWhenItIsMissingOrBrokenElseOpenedAsItIs() {
     QFile::remove(Demo_Project::defaultPath());
     QVERIFY(mRig->mLifecycle.openDemo());
