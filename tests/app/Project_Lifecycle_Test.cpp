@@ -147,9 +147,7 @@ const std::vector<Row>& rows() {
       {"close, saving fails", &Rig::fileFull, &Rig::close, {cJa}, {cUnsaved, cSaveFailed +
          u" Error code: Error: recordWriteAddress"_s}, false, cHaus},
       {"quit, cancelled", &Rig::edited, &Rig::mayQuit, {}, {cUnsaved}, false, cHaus},
-      {"quit, changes dropped", &Rig::edited, &Rig::mayQuit, {cNein}, {cUnsaved}, true, cHaus},
       {"new, extension added", &Rig::nothing, &Rig::newProject, {u"DIR/Neu"_s}, cNewDialog + cBuilding, true, cNeu},
-      {"new, dialog cancelled", &Rig::haus, &Rig::newProject, {}, cNewDialog, false, cHaus},
       {"new, changes first, cancelled", &Rig::edited, &Rig::newProject, {}, {cUnsaved}, false, cHaus},
       {"new over a file, kept", &Rig::both, &Rig::newProject, {cOtherPath, cNein}, cNewDialog + cReplaceOther, false,
          cHaus},
@@ -196,7 +194,6 @@ const std::vector<Row>& rows() {
       {"save, the folder is gone", &Rig::folderGone, &Rig::save, {}, {cSaveFailed + u"No such file or directory"_s},
          false, cHaus},
       {"save as", &Rig::edited, &Rig::saveAs, {u"DIR/Neu"_s}, cSaveDialog, true, cNeu},
-      {"save as, cancelled", &Rig::edited, &Rig::saveAs, {}, cSaveDialog, false, cHaus},
       {"save as, same file", &Rig::changedOnDisk, &Rig::saveAs, {u"DIR/Haus"_s, cNein}, cSaveDialog + cChangedOnDisk,
          false, cHaus},
       {"save as over a file, kept", &Rig::both, &Rig::saveAs, {cOtherPath, cNein}, cSaveDialog + cReplaceOther, false,
@@ -288,16 +285,6 @@ private slots:
     QCOMPARE(infos, QStringList(3, u"Nicht möglich, solange der KI-Assistent arbeitet."_s));
     QCOMPARE(mRig->mDialogs.mTranscript, QStringList());
     QVERIFY(mRig->mSession.isModified());
-  }
-
-  void aMissingRecentProjectIsOfferedForRemoval() {
-    for (const QString& answer : {cNein, cJa}) {
-      mRig->mSettings.addLastProject(mRig->other());
-      mRig->mDialogs.mAnswers = {answer};
-      QVERIFY(!mRig->openOther());
-      QCOMPARE(mRig->mDialogs.mAnswers, QStringList());
-      QCOMPARE(mRig->mSettings.lastProjects().isEmpty(), answer == cJa);
-    }
   }
 
   void theDemoIsBuiltWhenItIsMissingOrBrokenElseOpenedAsItIs() {

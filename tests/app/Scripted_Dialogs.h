@@ -22,9 +22,8 @@ public:
                                : Message_Box::Answer::Cancel;
   }
   void showMessage(const QString& text) override { mTranscript.append(QStringLiteral("Meldung: ") + text); }
-  QString chooseOpenFile(const QString& title, const QString&, const QString& filter) override {
-    mTranscript.append(QStringLiteral("Datei: %1, %2").arg(title, filter));
-    return next();
+  QString chooseOpenFile(const QString& title, const QString& path, const QString& filter) override {
+    return chooseSaveFile(title, path, filter);
   }
   QString chooseSaveFile(const QString& title, const QString&, const QString& filter) override {
     mTranscript.append(QStringLiteral("Datei: %1, %2").arg(title, filter));

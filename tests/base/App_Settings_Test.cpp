@@ -30,19 +30,6 @@ private slots:
     QCOMPARE(App_Settings(mFile).lastProjects(), expected);
   }
 
-  /// A list that somebody else wrote: too long, with empty and doubled entries.
-  void foreignLastProjects() {
-    QSettings store(mFile, QSettings::IniFormat);
-    store.beginWriteArray(QStringLiteral("Settings/mLastProjectsList"));
-    for (int i = 0; i < 20; ++i) {
-      store.setArrayIndex(i);
-      store.setValue(QStringLiteral("path"), i % 4 == 0 ? QString() : path(i % 3));
-    }
-    store.endArray();
-    store.sync();
-    QCOMPARE(App_Settings(mFile).lastProjects(), QStringList({path(1), path(2), path(0)}));
-  }
-
   void port() {
     const std::pair<const char*, int> cases[] = {{"", 0},   {"4711", 4711}, {"65535", 65'535},          {"65536", 0},
                                                  {"-1", 0}, {"auto", 0},    {"99999999999999999999", 0}};

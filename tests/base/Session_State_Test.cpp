@@ -18,17 +18,6 @@ private slots:
     QVERIFY(!state.toolCallRunning());
     QVERIFY(state.assistantActive(cEnd + 14'999) && !state.assistantActive(cEnd + 15'000));
   }
-
-  void suppressedMessage() {
-    Session_State state;
-    state.beginToolCall(1);
-    state.setSuppressedMessage(QStringLiteral("a"));
-    state.setSuppressedMessage(QStringLiteral("b"));
-    state.endToolCall(2);
-    QCOMPARE(state.suppressedMessage(), QStringLiteral("b"));
-    state.beginToolCall(3);
-    QVERIFY(state.suppressedMessage().isEmpty());
-  }
 };
 
 QTEST_APPLESS_MAIN(Session_State_Test)

@@ -1,15 +1,14 @@
 #include "db/Address_Tree.h"
 
-#include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QtTest>
 
 namespace {
 
-DB_Address_MainGroup* addMain(Address_Tree& tree, int number, qsizetype place = -1) {
+DB_Address_MainGroup* addMain(Address_Tree& tree, int number) {
   auto group = std::make_unique<DB_Address_MainGroup>();
   group->mNumber = number;
-  return tree.add(std::move(group), place);
+  return tree.add(std::move(group));
 }
 
 DB_Address_Middle_Group* addMiddle(Address_Tree& tree, const QUuid& main, int number) {
@@ -82,7 +81,7 @@ struct Plain_Tree {
 QStringList lines(const Address_Tree& tree) {
   QStringList lines;
   const auto tell = [&](const QString& path, const auto& group) {
-    const QString here = path + u'/' + QString::number(group->mNumber);
+    QString here = path + u'/' + QString::number(group->mNumber);
     lines.append(QStringLiteral("%1 %2 %3").arg(here, group->mKey.toString()).arg(tree.placeOf(group->mKey)));
     return here;
   };
@@ -124,23 +123,6 @@ class Address_Tree_Test : public QObject {
   Q_OBJECT
 
 private slots:
-  void place() {
-    struct Case {
-      int mNumber;
-      int mWanted;
-      int mPlace;
-    };
-    // Among main groups 1, 3, 3, 5.
-    for (const Case& at :
-         {Case{3, -1, 3}, {3, 1, 1}, {3, 2, 2}, {3, 0, 3}, {3, 4, 3}, {3, 99, 3}, {0, 3, 0}, {40, 0, 4}}) {
-      Address_Tree tree;
-      for (const int other : {5, 3, 1, 3}) {
-        addMain(tree, other);
-      }
-      QCOMPARE(tree.placeOf(addMain(tree, at.mNumber, at.mWanted)->mKey), at.mPlace);
-    }
-  }
-
   void signalsAreFramed() {
     Address_Tree tree;
     QStringList told;

@@ -24,26 +24,18 @@ private slots:
     mDump = Project_Dump::project(store);
     store.close();
     QVERIFY(!ProjectDatabase::isOlderLayout(mPath));
-    QMap<int, QByteArrayList> clear;
-    for (const DB_Table_Row& row : DB_Tables::all()) {
-      clear.insert(static_cast<int>(row.mTable), rows(mPath, row.mTable));
-    }
-    DB_Sqlite database;
-    QVERIFY(database.open(mPath, DB_Sqlite::Mode::ReadWrite));
-    QVERIFY(database.execute("BEGIN"));
+    QByteArray sql = "BEGIN;";
     for (const DB_Table_Row& row : DB_Tables::all()) {
       const QByteArray plain = QByteArray("`") + row.mPlainName + '`';
-      QVERIFY(database.execute("ALTER TABLE " + quoted(row.mTable) + " RENAME TO " + plain));
+      sql += "ALTER TABLE " + quoted(row.mTable) + " RENAME TO " + plain + ';';
       if (row.mTable != DB_Table::Resources) {
-        QVERIFY(database.execute("DELETE FROM " + plain));
-        DB_Statement insert = database.prepare("INSERT INTO " + plain + " VALUES(?)");
-        for (const QByteArray& data : clear.value(static_cast<int>(row.mTable))) {
-          QVERIFY(insert.bindText(1, data) && insert.step() == DB_Statement::Step::Done);
-          insert.reset();
+        sql += "DELETE FROM " + plain + ';';
+        for (const QByteArray& data : rows(mPath, row.mTable)) {
+          sql += "INSERT INTO " + plain + " VALUES('" + data + "');";
         }
       }
     }
-    QVERIFY(database.execute("DROP TABLE devices; CREATE TABLE undo(a); CREATE TABLE search_cache(b); COMMIT"));
+    QVERIFY(run(mPath, sql + "DROP TABLE devices; CREATE TABLE undo(a); CREATE TABLE search_cache(b); COMMIT"));
   }
 
   void converts() {

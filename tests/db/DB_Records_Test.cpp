@@ -160,20 +160,6 @@ private slots:
     QCOMPARE(page.mCaption, other.mCaption);
     QCOMPARE(page.mChildren.size(), 1);
   }
-
-  void styleHasTwentySlots() {
-    for (const int stored : {0, 20, 25}) {
-      QByteArray data;
-      for (int i = 0; i < stored; ++i) {
-        data += item("mSlot.mName_" + QByteArray::number(i), "Stil");
-      }
-      DB_Style style;
-      style.setData(data);
-      QCOMPARE(style.mSlots.size(), DB_Style::cSlotCount);
-      QCOMPARE(style.toData().count("Stil"), qMin(stored, 20));
-      QVERIFY(!style.toData().contains("_20"));
-    }
-  }
 };
 
 QTEST_APPLESS_MAIN(DB_Records_Test)

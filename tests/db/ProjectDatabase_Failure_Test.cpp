@@ -6,6 +6,19 @@
 
 using namespace Project_Sample;
 
+namespace {
+
+struct Case {
+  DB_Table mTable;
+  int mRow; ///< counted from 1
+  const char* mHow;
+  const char* mError;
+  const char*
+      mWritten; ///< main, middle, sub groups; single records; visualisation pages, elements; logic pages, blocks
+};
+
+} // namespace
+
 /// Saves that fail in the middle: what is still written, what is told, and that memory and the next save are right.
 class ProjectDatabase_Failure_Test : public QObject {
   Q_OBJECT
@@ -22,44 +35,33 @@ private slots:
   }
 
   void rowsThatFail_data() {
-    QTest::addColumn<int>("table");
-    QTest::addColumn<int>("row"); // counted from 1
-    QTest::addColumn<QByteArray>("how");
-    QTest::addColumn<QString>("error");
-    QTest::addColumn<QByteArray>("written");
-    const auto row = [](const char* name, DB_Table table, int row, const char* how, const char* error,
-                        const char* written) {
-      QTest::newRow(name) << static_cast<int>(table) << row << QByteArray(how) << QString::fromLatin1(error)
-                          << QByteArray(written);
-    };
-    const char* const addressError = "Error: recordWriteAddress";
-    // Main, middle, sub groups; single records; visualisation pages, elements; logic pages, blocks.
-    row("first sub group", DB_Table::Sub_Groups, 1, "ABORT", addressError, "2,4,11;8;3,6;2,6");
-    row("main group, its middle groups go on", DB_Table::Main_Groups, 2, "ABORT", addressError, "1,4,12;8;3,6;2,6");
-    row("middle group", DB_Table::Middle_Groups, 1, "FAIL", addressError, "2,3,12;8;3,6;2,6");
-    row("last single record", DB_Table::Project_Generator, 1, "FAIL", "voll", "2,4,12;7;3,6;2,6");
-    row("second visualisation page", DB_Table::Visu_Pages, 2, "FAIL", "voll", "2,4,12;8;1,2;2,6");
-    row("last element of a page", DB_Table::Visu_Elements, 4, "FAIL", "voll", "2,4,12;8;3,5;2,6");
-    row("second logic page", DB_Table::Logic_Pages, 2, "ABORT", "voll", "2,4,12;8;3,6;1,3");
-    row("second block", DB_Table::Logic_Blocks, 2, "FAIL", "voll", "2,4,12;8;3,6;2,4");
+    QTest::addColumn<Case>("row");
+    const auto row = [](const char* name, const Case& row) { QTest::newRow(name) << row; };
+    const char* const groups = "Error: recordWriteAddress";
+    row("first sub group", {DB_Table::Sub_Groups, 1, "ABORT", groups, "2,4,11;8;3,6;2,6"});
+    row("its middle groups go on", {DB_Table::Main_Groups, 2, "ABORT", groups, "1,4,12;8;3,6;2,6"});
+    row("middle group", {DB_Table::Middle_Groups, 1, "FAIL", groups, "2,3,12;8;3,6;2,6"});
+    row("last single record", {DB_Table::Project_Generator, 1, "FAIL", "voll", "2,4,12;7;3,6;2,6"});
+    row("second visualisation page", {DB_Table::Visu_Pages, 2, "FAIL", "voll", "2,4,12;8;1,2;2,6"});
+    row("last element of a page", {DB_Table::Visu_Elements, 4, "FAIL", "voll", "2,4,12;8;3,5;2,6"});
+    row("second logic page", {DB_Table::Logic_Pages, 2, "ABORT", "voll", "2,4,12;8;3,6;1,3"});
+    row("second block", {DB_Table::Logic_Blocks, 2, "FAIL", "voll", "2,4,12;8;3,6;2,4"});
     // The engine takes everything back: the file stays as it was.
-    row("everything rolled back late", DB_Table::Logic_Blocks, 2, "ROLLBACK", "voll", "2,4,12;8;3,6;2,6");
+    row("rolled back", {DB_Table::Sub_Groups, 5, "ROLLBACK", groups, "2,4,12;8;3,6;2,6"});
+    row("rolled back late", {DB_Table::Logic_Blocks, 2, "ROLLBACK", "voll", "2,4,12;8;3,6;2,6"});
   }
 
   void rowsThatFail() {
-    QFETCH(int, table);
-    QFETCH(int, row);
-    QFETCH(QByteArray, how);
-    QFETCH(QString, error);
-    const QByteArray name = quoted(static_cast<DB_Table>(table));
-    const QByteArray refused = rawRows(mPath, name).value(row - 1);
+    QFETCH(Case, row);
+    const QByteArray name = quoted(row.mTable);
+    const QByteArray refused = rawRows(mPath, name).value(row.mRow - 1);
     QVERIFY(mStore->execute("CREATE TRIGGER refusal BEFORE INSERT ON " + name + " WHEN NEW.DATA='" + refused +
-                            "' BEGIN SELECT RAISE(" + how + ", 'voll'); END"));
+                            "' BEGIN SELECT RAISE(" + row.mHow + ", 'voll'); END"));
     const QByteArray dump = Project_Dump::project(*mStore);
 
     QVERIFY(!mStore->recordWriteAll(false));
-    QTEST(mStore->lastError(), "error");
-    QTEST(written(), "written");
+    QCOMPARE(mStore->lastError(), row.mError);
+    QCOMPARE(written(), row.mWritten);
     QCOMPARE(Project_Dump::project(*mStore), dump);
 
     QVERIFY(mStore->execute("DROP TRIGGER refusal"));

@@ -53,34 +53,24 @@ private slots:
     QVERIFY(rawRows(mPath, quoted(DB_Table::Resources)).isEmpty());
   }
 
-  void failedWriteKeepsTheOldOne_data() {
-    QTest::addColumn<QByteArray>("sql");
-    const QByteArray table = quoted(DB_Table::Resources);
-    const auto trigger = [&table](const char* when, const char* how) {
-      return QByteArray("CREATE TRIGGER t ") + when + " ON " + table + " BEGIN SELECT RAISE(" + how +
-             ", 'kein Platz'); END";
-    };
-    QTest::newRow("insert aborts") << trigger("BEFORE INSERT", "ABORT");
-    QTest::newRow("insert fails") << trigger("AFTER INSERT", "FAIL");
-    QTest::newRow("insert rolls back") << trigger("AFTER INSERT", "ROLLBACK");
-    QTest::newRow("delete aborts") << trigger("BEFORE DELETE", "ABORT");
-    QTest::newRow("file full") << QByteArray("PRAGMA max_page_count=1");
-  }
-
   void failedWriteKeepsTheOldOne() {
-    QFETCH(QByteArray, sql);
     const QString name = QStringLiteral("a");
-    QVERIFY(mStore->ressourceWriteRaw(name, "old"));
-    QVERIFY(mStore->execute(sql));
     QSignalSpy changed(mStore.get(), &ProjectDatabase::resourcesChanged);
-    QVERIFY(!mStore->ressourceWriteRaw(name, QByteArray(100'000, 'n')));
-    QVERIFY(!mStore->lastError().isEmpty());
-    QCOMPARE(changed.count(), 0);
-    QByteArray bytes;
-    QVERIFY(mStore->ressourceReadRaw(name, bytes));
-    QCOMPARE(bytes, QByteArray("old"));
-    QVERIFY(mStore->execute("DROP TRIGGER IF EXISTS t"));
-    QVERIFY(mStore->execute("PRAGMA max_page_count=1000000"));
+    for (const auto& [when, how] :
+         {std::pair("BEFORE INSERT", "ABORT"), std::pair("AFTER INSERT", "FAIL"), std::pair("AFTER INSERT", "ROLLBACK"),
+          std::pair("BEFORE DELETE", "ABORT"), std::pair("", "")}) {
+      QVERIFY(mStore->ressourceWriteRaw(name, "old"));
+      QVERIFY(mStore->execute(!*when ? QByteArray("PRAGMA max_page_count=1")
+                                     : QByteArray("CREATE TRIGGER t ") + when + " ON " + quoted(DB_Table::Resources) +
+                                           " BEGIN SELECT RAISE(" + how + ", 'kein Platz'); END"));
+      changed.clear();
+      QVERIFY2(!mStore->ressourceWriteRaw(name, QByteArray(100'000, 'n')), how);
+      QVERIFY(!mStore->lastError().isEmpty() && changed.isEmpty());
+      QByteArray bytes;
+      QVERIFY(mStore->ressourceReadRaw(name, bytes));
+      QCOMPARE(bytes, QByteArray("old"));
+      QVERIFY(mStore->execute("DROP TRIGGER IF EXISTS t; PRAGMA max_page_count=1000000"));
+    }
     QVERIFY(mStore->ressourceWriteRaw(name, "new"));
     QVERIFY(mStore->recordWriteAll(true));
   }

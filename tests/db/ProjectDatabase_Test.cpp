@@ -17,16 +17,6 @@ private slots:
     mPath = mFolder->filePath(QStringLiteral("Büro Nord.zpro"));
   }
 
-  void newFileHoldsEveryTable() {
-    ProjectDatabase store;
-    QVERIFY(store.openProject(mPath, true));
-    QVERIFY(store.loadReport().lines().isEmpty());
-    QCOMPARE(rawRows(mPath, "sqlite_master WHERE type='table'").size(), 24);
-    for (const DB_Table_Row& row : DB_Tables::all()) {
-      QVERIFY2(store.tableExists(row.mName), row.mPlainName);
-    }
-  }
-
   void saveAndReopen() {
     ProjectDatabase store;
     QVERIFY(store.openProject(mPath, true));

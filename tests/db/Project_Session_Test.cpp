@@ -77,21 +77,6 @@ private slots:
     reopenIsEqual();
   }
 
-  void aFileThatIsNoProjectLeavesNothingOpen() {
-    QFile file(mRig->path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(5000, 'x'));
-    file.close();
-    const QByteArray bytes = Session_Rig::bytesOf(mRig->path());
-    QVERIFY(!mRig->mSession.open(mRig->path()));
-    QVERIFY(!mRig->mSession.lastError().isEmpty());
-    QVERIFY(!mRig->mSession.isOpen());
-    QVERIFY(!mRig->mSession.open(mRig->path(QStringLiteral("fehlt.zpro"))));
-    QVERIFY(!mRig->mSession.isOpen());
-    QCOMPARE(Session_Rig::bytesOf(mRig->path()), bytes);
-    QCOMPARE(QDir(mRig->tempFolder()).entryList(QDir::Files | QDir::Hidden), QStringList());
-  }
-
 private:
   void reopenIsEqual() {
     const QByteArray before = Project_Dump::project(mRig->mSession.database());

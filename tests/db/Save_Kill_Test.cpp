@@ -11,17 +11,21 @@
 namespace {
 
 constexpr int cAddresses = 2000;
-constexpr int cUsualKills = 12;
 constexpr int cWaitMs = 60'000;
 
-void rename(Address_Tree& tree, const QString& prefix) {
+template <class Visit>
+void forEachAddress(const Address_Tree& tree, Visit&& visit) {
   for (const auto& main : tree.mainGroups()) {
     for (const auto& middle : main->mMiddleGroups) {
       for (const auto& sub : middle->mSubGroups) {
-        sub->mName = prefix + QString::number(sub->mNumber).repeated(4);
+        visit(*sub);
       }
     }
   }
+}
+
+void rename(const Address_Tree& tree, const QString& prefix) {
+  forEachAddress(tree, [&prefix](auto& sub) { sub.mName = prefix + QString::number(sub.mNumber).repeated(4); });
 }
 
 /// The process that is killed: opens the project and, once told to, changes every address and saves.
@@ -44,7 +48,8 @@ int saveOnce(const QString& path, const QString& prefix) {
 
 } // namespace
 
-/// A studio killed at any moment of a save leaves the whole old or the whole new project. STUDIO_KILLS sets how often.
+/// A studio killed at any moment of a save leaves the whole old or the whole new project. STUDIO_KILLS sets how often,
+/// 12 times if unset.
 class Save_Kill_Test : public QObject {
   Q_OBJECT
 
@@ -59,14 +64,10 @@ private slots:
     QCOMPARE(rig.mSession.save(), Project_Session::Save_Result::Saved);
     rig.mSession.close();
 
-    bool isOk = false;
-    const int wanted = qEnvironmentVariableIntValue("STUDIO_KILLS", &isOk);
-    const int kills = isOk ? wanted : cUsualKills;
-    QChar present = u'A';
+    const int kills = qEnvironmentVariable("STUDIO_KILLS", QStringLiteral("12")).toInt();
     const qint64 saveUs = saveFor(rig.path(), u'B', -1);
     QVERIFY(saveUs > 0);
-    present = u'B';
-    int sawOld = 0;
+    QChar present = u'B';
     int sawNew = 0;
     for (int i = 0; i < kills; ++i) {
       const QChar next = present == u'A' ? u'B' : u'A';
@@ -78,12 +79,10 @@ private slots:
         return;
       }
       QVERIFY2(found == present || found == next, "neither the old nor the new project");
-      (found == next ? sawNew : sawOld) += 1;
+      sawNew += found == next ? 1 : 0;
       present = found;
     }
-    qInfo("%d kills within %lld ms of a save: %d times the old project, %d times the new one", kills, saveUs / 1000,
-          sawOld, sawNew);
-    QVERIFY(sawOld + sawNew == kills);
+    qInfo("%d kills within %lld ms of a save, %d times the new project", kills, saveUs / 1000, sawNew);
   }
 
 private:
@@ -120,13 +119,8 @@ private:
     const Address_Tree& tree = rig.mSession.database().mAddresses;
     QCOMPARE(tree.subGroupCount(), cAddresses);
     prefix = tree.subGroup(Group_Address(0, 0, 0))->mName.at(0);
-    for (const auto& main : tree.mainGroups()) {
-      for (const auto& middle : main->mMiddleGroups) {
-        for (const auto& sub : middle->mSubGroups) {
-          QCOMPARE(sub->mName, prefix + QString::number(sub->mNumber).repeated(4));
-        }
-      }
-    }
+    forEachAddress(
+        tree, [&prefix](const auto& sub) { QCOMPARE(sub.mName, prefix + QString::number(sub.mNumber).repeated(4)); });
     rig.mSession.close();
   }
 };

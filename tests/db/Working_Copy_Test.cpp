@@ -72,15 +72,6 @@ private slots:
     QVERIFY(!QFile::exists(path + QStringLiteral("-journal")));
   }
 
-  void withoutATemporaryFolderNothingIsClaimed() {
-    const QString file = mTemp->filePath(QStringLiteral("keinordner"));
-    touch(file);
-    qputenv("TMPDIR", file.toLocal8Bit());
-    Working_Copy copy;
-    QVERIFY(!copy.claim(cProject));
-    QVERIFY(!copy.isClaimed());
-  }
-
 private:
   static void touch(const QString& path) {
     QFile file(path);

@@ -3,7 +3,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QTreeView>
 
 /// The tab of group addresses, used through its keys and read from its widgets. A model tester stands beside it.
@@ -23,7 +22,6 @@ private slots:
   }
 
   void cleanup() {
-    setOperatingMode(false);
     mView.reset();
     mRig.reset();
   }
@@ -74,39 +72,6 @@ private slots:
     QVERIFY(mTree->isExpanded(mTree->currentIndex()));
   }
 
-  void escapeClosesTheEditorBeforeTheFilter() {
-    fill();
-    setFilter(QStringLiteral("licht"));
-    QTRY_COMPARE(mTree->model()->rowCount(), 1);
-    QTest::keyClick(mFilter, Qt::Key_Down);
-    QCOMPARE(QApplication::focusWidget(), mTree);
-    QTest::keyClick(mTree, Qt::Key_F2);
-    QWidget* const editor = QApplication::focusWidget();
-    QVERIFY(qobject_cast<QLineEdit*>(editor));
-    QTest::keyClick(editor, Qt::Key_Escape);
-    QTRY_COMPARE(QApplication::focusWidget(), mTree);
-    QCOMPARE(mFilter->text(), QStringLiteral("licht"));
-    QTest::keyClick(mTree, Qt::Key_Escape);
-    QVERIFY(mFilter->text().isEmpty());
-  }
-
-  void refusalComesOnce() {
-    fill();
-    const QSignalSpy refused(mView.get(), &Address_View::refused);
-    mTree->setFocus();
-    mTree->setCurrentIndex(mTree->model()->index(0, 0));
-    QTest::keyClick(mTree, Qt::Key_F2);
-    auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    QVERIFY(editor);
-    editor->setText(QString(300, QLatin1Char('x')));
-    QTest::keyClick(editor, Qt::Key_Return);
-    QCOMPARE(refused.size(), 0);
-    QTRY_COMPARE(refused.size(), 1);
-    setOperatingMode(true);
-    QTest::keyClick(mTree, Qt::Key_F2);
-    QCOMPARE(QApplication::focusWidget(), mTree);
-  }
-
 private:
   void fill() {
     QVERIFY(mRig->create());
@@ -134,11 +99,6 @@ private:
     mFilter->setFocus();
     mFilter->clear();
     QTest::keyClicks(mFilter, text);
-  }
-
-  void setOperatingMode(bool on) {
-    mRig->mState.setOperatingMode(on);
-    Session_State::process().setOperatingMode(on);
   }
 
   std::unique_ptr<Session_Rig> mRig;

@@ -28,34 +28,25 @@ private slots:
     mRig.reset();
   }
 
-  void renameInTheDetails_data() {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("entered") << "Neu" << int(Qt::Key_Return) << "Neu";
-    QTest::newRow("left with tab") << "Neu" << int(Qt::Key_Tab) << "Neu";
-    QTest::newRow("escaped") << "Neu" << int(Qt::Key_Escape) << "Programm 1";
-    QTest::newRow("empty") << " " << int(Qt::Key_Return) << "Programm 1";
-  }
-
   void renameInTheDetails() {
-    QFETCH(QString, typed);
-    QFETCH(int, key);
-    QFETCH(QString, name);
     QVERIFY(mRig->create());
     select(0, 0);
-    const QSignalSpy refused(mView.get(), &Page_View::refused);
-    mName->setFocus();
-    mName->selectAll();
-    QTest::keyClicks(mName, typed);
-    QTest::keyClick(mName, Qt::Key(key));
-    mTree->setFocus();
-    QCoreApplication::processEvents();
-    QCOMPARE(refused.size(), typed == u" " ? 1 : 0);
-    QCOMPARE(mName->text(), name);
-    QCOMPARE(mTree->currentIndex().data().toString(), name);
-    mRig->mSession.history().undo();
-    QCOMPARE(mName->text(), QStringLiteral("Programm 1"));
+    for (const auto& [typed, key, isTaken] :
+         {std::tuple("Neu", Qt::Key_Return, true), std::tuple("Neu", Qt::Key_Tab, true),
+          std::tuple("Neu", Qt::Key_Escape, false), std::tuple(" ", Qt::Key_Return, false)}) {
+      const QSignalSpy refused(mView.get(), &Page_View::refused);
+      mName->setFocus();
+      mName->selectAll();
+      QTest::keyClicks(mName, QLatin1String(typed));
+      QTest::keyClick(mName, key);
+      mTree->setFocus();
+      QCoreApplication::processEvents();
+      QCOMPARE(refused.size(), *typed == ' ' ? 1 : 0);
+      QCOMPARE(mName->text(), isTaken ? QStringLiteral("Neu") : QStringLiteral("Programm 1"));
+      QCOMPARE(mTree->currentIndex().data().toString(), mName->text());
+      mRig->mSession.history().undo();
+      QCOMPARE(mName->text(), QStringLiteral("Programm 1"));
+    }
   }
 
   void selectionSurvivesNewPages() {
