@@ -1,32 +1,35 @@
 #include "app/Geo_Position_Dlg.h"
 
+#include "base/Decimal_Text.h"
+#include "ui/Theme.h"
+
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <cmath>
 
 namespace {
 
 constexpr double cLatitudeMax = 90;
 constexpr double cLongitudeMax = 180;
-/// Six places are a tenth of a metre.
-constexpr int cDecimals = 6;
-constexpr double cStep = 0.01;
-
-QDoubleSpinBox* makeField(double value, double maximum, const QString& toolTip) {
-  auto* const field = new QDoubleSpinBox;
-  field->setRange(-maximum, maximum);
-  field->setDecimals(cDecimals);
-  field->setSingleStep(cStep);
-  field->setValue(value);
-  field->setSuffix(QStringLiteral(" °"));
-  field->setToolTip(toolTip);
-  return field;
-}
+constexpr int cFieldWidth = 220;
 
 } // namespace
+
+Geo_Position_Dlg::Field Geo_Position_Dlg::makeField(double value, double maximum, const QString& toolTip) {
+  const Field field{maximum, new QLineEdit(Decimal_Text::print(value)), new QLabel};
+  field.mEdit->setMinimumWidth(cFieldWidth);
+  field.mEdit->setToolTip(toolTip);
+  QPalette palette = field.mReason->palette();
+  palette.setColor(QPalette::WindowText, Theme::color(Theme::Role::ErrorText));
+  field.mReason->setPalette(palette);
+  connect(field.mEdit, &QLineEdit::textChanged, this, &Geo_Position_Dlg::checkAll);
+  return field;
+}
 
 Geo_Position_Dlg::Geo_Position_Dlg(double latitude, double longitude, QWidget* parent)
     : QDialog(parent),
@@ -35,13 +38,15 @@ Geo_Position_Dlg::Geo_Position_Dlg(double latitude, double longitude, QWidget* p
   setWindowTitle(tr("Geographische Position"));
 
   auto* const form = new QFormLayout;
-  form->addRow(tr("&Breite (Norden positiv):"), mLatitude);
-  form->addRow(tr("&Länge (Osten positiv):"), mLongitude);
+  form->addRow(tr("&Breite in Grad (Norden positiv):"), mLatitude.mEdit);
+  form->addRow(QString(), mLatitude.mReason);
+  form->addRow(tr("&Länge in Grad (Osten positiv):"), mLongitude.mEdit);
+  form->addRow(QString(), mLongitude.mReason);
 
   auto* const buttons = new QDialogButtonBox;
-  QPushButton* const accept = buttons->addButton(tr("&Übernehmen"), QDialogButtonBox::AcceptRole);
+  mAccept = buttons->addButton(tr("&Übernehmen"), QDialogButtonBox::AcceptRole);
   buttons->addButton(tr("&Abbrechen"), QDialogButtonBox::RejectRole);
-  accept->setDefault(true);
+  mAccept->setDefault(true);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
@@ -51,12 +56,25 @@ Geo_Position_Dlg::Geo_Position_Dlg(double latitude, double longitude, QWidget* p
   layout->addLayout(form);
   layout->addWidget(buttons);
   layout->setSizeConstraint(QLayout::SetFixedSize);
+  checkAll();
+}
+
+bool Geo_Position_Dlg::check(const Field& field) {
+  const std::optional<double> value = Decimal_Text::parse(field.mEdit->text());
+  const bool isOk = value && std::abs(*value) <= field.mMaximum;
+  field.mReason->setText(isOk ? QString() : tr("Erlaubt ist eine Zahl von -%1 bis %1.").arg(field.mMaximum));
+  return isOk;
+}
+
+void Geo_Position_Dlg::checkAll() {
+  const bool isLatitudeOk = check(mLatitude);
+  mAccept->setEnabled(check(mLongitude) && isLatitudeOk);
 }
 
 double Geo_Position_Dlg::latitude() const {
-  return mLatitude->value();
+  return Decimal_Text::parse(mLatitude.mEdit->text()).value_or(0);
 }
 
 double Geo_Position_Dlg::longitude() const {
-  return mLongitude->value();
+  return Decimal_Text::parse(mLongitude.mEdit->text()).value_or(0);
 }

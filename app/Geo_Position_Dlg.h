@@ -2,9 +2,13 @@
 
 #include <QDialog>
 
-class QDoubleSpinBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
 
 /// Asks where the building stands: latitude -90..90 and longitude -180..180 in degrees, north and east positive.
+/// Decimal comma and point are taken; what is no number or out of range is told below its field and cannot be taken
+/// over.
 class Geo_Position_Dlg : public QDialog {
   Q_OBJECT
 
@@ -15,6 +19,16 @@ public:
   [[nodiscard]] double longitude() const;
 
 private:
-  QDoubleSpinBox* mLatitude;
-  QDoubleSpinBox* mLongitude;
+  struct Field {
+    double mMaximum;
+    QLineEdit* mEdit;
+    QLabel* mReason;
+  };
+  [[nodiscard]] Field makeField(double value, double maximum, const QString& toolTip);
+  [[nodiscard]] static bool check(const Field& field);
+  void checkAll();
+
+  Field mLatitude;
+  Field mLongitude;
+  QPushButton* mAccept = nullptr;
 };

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -76,7 +77,7 @@ void Main_Window_Base::buildContents(const QList<QAction*>& startActions, const 
   connect(&mSession, &Project_Session::pathChanged, this, &Main_Window_Base::updateTitle);
   connect(&mSession.history(), &History::changed, this, &Main_Window_Base::updateTitle);
 
-  resize(cDefaultWidth, cDefaultHeight);
+  resize(QSize(cDefaultWidth, cDefaultHeight).boundedTo(screen()->availableSize()));
   restoreViews();
   updateTitle();
 }
@@ -92,7 +93,9 @@ void Main_Window_Base::restoreViews() {
   restoreGeometry(mSettings.windowGeometry());
   restoreState(mSettings.windowState());
   for (QSplitter* const splitter : splitters()) {
+    const Qt::Orientation orientation = splitter->orientation();
     splitter->restoreState(mSettings.viewState(splitter->objectName()));
+    splitter->setOrientation(orientation); // a broken setting may turn it
   }
   mAddressView->restoreState(mSettings);
 }

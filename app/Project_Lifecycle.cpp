@@ -128,6 +128,10 @@ bool Project_Lifecycle::open(const QString& path) {
     reportMissing(path);
     return false;
   }
+  if (!QFileInfo(path).isFile()) {
+    mDialogs.showMessage(tr("Fehler beim Öffnen der Datei: ") + tr("\"%1\" ist keine Datei.").arg(native(path)));
+    return false;
+  }
   return settleUnsaved() && openFile(path);
 }
 

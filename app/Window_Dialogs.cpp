@@ -4,8 +4,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QProgressBar>
+#include <QRegularExpressionValidator>
 #include <QStatusBar>
 
 namespace {
@@ -23,6 +25,10 @@ void setLabels(QFileDialog& dialog, const QString& accept) {
   dialog.setLabelText(QFileDialog::FileType, tr("Dateityp:"));
   dialog.setLabelText(QFileDialog::Accept, accept);
   dialog.setLabelText(QFileDialog::Reject, tr("Abbrechen"));
+  // The toolkit's dialog takes a quote for the start of a list of names and would choose another file.
+  if (auto* const name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))) {
+    name->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[^\"]*")), &dialog));
+  }
 }
 
 QString choose(QFileDialog& dialog) {

@@ -31,6 +31,9 @@ App_Settings::App_Settings(const QString& file) : mStore(openStore(file)) {
   if (QFileInfo(file).isDir() || mStore->status() != QSettings::NoError) {
     mError = QCoreApplication::translate("App_Settings", "Die Einstellungsdatei \"%1\" kann nicht gelesen werden.")
                  .arg(file);
+  } else if (!mStore->isWritable()) {
+    mError = QCoreApplication::translate("App_Settings", "Die Einstellungsdatei \"%1\" kann nicht geschrieben werden.")
+                 .arg(file);
   }
 }
 

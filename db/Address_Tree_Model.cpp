@@ -263,7 +263,7 @@ Qt::ItemFlags Address_Tree_Model::flags(const QModelIndex& index) const {
   }
   Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
   flags.setFlag(Qt::ItemNeverHasChildren, levelOf(*node) == Level::Sub);
-  flags.setFlag(Qt::ItemIsEditable, index.column() == cName && !Session_State::process().operatingMode());
+  flags.setFlag(Qt::ItemIsEditable, index.column() == cName && !mSession.state().operatingMode());
   return flags;
 }
 

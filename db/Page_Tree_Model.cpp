@@ -195,7 +195,7 @@ Qt::ItemFlags Page_Tree_Model::flags(const QModelIndex& index) const {
   const bool isPage = index.internalId() != cIsBranch;
   Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
   flags.setFlag(Qt::ItemNeverHasChildren, isPage);
-  flags.setFlag(Qt::ItemIsEditable, isPage && !Session_State::process().operatingMode());
+  flags.setFlag(Qt::ItemIsEditable, isPage && !mSession.state().operatingMode());
   return flags;
 }
 

@@ -13,6 +13,7 @@ constexpr qint64 cCopyChunk = 1 << 20;
 
 Project_Session::Project_Session(Session_State& state, QObject* parent)
     : QObject(parent),
+      mState(state),
       mHistory(state),
       mAddressUndo(mDatabase.mAddresses),
       mFbPageUndo(mDatabase.mFbPages),

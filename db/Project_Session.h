@@ -24,6 +24,8 @@ public:
   [[nodiscard]] bool isOpen() const { return !mPath.isEmpty(); }
   /// Absolute path of the project file; empty when none is open.
   [[nodiscard]] QString path() const { return mPath; }
+  /// What the session is doing: whether edits are refused.
+  [[nodiscard]] Session_State& state() const { return mState; }
   [[nodiscard]] ProjectDatabase& database() { return mDatabase; }
   [[nodiscard]] History& history() { return mHistory; }
   [[nodiscard]] bool isModified() const { return isOpen() && mHistory.isModified(); }
@@ -79,6 +81,7 @@ private:
   bool publish(const QString& path);
   void setPath(const QString& path);
 
+  Session_State& mState;
   ProjectDatabase mDatabase;
   History mHistory;
   Address_Undo mAddressUndo;

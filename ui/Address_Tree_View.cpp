@@ -4,8 +4,8 @@
 
 #include <QScrollBar>
 
-Address_Tree_View::Address_Tree_View(Address_Tree_Model& model, QWidget* parent)
-    : Project_Tree_View(parent),
+Address_Tree_View::Address_Tree_View(Address_Tree_Model& model, const Session_State& state, QWidget* parent)
+    : Project_Tree_View(state, parent),
       mModel(model) {
   setAccessibleName(tr("Gruppenadressen"));
   setModel(&model);

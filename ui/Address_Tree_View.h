@@ -13,8 +13,8 @@ class Address_Tree_View : public Project_Tree_View {
   Q_OBJECT
 
 public:
-  /// The model outlives the view.
-  explicit Address_Tree_View(Address_Tree_Model& model, QWidget* parent = nullptr);
+  /// Model and state outlive the view.
+  Address_Tree_View(Address_Tree_Model& model, const Session_State& state, QWidget* parent = nullptr);
 
 private:
   void onAboutToBeReset();

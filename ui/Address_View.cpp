@@ -40,7 +40,7 @@ Address_View::Address_View(Project_Session& session, QWidget* parent)
       mEmpty(new Empty_Hint),
       mFilter(new QLineEdit),
       mTreeOrHint(new QStackedWidget),
-      mTree(new Address_Tree_View(*mModel)),
+      mTree(new Address_Tree_View(*mModel, session.state())),
       mNoHit(new Empty_Hint),
       mCount(new QLabel) {
   mPages->setContentsMargins(0, 0, 0, 0);
@@ -59,7 +59,7 @@ Address_View::Address_View(Project_Session& session, QWidget* parent)
   connect(&session, &Project_Session::opened, this, &Address_View::updateState);
   connect(&session, &Project_Session::closed, this, &Address_View::clearFilter);
   connect(&session, &Project_Session::closed, this, &Address_View::updateState);
-  connect(&Session_State::process(), &Session_State::operatingModeChanged, this, &Address_View::updateState);
+  connect(&mSession.state(), &Session_State::operatingModeChanged, this, &Address_View::updateState);
   updateState();
 }
 
@@ -144,7 +144,7 @@ void Address_View::updateState() {
     mEmpty->setText(tr("Kein Projekt ist geöffnet. Hier stehen die Gruppenadressen des Projekts."));
     mEmpty->setStep({});
   } else if (mains == 0) {
-    const bool isLocked = Session_State::process().operatingMode();
+    const bool isLocked = mSession.state().operatingMode();
     mEmpty->setText(tr("Hier stehen die Gruppenadressen des Projekts. Sie kommen aus dem Export der ETS."));
     mEmpty->setStep(tr("Adressen &importieren…"));
     mEmpty->setStepEnabled(!isLocked, isLocked ? Session_State::operatingModeRefusal() : QString());

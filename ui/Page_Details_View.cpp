@@ -16,9 +16,10 @@ namespace {
 constexpr int cGap = 8;
 } // namespace
 
-Page_Details_View::Page_Details_View(Page_Tree_Model& model, QWidget* parent)
+Page_Details_View::Page_Details_View(Page_Tree_Model& model, const Session_State& state, QWidget* parent)
     : QWidget(parent),
       mModel(model),
+      mState(state),
       mPages(new QStackedLayout(this)),
       mHint(new Empty_Hint),
       mForm(new QFormLayout),
@@ -28,7 +29,7 @@ Page_Details_View::Page_Details_View(Page_Tree_Model& model, QWidget* parent)
   mPages->addWidget(mHint);
   mPages->addWidget(makeForm());
   connect(mName, &QLineEdit::editingFinished, this, &Page_Details_View::onNameEdited);
-  connect(&Session_State::process(), &Session_State::operatingModeChanged, this, &Page_Details_View::refresh);
+  connect(&mState, &Session_State::operatingModeChanged, this, &Page_Details_View::refresh);
   refresh();
 }
 
@@ -99,7 +100,7 @@ void Page_Details_View::refresh() {
   if (!mName->isModified()) {
     mName->setText(details->mCaption);
   }
-  const bool isLocked = Session_State::process().operatingMode();
+  const bool isLocked = mState.operatingMode();
   mName->setReadOnly(isLocked);
   mName->setToolTip(isLocked ? Session_State::operatingModeRefusal() : tr("Name der Seite, 1 bis 255 Zeichen"));
   mKind->setText(details->mKind);

@@ -5,6 +5,7 @@
 
 class Empty_Hint;
 class Page_Tree_Model;
+class Session_State;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -16,7 +17,7 @@ class Page_Details_View : public QWidget {
   Q_OBJECT
 
 public:
-  explicit Page_Details_View(Page_Tree_Model& model, QWidget* parent = nullptr);
+  Page_Details_View(Page_Tree_Model& model, const Session_State& state, QWidget* parent = nullptr);
 
   /// Null for none.
   void setPage(const QUuid& guid);
@@ -30,6 +31,7 @@ private:
   void onNameEdited();
 
   Page_Tree_Model& mModel;
+  const Session_State& mState;
   QUuid mGuid;
   QStackedLayout* mPages;
   Empty_Hint* mHint;

@@ -23,8 +23,8 @@ Page_View::Page_View(Project_Session& session, QWidget* parent)
       mModel(new Page_Tree_Model(session, this)),
       mSplitter(new QSplitter(Qt::Vertical)),
       mTreeOrHint(new QStackedWidget),
-      mTree(new Project_Tree_View),
-      mDetails(new Page_Details_View(*mModel)) {
+      mTree(new Project_Tree_View(session.state())),
+      mDetails(new Page_Details_View(*mModel, session.state())) {
   mTree->setAccessibleName(tr("Seiten"));
   mTree->setHeaderHidden(true);
   mTree->setSelectionMode(QAbstractItemView::SingleSelection);

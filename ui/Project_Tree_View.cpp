@@ -33,7 +33,7 @@ QString cellText(const QModelIndex& index) {
 
 } // namespace
 
-Project_Tree_View::Project_Tree_View(QWidget* parent) : QTreeView(parent) {
+Project_Tree_View::Project_Tree_View(const Session_State& state, QWidget* parent) : QTreeView(parent) {
   setItemDelegate(new Named_Icon_Delegate(this));
   setAlternatingRowColors(true);
   setUniformRowHeights(true);
@@ -43,7 +43,7 @@ Project_Tree_View::Project_Tree_View(QWidget* parent) : QTreeView(parent) {
   setContextMenuPolicy(Qt::ActionsContextMenu);
   mRename = addCommand(tr("&Umbenennen"), QKeySequence(Qt::Key_F2), &Project_Tree_View::onRename);
   mCopy = addCommand(tr("&Kopieren"), QKeySequence::Copy, &Project_Tree_View::onCopy);
-  connect(&Session_State::process(), &Session_State::operatingModeChanged, this, &Project_Tree_View::updateCommands);
+  connect(&state, &Session_State::operatingModeChanged, this, &Project_Tree_View::updateCommands);
   updateCommands();
 }
 

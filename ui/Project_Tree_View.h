@@ -2,6 +2,7 @@
 
 #include <QTreeView>
 
+class Session_State;
 class QAction;
 
 /// A tree of project records: in-place renaming of one column by double click or F2, Ctrl+C for the selected rows as
@@ -10,7 +11,8 @@ class Project_Tree_View : public QTreeView {
   Q_OBJECT
 
 public:
-  explicit Project_Tree_View(QWidget* parent = nullptr);
+  /// `state` tells whether edits are refused; it outlives the view.
+  explicit Project_Tree_View(const Session_State& state, QWidget* parent = nullptr);
 
   void setModel(QAbstractItemModel* model) override;
   /// The column whose items can be renamed; 0 unless set.

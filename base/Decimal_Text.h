@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+/// Numbers as people type them.
+namespace Decimal_Text {
+
+/// Reads digits with an optional sign and one decimal comma or point, blanks around them and a "°" behind; no thousands
+/// separators and no exponent. Empty for anything else.
+[[nodiscard]] std::optional<double> parse(QStringView text);
+
+/// With the decimal sign of the chosen language and as many digits as needed, at most 6 behind it.
+[[nodiscard]] QString print(double value);
+
+} // namespace Decimal_Text
