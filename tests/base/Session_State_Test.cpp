@@ -1,6 +1,5 @@
 #include "base/Session_State.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
 class Session_State_Test : public QObject {

@@ -38,10 +38,10 @@ private slots:
   /// The default answer is "Ja" here, so that no answer is right by chance.
   void answers() {
     struct Case {
-      int mButtons;
-      Qt::Key mKey;
+      int mButtons = 0;
+      Qt::Key mKey = {};
       Qt::KeyboardModifiers mModifiers;
-      Answer mAnswer;
+      Answer mAnswer = Answer::Cancel;
     };
     constexpr Qt::Key cClose{};
     for (const Case& row : {Case{2, Qt::Key_J, Qt::AltModifier, Answer::Yes},
