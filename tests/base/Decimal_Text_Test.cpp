@@ -9,8 +9,8 @@ class Decimal_Text_Test : public QObject {
 private slots:
   void numbersAsPeopleTypeThem() {
     const struct {
-      const char* mText;
-      std::optional<double> mValue;
+      const char* mText = nullptr;
+      std::optional<double> mValue = std::nullopt;
     } cases[] = {
         {"48.2085", 48.2085},
         {"48,2085", 48.2085},
