@@ -56,8 +56,8 @@ public:
 
   /// Applies `change` to the record of that key, keeps order and indices right when it changes the number, and tells.
   /// The group's own key and its parent's key must stay as they are. Among groups of the same number it goes
-  /// to `place` as for `add`. False when there is no such group.
-  bool change(const QUuid& key, const std::function<void(DB_Data_Base& record)>& change, qsizetype place = -1);
+  /// to `wanted` as for `add`. False when there is no such group.
+  bool change(const QUuid& key, const std::function<void(DB_Data_Base& record)>& change, qsizetype wanted = -1);
 
   /// Makes room for so many group addresses, at most for those of the largest project; adding them is faster then.
   void reserve(qint64 subGroups);

@@ -41,20 +41,20 @@ void addSubGroup(Address_Tree& tree, const QUuid& middleKey, const QJsonObject& 
 
 void addAddresses(Address_Tree& tree, const QJsonArray& mainGroups) {
   tree.beginChange();
-  for (const QJsonValue& mainValue : mainGroups) {
+  for (const auto& mainValue : mainGroups) {
     const QJsonObject fromMain = mainValue.toObject();
     auto main = std::make_unique<DB_Address_MainGroup>();
     main->mNumber = number(fromMain, "main"_L1);
     main->mName = text(fromMain, "name"_L1);
     const QUuid mainKey = tree.add(std::move(main))->mKey;
-    for (const QJsonValue& middleValue : array(fromMain, "groups"_L1)) {
+    for (const auto& middleValue : array(fromMain, "groups"_L1)) {
       const QJsonObject fromMiddle = middleValue.toObject();
       auto middle = std::make_unique<DB_Address_Middle_Group>();
       middle->mMainKey = mainKey;
       middle->mNumber = number(fromMiddle, "middle"_L1);
       middle->mName = text(fromMiddle, "name"_L1);
       const QUuid middleKey = tree.add(std::move(middle))->mKey;
-      for (const QJsonValue& subValue : array(fromMiddle, "groups"_L1)) {
+      for (const auto& subValue : array(fromMiddle, "groups"_L1)) {
         addSubGroup(tree, middleKey, subValue.toObject());
       }
     }
@@ -64,13 +64,13 @@ void addAddresses(Address_Tree& tree, const QJsonArray& mainGroups) {
 
 void addPages(ProjectDatabase& database, const QJsonObject& from) {
   database.mFbPages.clear();
-  for (const QJsonValue& caption : array(from, "logicPages"_L1)) {
+  for (const auto& caption : array(from, "logicPages"_L1)) {
     auto page = std::make_unique<DB_FB_Page>();
     page->mCaption = caption.toString();
     database.mFbPages.appendPage(std::move(page));
   }
   database.mWidgetPages.clear();
-  for (const QJsonValue& value : array(from, "visuPages"_L1)) {
+  for (const auto& value : array(from, "visuPages"_L1)) {
     const QJsonObject fromPage = value.toObject();
     auto page = std::make_unique<DB_Widget_Page>();
     page->mCaption = text(fromPage, "caption"_L1);

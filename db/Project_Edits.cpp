@@ -32,7 +32,7 @@ Edit_Result checkLength(const QString& name) {
 Edit_Result Project_Edits::renameAddress(Project_Session& session, const QUuid& key, const QString& name) {
   Address_Tree& tree = session.database().mAddresses;
   const QString clean = DB_Text::singleLine(name);
-  if (const Edit_Result result = checkLength(clean); !result) {
+  if (Edit_Result result = checkLength(clean); !result) {
     return result;
   }
   if (!tree.record(key)) {
@@ -61,7 +61,7 @@ Edit_Result Project_Edits::renamePage(Project_Session& session, const QUuid& gui
   if (clean.isEmpty()) {
     return Edit_Result::refused(tr("Eine Seite braucht einen Namen."));
   }
-  if (const Edit_Result result = checkLength(clean); !result) {
+  if (Edit_Result result = checkLength(clean); !result) {
     return result;
   }
   if (!database.mFbPages.page(guid) && !database.mWidgetPages.page(guid)) {
