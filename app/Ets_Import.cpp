@@ -20,7 +20,7 @@ QString number(qsizetype value) {
   return QLocale().toString(static_cast<qlonglong>(value));
 }
 
-QString report(const QString& name, const Address_Import::Result& result, const QStringList& faults) {
+QString report(const QString& name, const Address_Import::Result& result, const Ets_Groups& groups) {
   QStringList lines{tr("Neue Gruppenadressen aus \"%1\": %2.").arg(name, number(result.mAdded))};
   if (result.mExisting > 0) {
     lines.append(tr("Schon vorhanden und unverändert: %1.").arg(number(result.mExisting)));
@@ -28,11 +28,11 @@ QString report(const QString& name, const Address_Import::Result& result, const 
   if (result.mRepeated > 0) {
     lines.append(tr("In der Datei mehrfach genannt, der erste Eintrag zählt: %1.").arg(number(result.mRepeated)));
   }
-  if (!faults.isEmpty()) {
-    lines.append({QString(), tr("Nicht übernommen: %1.").arg(number(faults.size()))});
-    lines.append(faults.first(qMin(faults.size(), cShownFaults)));
-    if (faults.size() > cShownFaults) {
-      lines.append(tr("… und %1 weitere.").arg(number(faults.size() - cShownFaults)));
+  if (groups.mFaultCount > 0) {
+    lines.append({QString(), tr("Nicht übernommen: %1.").arg(number(groups.mFaultCount))});
+    lines.append(groups.mFaults.first(qMin(groups.mFaults.size(), cShownFaults)));
+    if (groups.mFaultCount > cShownFaults) {
+      lines.append(tr("… und %1 weitere.").arg(number(groups.mFaultCount - cShownFaults)));
     }
   }
   return lines.join(u'\n');
@@ -58,5 +58,5 @@ Ets_Import::Outcome Ets_Import::run(Project_Session& session, const QString& pat
   if (const Edit_Result edit = Address_Import::addNew(session, groups, result); !edit) {
     return failed(edit.mError);
   }
-  return {true, report(name, result, groups.mFaults)};
+  return {true, report(name, result, groups)};
 }

@@ -56,6 +56,7 @@ Geo_Position_Dlg::Geo_Position_Dlg(double latitude, double longitude, QWidget* p
   layout->addLayout(form);
   layout->addWidget(buttons);
   layout->setSizeConstraint(QLayout::SetFixedSize);
+  mLatitude.mEdit->selectAll();
   checkAll();
 }
 

@@ -20,6 +20,7 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMimeData>
+#include <QPointer>
 #include <QTimer>
 
 namespace {
@@ -36,6 +37,14 @@ QString projectIn(const QMimeData& data) {
     }
   }
   return {};
+}
+
+/// A "move" would have the other program delete the file afterwards.
+void acceptAsCopy(QDropEvent& event) {
+  if (event.possibleActions() & Qt::CopyAction) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+  }
 }
 
 } // namespace
@@ -66,6 +75,7 @@ void Main_Window_Dev::connectParts() {
   connect(&startPage(), &Start_Page::recentChosen, this, &Main_Window_Dev::onOpenPath);
   connect(&addressView(), &Address_View::importRequested, this, &Main_Window_Dev::onEdit_ODBC_Import);
 
+  connect(mLifecycle, &Project_Lifecycle::beginning, this, &Main_Window_Dev::commitEditor);
   connect(mLifecycle, &Project_Lifecycle::info, this, &Main_Window_Dev::showInfo);
   connect(mLifecycle, &Project_Lifecycle::recentProjectsChanged, this, &Main_Window_Dev::updateRecentProjects);
   connect(mLifecycle, &Project_Lifecycle::buildEditors, this, &Main_Window_Dev::onBuildEditors);
@@ -84,6 +94,17 @@ void Main_Window_Dev::updateActions() {
 
 void Main_Window_Dev::updateRecentProjects() {
   startPage().setRecentProjects(mSettings.lastProjects());
+}
+
+/// Editors hand their text over when they lose the focus.
+void Main_Window_Dev::commitEditor() {
+  const QPointer<QWidget> editor = focusWidget();
+  if (editor && editor->hasFocus()) {
+    editor->clearFocus();
+    if (editor) {
+      editor->setFocus();
+    }
+  }
 }
 
 void Main_Window_Dev::onOpenPath(const QString& path) {
@@ -195,12 +216,12 @@ void Main_Window_Dev::closeEvent(QCloseEvent* event) {
 
 void Main_Window_Dev::dragEnterEvent(QDragEnterEvent* event) {
   if (!mLifecycle->isBusy() && !projectIn(*event->mimeData()).isEmpty()) {
-    event->acceptProposedAction();
+    acceptAsCopy(*event);
   }
 }
 
 void Main_Window_Dev::dropEvent(QDropEvent* event) {
-  event->acceptProposedAction();
+  acceptAsCopy(*event);
   // The program that the file comes from waits until this is over, so no question may be asked in here.
   QTimer::singleShot(0, this, [this, path = projectIn(*event->mimeData())] { onOpenPath(path); });
 }

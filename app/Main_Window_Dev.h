@@ -46,6 +46,7 @@ private:
   void updateActions();
   void updateRecentProjects();
   void onOpenPath(const QString& path);
+  void commitEditor();
   void onBuildEditors(int percent);
 
   Session_State& mState;

@@ -12,6 +12,7 @@ constexpr int cGap = 8;
 /// Without the action's access key, which belongs to its menu.
 QPushButton* makeButton(QAction* action) {
   auto* const button = new QPushButton(action->icon(), action->iconText());
+  button->setAutoDefault(true); // so that Enter presses it
   const auto follow = [button, action] {
     button->setEnabled(action->isEnabled());
     button->setToolTip(action->toolTip());
@@ -27,11 +28,15 @@ QPushButton* makeButton(QAction* action) {
 
 QLabel* Page_Parts::makeHeading(const QString& text) {
   auto* const label = new QLabel(text);
-  QFont font = label->font();
+  setHeadingFont(*label);
+  return label;
+}
+
+void Page_Parts::setHeadingFont(QLabel& label) {
+  QFont font = label.font();
   font.setBold(true);
   font.setPointSize(cHeadingPoints);
-  label->setFont(font);
-  return label;
+  label.setFont(font);
 }
 
 QHBoxLayout* Page_Parts::makeButtons(const QList<QAction*>& actions) {

@@ -14,6 +14,7 @@ namespace Page_Parts {
 inline constexpr int cMargin = 24;
 
 [[nodiscard]] QLabel* makeHeading(const QString& text);
+void setHeadingFont(QLabel& label);
 
 /// A row of buttons, one for each action, which stay enabled and disabled with it.
 [[nodiscard]] QHBoxLayout* makeButtons(const QList<QAction*>& actions);

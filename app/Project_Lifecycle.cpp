@@ -1,6 +1,7 @@
 #include "app/Project_Lifecycle.h"
 
 #include "base/App_Settings.h"
+#include "base/File_Copy.h"
 #include "base/Session_State.h"
 #include "base/Version.h"
 #include "db/DB_Legacy_Import.h"
@@ -10,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -64,6 +64,7 @@ public:
     }
     mIsAllowed = true;
     owner.mIsBusy = true;
+    emit owner.beginning();
   }
   Operation(const Operation&) = delete;
   Operation& operator=(const Operation&) = delete;
@@ -249,10 +250,9 @@ bool Project_Lifecycle::openFile(const QString& path) {
     return false;
   }
   if (target != path) {
-    QFile source(path);
-    QFile::remove(target);
-    if (!source.copy(target)) {
-      mDialogs.showMessage(tr("Fehler beim Öffnen der Datei: ") + source.errorString());
+    QString error;
+    if (!File_Copy::replace(path, target, error)) {
+      mDialogs.showMessage(tr("Fehler beim Öffnen der Datei: ") + error);
       return false;
     }
   }

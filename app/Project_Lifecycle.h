@@ -35,6 +35,8 @@ public:
   [[nodiscard]] bool isBusy() const { return mIsBusy; }
 
 signals:
+  /// An operation begins: whoever holds a text that is still being typed makes it part of the project now.
+  void beginning();
   /// The project is loaded; whoever shows editors builds them now. Comes at 40, 60 and 80 percent.
   void buildEditors(int percent);
   void recentProjectsChanged();

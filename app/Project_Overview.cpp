@@ -2,6 +2,7 @@
 
 #include "app/Page_Parts.h"
 #include "db/Project_Session.h"
+#include "ui/Elided_Label.h"
 #include "ui/Theme.h"
 
 #include <QDateTime>
@@ -23,10 +24,12 @@ QString number(qsizetype value) {
 Project_Overview::Project_Overview(Project_Session& session, const QList<QAction*>& actions, QWidget* parent)
     : QWidget(parent),
       mSession(session),
-      mName(Page_Parts::makeHeading({})) {
+      mName(new Elided_Label),
+      mFile(new Elided_Label) {
+  Page_Parts::setHeadingFont(*mName);
   auto* const form = new QFormLayout;
   form->setHorizontalSpacing(Page_Parts::cMargin);
-  mFile = addRow(*form, tr("Datei"));
+  addRow(*form, tr("Datei"), mFile);
   mSaved = addRow(*form, tr("Gespeichert"));
   mLogicPages = addRow(*form, tr("Programmseiten"));
   mVisuPages = addRow(*form, tr("Visualisierungsseiten"));
@@ -63,12 +66,16 @@ QLabel* Project_Overview::addRow(QFormLayout& form, const QString& caption) {
   value->setTextInteractionFlags(Qt::TextSelectableByMouse);
   value->setWordWrap(true);
   value->setTextFormat(Qt::PlainText);
+  addRow(form, caption, value);
+  return value;
+}
+
+void Project_Overview::addRow(QFormLayout& form, const QString& caption, QLabel* value) {
   auto* const label = new QLabel(caption);
   QPalette colours = label->palette();
   colours.setColor(QPalette::WindowText, Theme::color(Theme::Role::SecondaryText));
   label->setPalette(colours);
   form.addRow(label, value);
-  return value;
 }
 
 void Project_Overview::refresh() {

@@ -21,11 +21,12 @@ public:
 
 private:
   [[nodiscard]] QLabel* addRow(QFormLayout& form, const QString& caption);
+  void addRow(QFormLayout& form, const QString& caption, QLabel* value);
 
   Project_Session& mSession;
   QTimer mTimer; ///< many changes of one turn are shown once
   QLabel* mName;
-  QLabel* mFile = nullptr;
+  QLabel* mFile;
   QLabel* mSaved = nullptr;
   QLabel* mLogicPages = nullptr;
   QLabel* mVisuPages = nullptr;

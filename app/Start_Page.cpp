@@ -43,6 +43,7 @@ Start_Page::Start_Page(const QList<QAction*>& actions, QWidget* parent)
   mRecent->setAccessibleName(tr("Zuletzt geöffnet"));
   mRecentHint->setWordWrap(true);
 
+  mBack->setAutoDefault(true);
   auto* const content = new QWidget;
   content->setMaximumWidth(cContentWidth);
   auto* const column = new QVBoxLayout(content);
@@ -102,7 +103,9 @@ void Start_Page::setRecentProjects(const QStringList& paths) {
 }
 
 void Start_Page::setOpenProject(const QString& name) {
-  mBack->setText(tr("&Zurück zu \"%1\"").arg(name));
+  const QString shown = fontMetrics().elidedText(name, Qt::ElideMiddle, cNameWidth).replace(u'&', QStringLiteral("&&"));
+  mBack->setText(tr("&Zurück zu \"%1\"").arg(shown));
+  mBack->setToolTip(name);
   mBack->setVisible(!name.isEmpty());
 }
 

@@ -23,7 +23,7 @@ namespace {
 constexpr int cWrongArguments = 2;
 
 Command_Line parse(const QStringList& arguments) {
-  return Command_Line::parse(arguments.mid(1), [](const QString& path) { return QFileInfo::exists(path); });
+  return Command_Line::parse(arguments.mid(1), [](const QString& path) { return QFileInfo(path).isFile(); });
 }
 
 /// What needs no window is answered without a window system: the result is the process's exit status.

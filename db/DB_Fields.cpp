@@ -90,7 +90,8 @@ QByteArray DB_Fields::undeclared(const DB_Data_Reader& reader, const Keys& keys)
     const QByteArrayView stem = listStem(item.mKey);
     const bool isDeclared = stem.size() == item.mKey.size() ? keys.mPlain.contains(item.mKey.toByteArray())
                                                             : keys.mLists.contains(stem.toByteArray());
-    if (!isDeclared) {
+    // What is no text is told as damage and would be told again at every opening.
+    if (!isDeclared && QUtf8StringView(item.mWhole.data(), item.mWhole.size()).isValidUtf8()) {
       items.append(item.mWhole);
     }
   }

@@ -19,6 +19,12 @@ public:
   void setMissing(DB_Table table) { count(table).mMissing = true; }
   void setWrongLayout(DB_Table table) { count(table).mWrongLayout = true; }
 
+  [[nodiscard]] bool isMissing(DB_Table table) const { return mCounts[static_cast<size_t>(table)].mMissing; }
+  [[nodiscard]] bool isUnreadable(DB_Table table) const {
+    return !mCounts[static_cast<size_t>(table)].mUnreadable.isEmpty();
+  }
+  [[nodiscard]] int lostRows(DB_Table table) const { return mCounts[static_cast<size_t>(table)].mLost; }
+
   /// True when something of the file is not in memory, so that saving over it would lose it for good.
   [[nodiscard]] bool isDamaged() const;
   /// One German sentence for each finding, in the order of the tables.

@@ -4,7 +4,7 @@ void DB_M8800::Module::fields(DB_Fields& fields) {
   fields.number("mType", mType);
   fields.number("mAddress", mAddress);
   fields.text("mName", mName);
-  fields.flag("mEnabled", mActive, true);
+  fields.flag("mActive", mActive, true);
   fields.list("mParam", mParams);
 }
 

@@ -2,8 +2,8 @@
 
 void DB_Controller::fields(DB_Fields& fields) {
   fields.number("mNumber", mNumber);
-  fields.text("mCaption", mName);
-  fields.text("mHost", mAddress);
+  fields.text("mName", mName);
+  fields.text("mAddress", mAddress);
   fields.flag("mIsMain", mIsMain);
 }
 

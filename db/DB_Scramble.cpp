@@ -2,6 +2,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -103,7 +104,8 @@ QByteArray DB_Scramble::unscramble(QByteArrayView scrambled, bool* isWhole) {
     *out++ = static_cast<quint8>(bits >> 8);
   }
   if (isWhole) {
-    *isWhole = count != 1 && (in == end || *in == quint8(cPadding));
+    const bool isPadded = std::all_of(in, end, [](quint8 character) { return character == quint8(cPadding); });
+    *isWhole = isPadded && (count == 0 ? in == end : count >= 2 && size_t(end - in) == 4 - count);
   }
   result.truncate(out - outBegin);
   return result;

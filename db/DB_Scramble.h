@@ -10,8 +10,8 @@ namespace DB_Scramble {
 [[nodiscard]] QByteArray scramble(QByteArrayView plain);
 
 /// Stops at the first '!' or any other character that is not of the alphabet; a last group of two or three characters
-/// yields one or two bytes, a single left-over character none. `isWhole`, if given, tells whether everything up to the
-/// end or the padding was read.
+/// yields one or two bytes, a single left-over character none. `isWhole`, if given, tells whether the text is one that
+/// `scramble` makes: whole groups, and nothing behind the padding.
 [[nodiscard]] QByteArray unscramble(QByteArrayView scrambled, bool* isWhole = nullptr);
 
 } // namespace DB_Scramble

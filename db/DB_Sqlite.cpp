@@ -29,6 +29,10 @@ bool DB_Statement::bindBlob(int parameter, QByteArrayView bytes) {
                              SQLITE_STATIC) == SQLITE_OK;
 }
 
+bool DB_Statement::bindNumber(int parameter, qint64 value) {
+  return sqlite3_bind_int64(mStatement, parameter, value) == SQLITE_OK;
+}
+
 DB_Statement::Step DB_Statement::step() {
   switch (sqlite3_step(mStatement)) {
   case SQLITE_ROW:
@@ -52,6 +56,10 @@ QByteArrayView DB_Statement::text(int column) const {
 QByteArrayView DB_Statement::blob(int column) const {
   const void* const bytes = sqlite3_column_blob(mStatement, column);
   return {static_cast<const char*>(bytes), bytes ? sqlite3_column_bytes(mStatement, column) : 0};
+}
+
+qint64 DB_Statement::number(int column) const {
+  return sqlite3_column_int64(mStatement, column);
 }
 
 int DB_Statement::columnCount() const {
@@ -103,6 +111,10 @@ DB_Statement DB_Sqlite::prepare(const QByteArray& sql) {
 
 bool DB_Sqlite::isInTransaction() const {
   return mHandle && sqlite3_get_autocommit(mHandle) == 0;
+}
+
+int DB_Sqlite::changedRows() const {
+  return sqlite3_changes(mHandle);
 }
 
 QString DB_Sqlite::errorText() const {

@@ -25,12 +25,14 @@ public:
   /// Parameters count from 1. The bytes must stay as they are until the next `reset` or bind.
   bool bindText(int parameter, QByteArrayView text);
   bool bindBlob(int parameter, QByteArrayView bytes);
+  bool bindNumber(int parameter, qint64 value);
   Step step();
   void reset();
 
   /// Columns count from 0. The view is valid until the next step.
   [[nodiscard]] QByteArrayView text(int column) const;
   [[nodiscard]] QByteArrayView blob(int column) const;
+  [[nodiscard]] qint64 number(int column) const;
   [[nodiscard]] int columnCount() const;
   [[nodiscard]] QByteArray columnName(int column) const;
 
@@ -63,6 +65,8 @@ public:
   /// Not valid when the text cannot be compiled.
   [[nodiscard]] DB_Statement prepare(const QByteArray& sql);
 
+  /// Rows that the last statement inserted, changed or deleted.
+  [[nodiscard]] int changedRows() const;
   /// True while a transaction is open, also after a failed commit.
   [[nodiscard]] bool isInTransaction() const;
 

@@ -5,7 +5,7 @@ DB_Style::DB_Style() : mSlots(cSlotCount) {}
 void DB_Style_Page::fields(DB_Fields& fields) {
   fields.uuid("mPageGuid", mPageGuid);
   fields.flag("mEnabled", mEnabled, true);
-  fields.text("mPageColor", mBackgroundColor);
+  fields.text("mBackgroundColor", mBackgroundColor);
   fields.text("mImageBackground", mImageBackground);
   fields.text("mImageOverlay", mImageOverlay);
 }

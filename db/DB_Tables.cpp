@@ -59,3 +59,7 @@ QString DB_Tables::germanName(DB_Table table) {
 const char* DB_Tables::layout(DB_Table table) {
   return table == DB_Table::Resources ? cResourceLayout : cRecordLayout;
 }
+
+bool DB_Tables::isRead(DB_Table table) {
+  return table < DB_Table::Users || table > DB_Table::Devices;
+}

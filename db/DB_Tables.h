@@ -55,5 +55,7 @@ constexpr const char* cResourceLayout = "FILENAME TEXT PRIMARY KEY,DATA BLOB";
 /// What a user calls the table's content, such as "Gruppenadressen".
 [[nodiscard]] QString germanName(DB_Table table);
 [[nodiscard]] const char* layout(DB_Table table);
+/// False for the eight tables that the studio only creates.
+[[nodiscard]] bool isRead(DB_Table table);
 
 } // namespace DB_Tables

@@ -141,6 +141,7 @@ private:
   }
 
   void fault(const QString& text) {
+    ++mGroups.mFaultCount;
     if (mGroups.mFaults.size() < Ets_Xml_Reader::cFaultLimit) {
       mGroups.mFaults.append(tr("Zeile %1: %2").arg(mXml.lineNumber()).arg(text));
     }

@@ -39,7 +39,8 @@ struct Ets_Groups {
 
   std::vector<Range> mRanges; ///< outer before inner
   std::vector<Address> mAddresses;
-  QStringList mFaults; ///< one German sentence with the line number for each element that was left out
+  QStringList mFaults;       ///< one German sentence with the line number for each of the first elements left out
+  qsizetype mFaultCount = 0; ///< of all of them
 };
 
 /// Reads the XML export of ETS5 and ETS6 (root "GroupAddress-Export", namespace "http://knx.org/xml/ga-export/01").

@@ -50,11 +50,16 @@ bool ProjectDatabase::isOlderLayout(const QString& path) {
 }
 
 bool ProjectDatabase::open(const QString& path, DB_Sqlite::Mode mode) {
-  const bool hasContent = QFileInfo(path).size() > 0;
+  const QFileInfo before(path);
+  const bool isNew = !before.exists();
+  const bool isEmpty = before.size() == 0;
   if (!mDatabase.open(path, mode)) {
     return fail(mDatabase.errorText());
   }
-  if (!hasContent) {
+  if (isEmpty) {
+    if (!isNew) {
+      mReport.addFinding(tr("Die Datei ist leer."));
+    }
     return true;
   }
   const auto isReadable = [this] {
@@ -100,8 +105,10 @@ int ProjectDatabase::noteMissingTables(bool wasOlder) {
   for (const DB_Table_Row& row : DB_Tables::all()) {
     const bool isExpected = !wasOlder || DB_Legacy_Import::hadTable(row.mTable);
     if (isExpected && !tableExists(row.mName)) {
-      mReport.setMissing(row.mTable);
       ++missing;
+      if (DB_Tables::isRead(row.mTable)) {
+        mReport.setMissing(row.mTable);
+      }
     }
   }
   return missing;
@@ -198,13 +205,16 @@ QByteArray ProjectDatabase::rowData(DB_Table table, QByteArrayView scrambled) {
     mReport.addLostRow(table);
     return {};
   }
-  if (!isWhole) {
+  if (!isWhole || !data.endsWith(DB_Data_Reader::cValueEnd) || !data.isValidUtf8()) {
     mReport.addPartialRow(table);
   }
   return data;
 }
 
 bool ProjectDatabase::readRows(DB_Table table, const std::function<bool(const QByteArray& data)>& onRow) {
+  if (mReport.isMissing(table)) {
+    return false; // in its place a foreign view may stand, which may have no end
+  }
   DB_Statement statement = mDatabase.prepare("SELECT * FROM " + quoted(table));
   if (!statement.isValid()) {
     mReport.setUnreadable(table, mDatabase.errorText());
@@ -251,7 +261,9 @@ void ProjectDatabase::readList(DB_Table table, const std::function<bool(std::uni
     record->setData(data, texts);
     if (!place(std::move(record))) {
       mReport.addOrphan(table);
-      mOrphans[static_cast<size_t>(table)].push_back(data);
+      Record orphan;
+      orphan.setData(data);
+      mOrphans[static_cast<size_t>(table)].push_back(orphan.toData());
     }
     return true;
   });
@@ -259,9 +271,12 @@ void ProjectDatabase::readList(DB_Table table, const std::function<bool(std::uni
 
 /// The rows of a table that we wrote are numbered from 1 without gaps; unlike counting, this reads no rows.
 qint64 ProjectDatabase::highestRow(DB_Table table) {
+  if (mReport.isMissing(table)) {
+    return 0;
+  }
   DB_Statement select = mDatabase.prepare("SELECT max(rowid) FROM " + quoted(table));
   const bool isFound = select.isValid() && select.step() == DB_Statement::Step::Row;
-  return isFound ? select.text(0).toLongLong() : 0;
+  return isFound ? select.number(0) : 0;
 }
 
 void ProjectDatabase::readAddresses() {
@@ -274,12 +289,57 @@ void ProjectDatabase::readAddresses() {
   mAddresses.endChange();
 }
 
-/// Resources are read when they are asked for, but a table that cannot hold them is told at once.
-void ProjectDatabase::checkResourceTable() {
-  const bool exists = tableExists(DB_Tables::name(DB_Table::Resources));
-  if (exists && !mDatabase.prepare("SELECT FILENAME,DATA FROM " + quoted(DB_Table::Resources)).isValid()) {
-    mReport.setWrongLayout(DB_Table::Resources);
+/// Resources are kept in the file, but what of them is lost must be known before the first save.
+void ProjectDatabase::checkResources() {
+  if (!tableExists(DB_Tables::name(DB_Table::Resources))) {
+    return;
   }
+  DB_Statement select = prepareResource();
+  if (!select.isValid()) {
+    mReport.setWrongLayout(DB_Table::Resources);
+    return;
+  }
+  bool isWhole = true;
+  for (const qint64 row : resourceRows(isWhole)) {
+    if (!select.bindNumber(1, row) || select.step() != DB_Statement::Step::Row) {
+      mReport.addLostRow(DB_Table::Resources);
+    }
+    select.reset();
+  }
+  if (!isWhole) {
+    mReport.setUnreadable(DB_Table::Resources, mDatabase.errorText());
+  }
+}
+
+DB_Statement ProjectDatabase::prepareResource() {
+  return mDatabase.prepare("SELECT FILENAME,DATA FROM " + quoted(DB_Table::Resources) + " WHERE rowid=?");
+}
+
+/// Where a broken page stops the walk from the front, what lies behind it is walked from the end.
+std::vector<qint64> ProjectDatabase::resourceRows(bool& isWhole) {
+  std::vector<qint64> rows;
+  const auto walk = [&](const QByteArray& order) {
+    DB_Statement select =
+        mDatabase.prepare("SELECT rowid FROM " + quoted(DB_Table::Resources) + " NOT INDEXED ORDER BY rowid " + order);
+    const size_t known = rows.size();
+    while (select.isValid()) {
+      const DB_Statement::Step step = select.step();
+      if (step != DB_Statement::Step::Row) {
+        return step == DB_Statement::Step::Done;
+      }
+      const qint64 row = select.number(0);
+      if (known > 0 && row == rows[known - 1]) {
+        return false;
+      }
+      rows.push_back(row);
+    }
+    return false;
+  };
+  isWhole = walk("ASC");
+  if (!isWhole) {
+    walk("DESC");
+  }
+  return rows;
 }
 
 void ProjectDatabase::readAll() {
@@ -298,7 +358,7 @@ void ProjectDatabase::readAll() {
   };
   readPages(mWidgetPages, DB_Table::Visu_Pages, DB_Table::Visu_Elements);
   readPages(mFbPages, DB_Table::Logic_Pages, DB_Table::Logic_Blocks);
-  checkResourceTable();
+  checkResources();
 }
 
 DB_Widget* ProjectDatabase::findWidgetByName(const QString& name) const {

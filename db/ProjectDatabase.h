@@ -121,7 +121,11 @@ private:
   bool open(const QString& path, DB_Sqlite::Mode mode);
   int noteMissingTables(bool wasOlder = false);
   bool convertOlderLayout(const QString& path);
-  void checkResourceTable();
+  void checkResources();
+  /// Name and bytes of the resource in the row that is bound.
+  [[nodiscard]] DB_Statement prepareResource();
+  /// The numbers of all rows that can be reached; `isWhole` tells whether those are all.
+  [[nodiscard]] std::vector<qint64> resourceRows(bool& isWhole);
   void noteForeignObjects();
   void configure();
   static void createTables(DB_Sqlite& database);
@@ -149,6 +153,7 @@ private:
   bool fail(const QString& text);
   bool checkResourceName(const QString& name);
   bool deleteResource(const QString& name);
+  void tellDeleted();
 
   DB_Load_Report mReport;
   /// DATA texts of children whose parent is missing, by table: kept and written again.

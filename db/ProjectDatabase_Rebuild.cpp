@@ -1,34 +1,58 @@
 #include "db/ProjectDatabase.h"
 #include "db/Working_Copy.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using DB_Tables::quoted;
 
-/// False when a resource could not be written; those that cannot be read are lost and told.
+/// False when a resource could not be written, or when more of them cannot be read than was told on opening: then they
+/// are told now, and a further attempt goes without them.
 bool ProjectDatabase::copyResources(DB_Sqlite& to) {
-  DB_Statement select = mDatabase.prepare("SELECT FILENAME,DATA FROM " + quoted(DB_Table::Resources));
+  DB_Statement select = prepareResource();
   DB_Statement insert =
       to.prepare("INSERT OR REPLACE INTO " + quoted(DB_Table::Resources) + "(FILENAME,DATA) VALUES(?,?)");
   bool isOk = to.execute("BEGIN TRANSACTION") && insert.isValid();
-  DB_Statement::Step step = DB_Statement::Step::Done;
-  while (isOk && select.isValid() && (step = select.step()) == DB_Statement::Step::Row) {
-    isOk = insert.bindText(1, select.text(0)) && insert.bindBlob(2, select.blob(1)) &&
-           insert.step() == DB_Statement::Step::Done;
-    insert.reset();
+  bool isWhole = true;
+  int lost = 0;
+  const bool isReadable = select.isValid() && !mReport.isMissing(DB_Table::Resources);
+  for (const qint64 row : isReadable ? resourceRows(isWhole) : std::vector<qint64>()) {
+    if (select.bindNumber(1, row) && select.step() == DB_Statement::Step::Row) {
+      isOk = isOk && insert.bindText(1, select.text(0)) && insert.bindBlob(2, select.blob(1)) &&
+             insert.step() == DB_Statement::Step::Done;
+      insert.reset();
+    } else {
+      ++lost;
+    }
+    select.reset();
   }
-  if (step == DB_Statement::Step::Error) {
-    mReport.setUnreadable(DB_Table::Resources, mDatabase.errorText());
+  isOk = isOk && to.execute("END TRANSACTION");
+  if (!isOk) {
+    mLastError = to.errorText();
+    return false;
   }
-  return isOk && to.execute("END TRANSACTION");
-}
-
-/// The engine refuses to write to a damaged file: goes on with a fresh one, which takes the readable resources over.
-/// The records are in memory and are written by the caller.
-bool ProjectDatabase::rebuild() {
-  if (!mNeedsRebuild) {
+  const int untold = lost - mReport.lostRows(DB_Table::Resources);
+  if (untold <= 0 && (isWhole || mReport.isUnreadable(DB_Table::Resources))) {
     return true;
   }
+  for (int i = 0; i < untold; ++i) {
+    mReport.addLostRow(DB_Table::Resources);
+  }
+  if (!isWhole) {
+    mReport.setUnreadable(DB_Table::Resources, mDatabase.errorText());
+  }
+  return fail(tr("Die Arbeitsdatei ist beschädigt, Ressourcen sind nicht mehr lesbar. Nochmals speichern schreibt das "
+                 "Projekt ohne sie."));
+}
+
+/// The engine refuses to write to a damaged file, and a deleted one is no file any more: goes on with a fresh one,
+/// which takes the readable resources over. The records are in memory and are written by the caller.
+bool ProjectDatabase::rebuild() {
+  if (!mNeedsRebuild && QFileInfo::exists(mFileName)) {
+    return true;
+  }
+  QDir().mkpath(QFileInfo(mFileName).absolutePath());
   const QString fresh = mFileName + QStringLiteral(".neu");
   Working_Copy::removeFile(fresh);
   DB_Sqlite database;
@@ -36,8 +60,10 @@ bool ProjectDatabase::rebuild() {
   if (isOpen) {
     createTables(database);
   }
-  if (!isOpen || !copyResources(database)) {
+  if (!isOpen) {
     mLastError = database.errorText();
+  }
+  if (!isOpen || !copyResources(database)) {
     database.close();
     Working_Copy::removeFile(fresh);
     return false;

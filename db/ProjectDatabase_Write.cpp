@@ -222,6 +222,12 @@ bool ProjectDatabase::deleteResource(const QString& name) {
   return true;
 }
 
+void ProjectDatabase::tellDeleted() {
+  if (mDatabase.changedRows() > 0) {
+    emit resourcesChanged();
+  }
+}
+
 bool ProjectDatabase::ressourceDelete(const QString& name) {
   if (!mDatabase.isOpen()) {
     return fail(QStringLiteral("Database not open"));
@@ -230,7 +236,7 @@ bool ProjectDatabase::ressourceDelete(const QString& name) {
   if (!rebuild() || !deleteResource(name)) {
     return false;
   }
-  emit resourcesChanged();
+  tellDeleted();
   return true;
 }
 
@@ -242,7 +248,7 @@ bool ProjectDatabase::ressourceDeleteAll() {
   if (!rebuild() || !emptyTable(DB_Table::Resources)) {
     return false;
   }
-  emit resourcesChanged();
+  tellDeleted();
   return true;
 }
 

@@ -1,15 +1,10 @@
 #include "db/Project_Session.h"
 
-#include "base/Platform.h"
+#include "base/File_Copy.h"
 #include "base/Version.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
-
-namespace {
-constexpr qint64 cCopyChunk = 1 << 20;
-} // namespace
 
 Project_Session::Project_Session(Session_State& state, QObject* parent)
     : QObject(parent),
@@ -125,32 +120,6 @@ bool Project_Session::create(const QString& path, const New_Project::Options& op
   return true;
 }
 
-/// The bytes go beside the project file, are flushed and renamed over it: a reader finds the old file or the new one.
-bool Project_Session::publish(const QString& path) {
-  QFile source(mWorkingCopy.path());
-  QSaveFile target(path);
-  target.setDirectWriteFallback(false);
-  if (!source.open(QIODevice::ReadOnly)) {
-    return fail(source.errorString());
-  }
-  if (!target.open(QIODevice::WriteOnly)) {
-    return fail(target.errorString());
-  }
-  while (!source.atEnd()) {
-    const QByteArray chunk = source.read(cCopyChunk);
-    if (chunk.isEmpty() || target.write(chunk) != chunk.size()) {
-      const QString error = chunk.isEmpty() ? source.errorString() : target.errorString();
-      target.cancelWriting();
-      return fail(error);
-    }
-  }
-  if (!target.commit()) {
-    return fail(target.errorString());
-  }
-  Platform::flushFolder(QFileInfo(path).absolutePath());
-  return true;
-}
-
 Project_Session::Save_Result Project_Session::writeTo(const QString& path) {
   mLastError.clear();
   mHistory.commit();
@@ -166,7 +135,7 @@ Project_Session::Save_Result Project_Session::writeTo(const QString& path) {
   if (!mDatabase.recordWriteAll(true) || !mDatabase.compact()) {
     fail(mDatabase.lastError());
     result = Save_Result::WriteFailed;
-  } else if (!publish(path)) {
+  } else if (!File_Copy::replace(mWorkingCopy.path(), path, mLastError)) {
     result = Save_Result::PublishFailed;
   }
   if (result != Save_Result::Saved) {

@@ -78,7 +78,6 @@ private:
   bool claim(Working_Copy& copy, const QString& path);
   bool copyToWorkingFile(const QString& path);
   [[nodiscard]] Save_Result writeTo(const QString& path);
-  bool publish(const QString& path);
   void setPath(const QString& path);
 
   Session_State& mState;

@@ -19,6 +19,7 @@ Empty_Hint::Empty_Hint(QWidget* parent) : QWidget(parent), mLabel(new QLabel), m
   quiet.setColor(QPalette::WindowText, Theme::color(Theme::Role::SecondaryText));
   mLabel->setPalette(quiet);
   mStep->hide();
+  mStep->setAutoDefault(true);
   connect(mStep, &QPushButton::clicked, this, &Empty_Hint::stepRequested);
 
   auto* const layout = new QVBoxLayout(this);

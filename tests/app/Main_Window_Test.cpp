@@ -5,11 +5,15 @@
 #include "base/App_Settings.h"
 #include "db/Project_Edits.h"
 #include "tests/db/Session_Rig.h"
+#include "ui/Page_Details_View.h"
+#include "ui/Page_View.h"
+#include "ui/Project_Tree_View.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -122,6 +126,38 @@ private slots:
       QVERIFY(isPressed);
       QCOMPARE(rig.mSession.isModified(), button != u"Ja");
     }
+  }
+
+  /// Text in an editor that is still open belongs to the project when it is saved, closed or left.
+  void whatIsBeingTypedIsSaved() {
+    Window_Rig rig;
+    QVERIFY(rig.create());
+    rig.show();
+    QVERIFY(QTest::qWaitForWindowActive(&rig.mWindow));
+    auto* const tree = rig.mWindow.findChild<Page_View*>()->findChild<Project_Tree_View*>();
+    const QModelIndex page = tree->model()->index(0, 0, tree->model()->index(0, 0));
+    const auto caption = [&rig] { return rig.mSession.database().mFbPages.pages().at(0).mCaption; };
+    tree->setCurrentIndex(page);
+    for (const QString& place : {u"tree"_s, u"panel"_s}) {
+      if (place == u"tree") {
+        tree->edit(page);
+      } else {
+        rig.mWindow.findChild<Page_Details_View*>()->findChild<QLineEdit*>()->setFocus();
+      }
+      auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+      QVERIFY(editor);
+      editor->selectAll();
+      QTest::keyClicks(editor, place);
+      rig.action("onMenuFileSave")->trigger();
+      QCOMPARE(caption(), place);
+      QVERIFY(!rig.mSession.isModified());
+    }
+    tree->edit(page);
+    QTest::keyClicks(QApplication::focusWidget(), u"quit"_s);
+    bool isAsked = false;
+    pressSoon(u"Ja"_s, &isAsked);
+    QVERIFY(rig.mWindow.close() && isAsked);
+    QCOMPARE(caption(), u"quit"_s);
   }
 
   void aKioskEditsNothingAndRemembersNothing() {

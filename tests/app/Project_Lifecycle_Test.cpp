@@ -24,8 +24,8 @@ const QString cOverwriteDamaged = u"Ja/Nein: Das Projekt war beim Öffnen besch�
                                   u"dem Speichern verloren. Die Datei "
                                   "\"DIR/Anderes.zpro\" überschreiben?"_s;
 const QStringList cReplaceOther = {u"Ja/Nein: Die Datei \"DIR/Anderes.zpro\" ist schon vorhanden. Ersetzen?"_s};
-const QString cDamage =
-    u"Meldung: Das Projekt ist beschädigt. Geöffnet ist, was lesbar war:\n\nVisualisierungsseiten: Die Tabelle fehlt."_s;
+const QString cDamaged = u"Meldung: Das Projekt ist beschädigt. Geöffnet ist, was lesbar war:\n\n"_s;
+const QString cDamage = cDamaged + u"Visualisierungsseiten: Die Tabelle fehlt."_s;
 const QString cOpenDialog = u"Datei: Datei öffnen, Projekte (*.zpro)"_s;
 const QStringList cSaveDialog = {u"Datei: Datei speichern, Projekte (*.zpro)"_s};
 const QStringList cNewDialog = {u"Datei: Neues Projekt, Projekte (*.zpro)"_s};
@@ -78,6 +78,7 @@ struct Lifecycle_Rig : Session_Rig {
     database.recordWriteAll(false);
   }
   void noProject() { haus(), write(other(), QByteArray(4096, 'x')); }
+  void otherEmpty() { haus(), write(other(), {}); }
   void damaged() {
     makeOther();
     change(other(), QByteArray("DROP TABLE `") + DB_Tables::name(DB_Table::Visu_Pages) + '`');
@@ -180,6 +181,8 @@ const std::vector<Row>& rows() {
          cBuilding, true, cOther},
       {"open what is no project", &Rig::noProject, &Rig::openOther, {}, cLoading +
          QStringList{u"Meldung: Fehler beim Öffnen der Datei: file is not a database"_s}, false, {}},
+      {"open an empty file", &Rig::otherEmpty, &Rig::openOther, {}, cOpening +
+         QStringList{cDamaged + u"Die Datei ist leer."_s}, true, cOther},
       {"open a damaged project", &Rig::damaged, &Rig::openOther, {}, cOpening + QStringList{cDamage}, true, cOther},
       {"open what is missing", &Rig::haus, &Rig::openOther, {},
          {u"Meldung: Das Projekt \"DIR/Anderes.zpro\" wurde nicht gefunden."_s}, false, cHaus},

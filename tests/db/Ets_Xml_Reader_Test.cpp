@@ -86,6 +86,10 @@ private slots:
     QCOMPARE(groups.mAddresses.size(), size_t(1));
     QCOMPARE(groups.mFaults.size(), 4);
     QVERIFY(groups.mFaults[1].startsWith(QStringLiteral("Zeile 4:")));
+    const QByteArray many = QByteArray("<GroupAddress Name='x' Address='y'/>\n").repeated(900);
+    QVERIFY2(readBytes(cOpen + many + cClose, groups, error), qPrintable(error));
+    QCOMPARE(groups.mFaults.size(), Ets_Xml_Reader::cFaultLimit);
+    QCOMPARE(groups.mFaultCount, 900);
   }
 
   void whatIsNoExportIsRefused() {

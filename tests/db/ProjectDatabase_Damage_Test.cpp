@@ -115,6 +115,15 @@ private slots:
         "Funktionsbausteine: Nicht lesbare Einträge: 5.");
     row("text that breaks off", "UPDATE " + subs + " SET DATA=substr(DATA, 1, 200) || '?' WHERE rowid=1",
         "Gruppenadressen: Nur teilweise lesbare Einträge: 1.");
+    row("text cut between two groups", "UPDATE " + subs + " SET DATA=substr(DATA, 1, 200) WHERE rowid=1",
+        "Gruppenadressen: Nur teilweise lesbare Einträge: 1.");
+    row("padding in the middle",
+        "UPDATE " + subs + " SET DATA=substr(DATA, 1, 200) || '!' || substr(DATA, 202) WHERE rowid=1",
+        "Gruppenadressen: Nur teilweise lesbare Einträge: 1.");
+    row("no UTF-8",
+        insertion(DB_Table::Main_Groups, "mName\x02"
+                                         "B\xfcro\x03"),
+        "Hauptgruppen: Nur teilweise lesbare Einträge: 1.");
     row("child without a parent", insertion(DB_Table::Logic_Blocks, "mName\x02Waise\x03"),
         "Funktionsbausteine: Einträge ohne übergeordneten Eintrag: 1 (bleiben erhalten).", false);
   }

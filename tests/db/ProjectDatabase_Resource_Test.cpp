@@ -53,6 +53,14 @@ private slots:
     QVERIFY(rawRows(mPath, quoted(DB_Table::Resources)).isEmpty());
   }
 
+  void deletingNothingChangesNothing() {
+    QSignalSpy changed(mStore.get(), &ProjectDatabase::resourcesChanged);
+    QVERIFY(mStore->ressourceDelete(QStringLiteral("fehlt")) && mStore->ressourceDeleteAll());
+    QVERIFY(!mStore->ressourceWriteRaw(QStringLiteral("a"), {}));
+    QCOMPARE(mStore->lastError(), QStringLiteral("ressourceWriteRaw: Error size/data"));
+    QCOMPARE(changed.size(), 0);
+  }
+
   void failedWriteKeepsTheOldOne() {
     const QString name = QStringLiteral("a");
     QSignalSpy changed(mStore.get(), &ProjectDatabase::resourcesChanged);

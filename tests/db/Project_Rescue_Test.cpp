@@ -33,7 +33,10 @@ private slots:
     QTest::newRow("trigger that deletes")
         << "CREATE TRIGGER t AFTER INSERT ON " + subs + " BEGIN DELETE FROM " + subs + "; END" << true;
     QTest::newRow("view in the place of a table")
-        << "DROP TABLE " + subs + "; CREATE VIEW " + subs + " AS SELECT 'x' AS DATA" << true;
+        << "DROP TABLE " + subs + "; CREATE VIEW " + subs +
+               " AS WITH RECURSIVE r(x) AS (SELECT 1 UNION ALL SELECT x+1 FROM r) SELECT x AS DATA FROM r"
+        << true;
+    QTest::newRow("table missing that is not read") << "DROP TABLE " + quoted(DB_Table::Scenes) << false;
     QTest::newRow("two rows, the first unreadable")
         << "INSERT INTO " + quoted(DB_Table::Mail) + "(rowid,DATA) VALUES(-1,'')" << true;
   }
@@ -92,6 +95,34 @@ private slots:
       }
     }
     QVERIFY(opened > 0);
+  }
+
+  /// Resources stay in the file: what a broken page takes of them is told before the save, and it takes no other.
+  void brokenResourcesAreToldAndTheRestIsKept() {
+    QVERIFY(session().open(mRig->path()));
+    ProjectDatabase& store = session().database();
+    const auto name = [](int i) { return QStringLiteral("bild%1").arg(i); };
+    for (int i = 0; i < 9; ++i) {
+      QVERIFY(store.ressourceWriteRaw(name(i), QByteArray(40'000, char('a' + i))));
+    }
+    QCOMPARE(session().save(), Save::Saved);
+    session().close();
+    QByteArray bytes = Session_Rig::bytesOf(mRig->path());
+    constexpr qsizetype cPage = 4096;
+    const qsizetype inFifth = bytes.indexOf(QByteArray(cPage / 2, 'e'));
+    bytes.replace((inFifth / cPage + 1) * cPage, cPage, QByteArray(cPage, '\xff'));
+    QFile file(mRig->path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+    QVERIFY2(session().open(mRig->path()), qPrintable(session().lastError()));
+    QCOMPARE(store.loadReport().lines(), QStringList{QStringLiteral("Ressourcen: Nicht lesbare Einträge: 1.")});
+    editSaveAndReopen();
+    for (int i = 0; i < 9; ++i) {
+      QByteArray read;
+      QCOMPARE(store.ressourceReadRaw(name(i), read), i != 4);
+      QCOMPARE(read, i == 4 ? QByteArray() : QByteArray(40'000, char('a' + i)));
+    }
   }
 
   void aNameTooLongForItsWorkingFileIsRefused() {

@@ -77,6 +77,23 @@ private slots:
     reopenIsEqual();
   }
 
+  /// What cleans the temporary directory up may take the working file as well.
+  void aVanishedWorkingFileIsMadeAnew() {
+    QVERIFY(mRig->create());
+    const QUuid key = mRig->addAddress({1, 1, 1}, QStringLiteral("alt"))->mKey;
+    QVERIFY(mRig->mSession.database().ressourceWriteRaw(QStringLiteral("bild"), "bytes"));
+    QCOMPARE(mRig->mSession.save(), Save::Saved);
+    for (const bool isOtherName : {false, true}) {
+      QVERIFY(Project_Edits::renameAddress(mRig->mSession, key, QStringLiteral("neu %1").arg(isOtherName)));
+      QVERIFY(QFile::remove(mRig->mSession.database().fileName()));
+      const QString path = mRig->path(QStringLiteral("Anderes Haus.zpro"));
+      QCOMPARE(isOtherName ? mRig->mSession.saveAs(path) : mRig->mSession.save(), Save::Saved);
+      QByteArray bytes;
+      QVERIFY(mRig->mSession.database().ressourceReadRaw(QStringLiteral("bild"), bytes));
+      reopenIsEqual();
+    }
+  }
+
 private:
   void reopenIsEqual() {
     const QByteArray before = Project_Dump::project(mRig->mSession.database());

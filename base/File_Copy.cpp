@@ -1,0 +1,41 @@
+#include "base/File_Copy.h"
+
+#include "base/Platform.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+constexpr qint64 cChunk = 1 << 20;
+} // namespace
+
+bool File_Copy::replace(const QString& from, const QString& to, QString& error) {
+  QFile source(from);
+  QSaveFile target(to);
+  target.setDirectWriteFallback(false);
+  const auto fail = [&error](const QFileDevice& file) {
+    error = file.errorString();
+    return false;
+  };
+  if (!source.open(QIODevice::ReadOnly)) {
+    return fail(source);
+  }
+  if (!target.open(QIODevice::WriteOnly)) {
+    return fail(target);
+  }
+  while (!source.atEnd()) {
+    const QByteArray chunk = source.read(cChunk);
+    if (chunk.isEmpty()) {
+      return fail(source);
+    }
+    if (target.write(chunk) != chunk.size()) {
+      return fail(target);
+    }
+  }
+  if (!target.commit()) {
+    return fail(target);
+  }
+  Platform::flushFolder(QFileInfo(to).absolutePath());
+  return true;
+}
