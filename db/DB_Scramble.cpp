@@ -66,12 +66,13 @@ QByteArray DB_Scramble::scramble(QByteArrayView plain) {
   return result;
 }
 
-QByteArray DB_Scramble::unscramble(QByteArrayView scrambled, bool* isWhole) {
+QByteArray DB_Scramble::unscramble(QByteArrayView scrambled, Findings* findings) {
   QByteArray result(scrambled.size() / 4 * 3 + 3, Qt::Uninitialized);
   const auto* in = reinterpret_cast<const quint8*>(scrambled.data());
   const auto* const end = in + scrambled.size();
   auto* out = reinterpret_cast<quint8*>(result.data());
   const auto* const outBegin = out;
+  quint64 seen = 0; // every bit of the result, a byte under a byte
   // Whole machine words are written; what is too much of them is written over by the next group, or cut off.
   while (end - in >= 8) {
     const quint32 first = group(in);
@@ -79,7 +80,9 @@ QByteArray DB_Scramble::unscramble(QByteArrayView scrambled, bool* isWhole) {
     if ((first | second) & cForeign) {
       break;
     }
-    qToBigEndian(quint64(first) << 40 | quint64(second) << 16, out);
+    const quint64 six = quint64(first) << 40 | quint64(second) << 16;
+    seen |= six;
+    qToBigEndian(six, out);
     in += 8;
     out += 6;
   }
@@ -88,11 +91,12 @@ QByteArray DB_Scramble::unscramble(QByteArrayView scrambled, bool* isWhole) {
     if (bits & cForeign) {
       break;
     }
+    seen |= bits << 8;
     qToBigEndian(bits << 8, out);
     in += 4;
     out += 3;
   }
-  quint32 bits = 0;
+  quint32 bits = 0; // of which a third byte may be only begun
   size_t count = 0;
   while (in < end && count < 4 && cValues[count][*in] != cForeign) {
     bits |= cValues[count++][*in++];
@@ -103,9 +107,10 @@ QByteArray DB_Scramble::unscramble(QByteArrayView scrambled, bool* isWhole) {
   if (count >= 3) {
     *out++ = static_cast<quint8>(bits >> 8);
   }
-  if (isWhole) {
+  if (findings) {
     const bool isPadded = std::all_of(in, end, [](quint8 character) { return character == quint8(cPadding); });
-    *isWhole = isPadded && (count == 0 ? in == end : count >= 2 && size_t(end - in) == 4 - count);
+    findings->mIsWhole = isPadded && (count == 0 ? in == end : count >= 2 && size_t(end - in) == 4 - count);
+    findings->mIsAscii = ((seen | bits << 8) & 0x8080'8080'8080'8080) == 0;
   }
   result.truncate(out - outBegin);
   return result;

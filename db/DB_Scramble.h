@@ -7,11 +7,15 @@
 /// '!' as padding. It keeps texts from being read at a glance and is no encryption.
 namespace DB_Scramble {
 
+struct Findings {
+  bool mIsWhole = false; ///< the text is one that `scramble` makes: whole groups, and nothing behind the padding
+  bool mIsAscii = false; ///< no byte of the result is above 127
+};
+
 [[nodiscard]] QByteArray scramble(QByteArrayView plain);
 
 /// Stops at the first '!' or any other character that is not of the alphabet; a last group of two or three characters
-/// yields one or two bytes, a single left-over character none. `isWhole`, if given, tells whether the text is one that
-/// `scramble` makes: whole groups, and nothing behind the padding.
-[[nodiscard]] QByteArray unscramble(QByteArrayView scrambled, bool* isWhole = nullptr);
+/// yields one or two bytes, a single left-over character none.
+[[nodiscard]] QByteArray unscramble(QByteArrayView scrambled, Findings* findings = nullptr);
 
 } // namespace DB_Scramble

@@ -199,13 +199,13 @@ bool ProjectDatabase::tableExists(const QByteArray& name) {
 }
 
 QByteArray ProjectDatabase::rowData(DB_Table table, QByteArrayView scrambled) {
-  bool isWhole = false;
-  QByteArray data = DB_Scramble::unscramble(scrambled, &isWhole);
+  DB_Scramble::Findings findings;
+  QByteArray data = DB_Scramble::unscramble(scrambled, &findings);
   if (!data.contains(DB_Data_Reader::cKeyEnd)) {
     mReport.addLostRow(table);
     return {};
   }
-  if (!isWhole || !data.endsWith(DB_Data_Reader::cValueEnd) || !data.isValidUtf8()) {
+  if (!findings.mIsWhole || !data.endsWith(DB_Data_Reader::cValueEnd) || !(findings.mIsAscii || data.isValidUtf8())) {
     mReport.addPartialRow(table);
   }
   return data;

@@ -6,11 +6,13 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const QByteArrayView input(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-  bool isWhole = false;
-  const QByteArray plain = DB_Scramble::unscramble(input, &isWhole);
+  DB_Scramble::Findings findings;
+  const QByteArray plain = DB_Scramble::unscramble(input, &findings);
   const QByteArray scrambled = DB_Scramble::scramble(plain);
-  bool isAgainWhole = false;
-  const bool isSame = DB_Scramble::unscramble(scrambled, &isAgainWhole) == plain && isAgainWhole;
+  DB_Scramble::Findings again;
+  const bool isSame = DB_Scramble::unscramble(scrambled, &again) == plain && again.mIsWhole &&
+                      (!findings.mIsAscii || again.mIsAscii) &&
+                      (!findings.mIsWhole || scrambled.size() == input.size());
   // Whole groups are what the scrambling would have made of them.
   const qsizetype wholeGroups = plain.size() / 3 * 4;
   const bool isLike = input.first(wholeGroups) == QByteArrayView(scrambled).first(wholeGroups);

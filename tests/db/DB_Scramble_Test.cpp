@@ -13,15 +13,17 @@ private slots:
     const QRegularExpression form(QStringLiteral("^[A-Za-z0-9+/]*!{0,2}$"));
     for (int size = 0; size <= 300; ++size) {
       QByteArray plain(size, '\0');
-      std::generate(plain.begin(), plain.end(), [&random] { return static_cast<char>(random.bounded(256)); });
+      std::generate(plain.begin(), plain.end(),
+                    [&random, size] { return static_cast<char>(random.bounded(size % 2 ? 128 : 256)); });
       const QByteArray scrambled = DB_Scramble::scramble(plain);
       QCOMPARE(scrambled.size(), (size + 2) / 3 * 4);
       QVERIFY2(form.match(QString::fromLatin1(scrambled)).hasMatch(), scrambled);
       QCOMPARE(scrambled.count('!'), (3 - size % 3) % 3);
       QVERIFY(size < 3 || scrambled != plain.toBase64());
-      bool isWhole = false;
-      QCOMPARE(DB_Scramble::unscramble(scrambled, &isWhole), plain);
-      QVERIFY(isWhole);
+      DB_Scramble::Findings findings;
+      QCOMPARE(DB_Scramble::unscramble(scrambled, &findings), plain);
+      QVERIFY(findings.mIsWhole);
+      QCOMPARE(findings.mIsAscii, std::none_of(plain.cbegin(), plain.cend(), [](char c) { return c & 0x80; }));
     }
   }
 
@@ -45,9 +47,9 @@ private slots:
                             {six.first(7), "abcde", false},
                             {six.first(5), "abc", false},
                             {six.first(5) + '!', "abc", false}}) {
-      bool isWhole = !row.mIsWhole;
-      QCOMPARE(DB_Scramble::unscramble(row.mScrambled, &isWhole), row.mPlain);
-      QCOMPARE(isWhole, row.mIsWhole);
+      DB_Scramble::Findings findings;
+      QCOMPARE(DB_Scramble::unscramble(row.mScrambled, &findings), row.mPlain);
+      QCOMPARE(findings.mIsWhole, row.mIsWhole);
     }
   }
 };
