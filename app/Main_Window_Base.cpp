@@ -133,7 +133,9 @@ void Main_Window_Base::showAddresses() {
 }
 
 void Main_Window_Base::showInfo(const QString& text) {
-  statusBar()->showMessage(text, cInfoMs);
+  // A path gives way in the middle: its end says which file it is.
+  const int width = statusBar()->width() - 2 * fontMetrics().height();
+  statusBar()->showMessage(fontMetrics().elidedText(text, Qt::ElideMiddle, width), cInfoMs);
 }
 
 void Main_Window_Base::updateTitle() {

@@ -55,9 +55,8 @@ Start_Page::Start_Page(const QList<QAction*>& actions, QWidget* parent)
   title->addWidget(mark);
   title->addWidget(Page_Parts::makeHeading(QStringLiteral("Quarna-Studio")), 1);
   column->addLayout(title);
-  QHBoxLayout* const steps = Page_Parts::makeButtons(actions);
-  steps->insertWidget(0, mBack);
-  column->addLayout(steps);
+  column->addWidget(mBack, 0, Qt::AlignLeft);
+  column->addLayout(Page_Parts::makeButtons(actions));
   column->addWidget(Page_Parts::makeHeading(tr("Zuletzt geöffnet")));
   column->addWidget(mRecentHint);
   column->addWidget(mRecent, 100);
