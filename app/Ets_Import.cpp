@@ -1,12 +1,12 @@
 #include "app/Ets_Import.h"
 
+#include "base/Decimal_Text.h"
 #include "db/Address_Import.h"
 #include "db/Ets_Xml_Reader.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 
 namespace {
 
@@ -16,23 +16,20 @@ QString tr(const char* text) {
   return QCoreApplication::translate("Ets_Import", text);
 }
 
-QString number(qsizetype value) {
-  return QLocale().toString(static_cast<qlonglong>(value));
-}
-
 QString report(const QString& name, const Address_Import::Result& result, const Ets_Groups& groups) {
-  QStringList lines{tr("Neue Gruppenadressen aus \"%1\": %2.").arg(name, number(result.mAdded))};
+  QStringList lines{tr("Neue Gruppenadressen aus \"%1\": %2.").arg(name, Decimal_Text::count(result.mAdded))};
   if (result.mExisting > 0) {
-    lines.append(tr("Schon vorhanden und unverändert: %1.").arg(number(result.mExisting)));
+    lines.append(tr("Schon vorhanden und unverändert: %1.").arg(Decimal_Text::count(result.mExisting)));
   }
   if (result.mRepeated > 0) {
-    lines.append(tr("In der Datei mehrfach genannt, der erste Eintrag zählt: %1.").arg(number(result.mRepeated)));
+    lines.append(
+        tr("In der Datei mehrfach genannt, der erste Eintrag zählt: %1.").arg(Decimal_Text::count(result.mRepeated)));
   }
   if (groups.mFaultCount > 0) {
-    lines.append({QString(), tr("Nicht übernommen: %1.").arg(number(groups.mFaultCount))});
+    lines.append({QString(), tr("Nicht übernommen: %1.").arg(Decimal_Text::count(groups.mFaultCount))});
     lines.append(groups.mFaults.first(qMin(groups.mFaults.size(), cShownFaults)));
     if (groups.mFaultCount > cShownFaults) {
-      lines.append(tr("… und %1 weitere.").arg(number(groups.mFaultCount - cShownFaults)));
+      lines.append(tr("… und %1 weitere.").arg(Decimal_Text::count(groups.mFaultCount - cShownFaults)));
     }
   }
   return lines.join(u'\n');

@@ -1,6 +1,7 @@
 #include "app/Geo_Position_Dlg.h"
 
 #include "base/Decimal_Text.h"
+#include "db/DB_Project.h"
 #include "ui/Theme.h"
 
 #include <QDialogButtonBox>
@@ -14,8 +15,6 @@
 
 namespace {
 
-constexpr double cLatitudeMax = 90;
-constexpr double cLongitudeMax = 180;
 constexpr int cFieldWidth = 220;
 
 } // namespace
@@ -24,17 +23,15 @@ Geo_Position_Dlg::Field Geo_Position_Dlg::makeField(double value, double maximum
   const Field field{maximum, new QLineEdit(Decimal_Text::print(value)), new QLabel};
   field.mEdit->setMinimumWidth(cFieldWidth);
   field.mEdit->setToolTip(toolTip);
-  QPalette palette = field.mReason->palette();
-  palette.setColor(QPalette::WindowText, Theme::color(Theme::Role::ErrorText));
-  field.mReason->setPalette(palette);
+  Theme::setTextRole(*field.mReason, Theme::Role::ErrorText);
   connect(field.mEdit, &QLineEdit::textChanged, this, &Geo_Position_Dlg::checkAll);
   return field;
 }
 
 Geo_Position_Dlg::Geo_Position_Dlg(double latitude, double longitude, QWidget* parent)
     : QDialog(parent),
-      mLatitude(makeField(latitude, cLatitudeMax, tr("-90 bis 90 Grad, Norden positiv"))),
-      mLongitude(makeField(longitude, cLongitudeMax, tr("-180 bis 180 Grad, Osten positiv"))) {
+      mLatitude(makeField(latitude, DB_Project::cLatitudeMax, tr("-90 bis 90 Grad, Norden positiv"))),
+      mLongitude(makeField(longitude, DB_Project::cLongitudeMax, tr("-180 bis 180 Grad, Osten positiv"))) {
   setWindowTitle(tr("Geographische Position"));
 
   auto* const form = new QFormLayout;

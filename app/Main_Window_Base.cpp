@@ -61,7 +61,6 @@ void Main_Window_Base::buildContents(const QList<QAction*>& startActions, const 
   mSplitterMain->setStretchFactor(1, cSecondStretch);
   // Sizes are shares here: the splitter brings them to its own size.
   mSplitterMain->setSizes({cFirstStretch * cDefaultWidth, cSecondStretch * cDefaultWidth});
-  mPageView->splitter()->setSizes({cDefaultHeight, 3 * cDefaultHeight});
   setCentralWidget(mSplitterMain);
 
   for (auto* const bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly)) {

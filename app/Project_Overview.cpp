@@ -1,6 +1,7 @@
 #include "app/Project_Overview.h"
 
 #include "app/Page_Parts.h"
+#include "base/Decimal_Text.h"
 #include "db/Project_Session.h"
 #include "ui/Elided_Label.h"
 #include "ui/Theme.h"
@@ -12,14 +13,6 @@
 #include <QLabel>
 #include <QLocale>
 #include <QVBoxLayout>
-
-namespace {
-
-QString number(qsizetype value) {
-  return QLocale().toString(static_cast<qlonglong>(value));
-}
-
-} // namespace
 
 Project_Overview::Project_Overview(Project_Session& session, const QList<QAction*>& actions, QWidget* parent)
     : QWidget(parent),
@@ -72,9 +65,7 @@ QLabel* Project_Overview::addRow(QFormLayout& form, const QString& caption) {
 
 void Project_Overview::addRow(QFormLayout& form, const QString& caption, QLabel* value) {
   auto* const label = new QLabel(caption);
-  QPalette colours = label->palette();
-  colours.setColor(QPalette::WindowText, Theme::color(Theme::Role::SecondaryText));
-  label->setPalette(colours);
+  Theme::setTextRole(*label, Theme::Role::SecondaryText);
   form.addRow(label, value);
 }
 
@@ -88,15 +79,16 @@ void Project_Overview::refresh() {
   mSaved->setText(project.mTimestamp > 0
                       ? locale.toString(QDateTime::fromSecsSinceEpoch(project.mTimestamp), QLocale::ShortFormat)
                       : tr("noch nie"));
-  mLogicPages->setText(
-      tr("%1 (Bausteine: %2)").arg(number(database.mFbPages.pages().size()), number(database.mFbPages.childCount())));
-  mVisuPages->setText(
-      tr("%1 (Elemente: %2)")
-          .arg(number(database.mWidgetPages.pages().size()), number(database.mWidgetPages.childCount())));
+  mLogicPages->setText(tr("%1 (Bausteine: %2)")
+                           .arg(Decimal_Text::count(database.mFbPages.pages().size()),
+                                Decimal_Text::count(database.mFbPages.childCount())));
+  mVisuPages->setText(tr("%1 (Elemente: %2)")
+                          .arg(Decimal_Text::count(database.mWidgetPages.pages().size()),
+                               Decimal_Text::count(database.mWidgetPages.childCount())));
   const Address_Tree& tree = database.mAddresses;
-  mAddresses->setText(
-      tr("%1 (Hauptgruppen: %2, Mittelgruppen: %3)")
-          .arg(number(tree.subGroupCount()), number(tree.mainGroups().size()), number(tree.middleGroupCount())));
+  mAddresses->setText(tr("%1 (Hauptgruppen: %2, Mittelgruppen: %3)")
+                          .arg(Decimal_Text::count(tree.subGroupCount()), Decimal_Text::count(tree.mainGroups().size()),
+                               Decimal_Text::count(tree.middleGroupCount())));
   const bool isPlaced = project.mGeopos_Latitude != 0 || project.mGeopos_Longitude != 0;
   mPosition->setText(isPlaced ? tr("%1° Breite, %2° Länge")
                                     .arg(locale.toString(project.mGeopos_Latitude, 'f', 4),

@@ -30,3 +30,7 @@ QString Decimal_Text::print(double value) {
   }
   return text.endsWith(locale.decimalPoint()) ? text.chopped(1) : text;
 }
+
+QString Decimal_Text::count(qsizetype value) {
+  return QLocale().toString(static_cast<qlonglong>(value));
+}

@@ -30,12 +30,6 @@ struct DB_Address_Binding {
   bool mWrite = true;
   bool mActive = true;
 
-  [[nodiscard]] bool isBound() const { return mKind != Kind::None; }
-  /// Two bindings meet when both are bound to the same key.
-  [[nodiscard]] bool isSameAs(const DB_Address_Binding& other) const {
-    return isBound() && mKind == other.mKind && mKey == other.mKey;
-  }
-
   /// Takes over kind, key and everything that is cached of a group address.
   void bindTo(const DB_Address_Sub_Group& group, const Group_Address& address);
 

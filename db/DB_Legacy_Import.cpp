@@ -74,7 +74,7 @@ bool DB_Legacy_Import::convert(DB_Sqlite& database, const QString& path) {
       continue;
     }
     std::printf("DB IMPORT DATABASE %s...", row.mName);
-    const QByteArray table = QByteArray("`") + row.mName + '`';
+    const QByteArray table = DB_Tables::quoted(row.mTable);
     isOk = database.execute(QByteArray("ALTER TABLE `") + row.mPlainName + "` RENAME TO " + table) && isOk;
     if (row.mTable != DB_Table::Resources) {
       isOk = scrambleRows(database, table) && isOk;

@@ -91,16 +91,6 @@ public:
 
   Child* appendChild(std::unique_ptr<Child> child) { return insertChild(-1, std::move(child)); }
 
-  std::unique_ptr<Child> takeChild(const QUuid& guid) {
-    Child* const found = child(guid);
-    if (!found) {
-      return nullptr;
-    }
-    mChildByGuid.remove(guid);
-    DB_Children<Child>& siblings = page(found->mPageGuid)->mChildren;
-    return siblings.take(siblings.indexOf(found));
-  }
-
   /// Applies `change` to the page's record, which must keep its GUID, and tells.
   template <class Change>
   bool changePage(const QUuid& guid, Change&& change) {

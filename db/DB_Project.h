@@ -21,6 +21,9 @@ struct DB_Controller {
 /// The project's header: what the file is, who made it, where the building stands, on which controllers it runs.
 class DB_Project : public DB_Record<DB_Project> {
 public:
+  static constexpr double cLatitudeMax = 90;   ///< degrees, to either side
+  static constexpr double cLongitudeMax = 180; ///< degrees, to either side
+
   void fields(DB_Fields& fields) override;
 
   QString mVersion;             ///< of the studio that saved last, a decimal number

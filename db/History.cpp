@@ -71,12 +71,10 @@ void History::leaveScope() {
   }
 }
 
+/// Of an entry that modified a record and left it at its place.
 bool History::isWithoutEffect(const Entry& entry) {
-  if (entry.mKind != Kind::Modified) {
-    return false;
-  }
   const std::unique_ptr<DB_Data_Base> present = entry.mOwner->find(entry.mId);
-  return present && entry.mPlace == entry.mOwner->placeOf(entry.mId) && entry.mOwner->isEqual(*entry.mRecord, *present);
+  return present && entry.mOwner->isEqual(*entry.mRecord, *present);
 }
 
 /// Of an owner whose order changed every entry stays: a record may be back at its place only because others moved.

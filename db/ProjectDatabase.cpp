@@ -26,6 +26,10 @@ bool ProjectDatabase::fail(const QString& text) {
   return false;
 }
 
+bool ProjectDatabase::requireOpen() {
+  return mDatabase.isOpen() || fail(QStringLiteral("Database not open"));
+}
+
 void ProjectDatabase::close() {
   for (const Single& single : singles()) {
     single.mRecord->clearData();
@@ -187,10 +191,7 @@ void ProjectDatabase::createTables(DB_Sqlite& database) {
 
 bool ProjectDatabase::execute(const QByteArray& sql) {
   mLastError.clear();
-  if (!mDatabase.isOpen()) {
-    return fail(QStringLiteral("Database not open"));
-  }
-  return mDatabase.execute(sql) || fail(mDatabase.errorText());
+  return requireOpen() && (mDatabase.execute(sql) || fail(mDatabase.errorText()));
 }
 
 bool ProjectDatabase::tableExists(const QByteArray& name) {

@@ -151,6 +151,7 @@ private:
   [[nodiscard]] DB_Statement prepareInsert(DB_Table table);
   bool writeRow(DB_Statement& insert, const QByteArray& data);
   bool fail(const QString& text);
+  bool requireOpen();
   bool checkResourceName(const QString& name);
   bool deleteResource(const QString& name);
   void tellDeleted();

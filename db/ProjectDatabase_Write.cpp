@@ -37,8 +37,8 @@ bool ProjectDatabase::emptyTable(DB_Table table) {
 }
 
 bool ProjectDatabase::writeSingle(DB_Table table, const DB_Data_Base& record) {
-  if (!mDatabase.isOpen()) {
-    return fail(QStringLiteral("Database not open"));
+  if (!requireOpen()) {
+    return false;
   }
   if (!mDatabase.isInTransaction()) {
     return false;
@@ -103,8 +103,8 @@ bool ProjectDatabase::recordWriteAll(bool stampTime) {
   if (mFileName.isEmpty()) {
     return fail(QStringLiteral("Empty Filename"));
   }
-  if (!mDatabase.isOpen()) {
-    return fail(QStringLiteral("Database not open"));
+  if (!requireOpen()) {
+    return false;
   }
   mLastError.clear();
   if (!rebuild()) {
@@ -193,8 +193,8 @@ bool ProjectDatabase::ressourceWriteRaw(const QString& name, const QByteArray& b
 
 bool ProjectDatabase::ressourceReadRaw(const QString& name, QByteArray& bytes) {
   bytes.clear();
-  if (!mDatabase.isOpen()) {
-    return fail(QStringLiteral("Database not open"));
+  if (!requireOpen()) {
+    return false;
   }
   DB_Statement select = mDatabase.prepare("SELECT DATA FROM " + quoted(DB_Table::Resources) + " WHERE FILENAME = ?");
   const QByteArray nameBytes = name.toUtf8();
@@ -229,8 +229,8 @@ void ProjectDatabase::tellDeleted() {
 }
 
 bool ProjectDatabase::ressourceDelete(const QString& name) {
-  if (!mDatabase.isOpen()) {
-    return fail(QStringLiteral("Database not open"));
+  if (!requireOpen()) {
+    return false;
   }
   mLastError.clear();
   if (!rebuild() || !deleteResource(name)) {
@@ -241,8 +241,8 @@ bool ProjectDatabase::ressourceDelete(const QString& name) {
 }
 
 bool ProjectDatabase::ressourceDeleteAll() {
-  if (!mDatabase.isOpen()) {
-    return fail(QStringLiteral("Database not open"));
+  if (!requireOpen()) {
+    return false;
   }
   mLastError.clear();
   if (!rebuild() || !emptyTable(DB_Table::Resources)) {
@@ -254,8 +254,8 @@ bool ProjectDatabase::ressourceDeleteAll() {
 
 bool ProjectDatabase::ressourceList(QStringList& names) {
   names.clear();
-  if (!mDatabase.isOpen()) {
-    return fail(QStringLiteral("Database not open"));
+  if (!requireOpen()) {
+    return false;
   }
   // Without the order the engine walks the index of the names.
   DB_Statement select = mDatabase.prepare("SELECT FILENAME FROM " + quoted(DB_Table::Resources) + " ORDER BY rowid");

@@ -80,13 +80,11 @@ Edit_Result Project_Edits::renamePage(Project_Session& session, const QUuid& gui
 }
 
 Edit_Result Project_Edits::setGeoposition(Project_Session& session, double latitude, double longitude) {
-  constexpr double cLatitudeMax = 90;
-  constexpr double cLongitudeMax = 180;
   // Written so that what is no number is refused too.
-  if (!(latitude >= -cLatitudeMax && latitude <= cLatitudeMax)) {
+  if (!(latitude >= -DB_Project::cLatitudeMax && latitude <= DB_Project::cLatitudeMax)) {
     return Edit_Result::refused(tr("Die geographische Breite muss zwischen -90 und 90 Grad liegen."));
   }
-  if (!(longitude >= -cLongitudeMax && longitude <= cLongitudeMax)) {
+  if (!(longitude >= -DB_Project::cLongitudeMax && longitude <= DB_Project::cLongitudeMax)) {
     return Edit_Result::refused(tr("Die geographische Länge muss zwischen -180 und 180 Grad liegen."));
   }
   Edit_Scope scope(session.history(), tr("Geographische Position"));

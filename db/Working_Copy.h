@@ -38,7 +38,6 @@ public:
   /// Deletes the working file, its journals and its lock.
   void release();
 
-  [[nodiscard]] bool isClaimed() const { return mLock != nullptr; }
   [[nodiscard]] QString path() const { return mPath; }
 
   /// Deletes a working file together with the journals that belong to it.

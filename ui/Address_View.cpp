@@ -1,6 +1,7 @@
 #include "ui/Address_View.h"
 
 #include "base/App_Settings.h"
+#include "base/Decimal_Text.h"
 #include "base/Session_State.h"
 #include "db/Address_Tree_Model.h"
 #include "db/Project_Session.h"
@@ -12,7 +13,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QShortcut>
 #include <QStackedLayout>
 #include <QStackedWidget>
@@ -27,7 +27,7 @@ constexpr int cNameWidth = 200;
 constexpr int cDescriptionWidth = 110;
 
 QString counted(qsizetype count, const QString& one, const QString& many) {
-  return count == 1 ? one : many.arg(QLocale().toString(count));
+  return count == 1 ? one : many.arg(Decimal_Text::count(count));
 }
 
 } // namespace
@@ -94,9 +94,7 @@ QWidget* Address_View::makeListPage() {
   mTreeOrHint->addWidget(mTree);
   mTreeOrHint->addWidget(mNoHit);
 
-  QPalette quiet = mCount->palette();
-  quiet.setColor(QPalette::WindowText, Theme::color(Theme::Role::SecondaryText));
-  mCount->setPalette(quiet);
+  Theme::setTextRole(*mCount, Theme::Role::SecondaryText);
   mCount->setTextFormat(Qt::PlainText);
   mCount->setIndent(cGap);
 
@@ -158,7 +156,7 @@ void Address_View::updateState() {
   if (mModel->isFiltered()) {
     mCount->setText(
         tr("%1 von %2")
-            .arg(QLocale().toString(mModel->shownSubGroupCount()), counted(subs, tr("1 Adresse"), tr("%1 Adressen"))));
+            .arg(Decimal_Text::count(mModel->shownSubGroupCount()), counted(subs, tr("1 Adresse"), tr("%1 Adressen"))));
   } else {
     mCount->setText(QStringList{counted(mains, tr("1 Hauptgruppe"), tr("%1 Hauptgruppen")),
                                 counted(tree.middleGroupCount(), tr("1 Mittelgruppe"), tr("%1 Mittelgruppen")),

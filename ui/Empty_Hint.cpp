@@ -15,9 +15,7 @@ Empty_Hint::Empty_Hint(QWidget* parent) : QWidget(parent), mLabel(new QLabel), m
   mLabel->setTextFormat(Qt::PlainText);
   mLabel->setWordWrap(true);
   mLabel->setAlignment(Qt::AlignCenter);
-  QPalette quiet = mLabel->palette();
-  quiet.setColor(QPalette::WindowText, Theme::color(Theme::Role::SecondaryText));
-  mLabel->setPalette(quiet);
+  Theme::setTextRole(*mLabel, Theme::Role::SecondaryText);
   mStep->hide();
   mStep->setAutoDefault(true);
   connect(mStep, &QPushButton::clicked, this, &Empty_Hint::stepRequested);

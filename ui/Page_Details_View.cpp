@@ -71,9 +71,7 @@ QLabel* Page_Details_View::addRow(const QString& text) {
   label->setWordWrap(true);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   auto* const name = new QLabel(text);
-  QPalette quiet = name->palette();
-  quiet.setColor(QPalette::WindowText, Theme::color(Theme::Role::SecondaryText));
-  name->setPalette(quiet);
+  Theme::setTextRole(*name, Theme::Role::SecondaryText);
   mForm->addRow(name, label);
   label->setAccessibleName(text);
   return label;

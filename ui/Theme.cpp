@@ -148,6 +148,12 @@ QIcon Theme::icon(const QString& name) {
   return icon;
 }
 
+void Theme::setTextRole(QWidget& label, Role role) {
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText, color(role));
+  label.setPalette(palette);
+}
+
 void Theme::apply(QApplication& application) {
   QApplication::setStyle(new Theme_Style);
   const QPalette palette = darkPalette();

@@ -6,6 +6,7 @@
 #include <QString>
 
 class QApplication;
+class QWidget;
 
 /// How the studio looks: the one place that names colours and loads icons.
 namespace Theme {
@@ -47,6 +48,9 @@ enum class Role {
 Q_ENUM_NS(Role)
 
 [[nodiscard]] QColor color(Role role);
+
+/// Colours the texts of a label.
+void setTextRole(QWidget& label, Role role);
 
 /// The icon ":/icons/NAME.png", `name` without path and ending, with a paler picture for what is disabled. A null icon,
 /// and a warning in the log, when there is none of that name.
