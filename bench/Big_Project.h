@@ -101,8 +101,7 @@ private:
     if (i % 2 == 0) {
       group->mDescription = QStringLiteral("Verteiler UV%1, Kanal %2, geprüft").arg(i / 64).arg(i % 64);
     }
-    group->mDptMain = datapoint.mMain;
-    group->mDptSub = datapoint.mSub;
+    group->mDpt = {datapoint.mMain, datapoint.mSub};
     group->mDptRaw = QStringLiteral("DPST-%1-%2").arg(datapoint.mMain).arg(datapoint.mSub);
     group->mReadAtStart = i % 3 == 0;
     group->mSecurity = QStringLiteral("Auto");
@@ -154,7 +153,7 @@ private:
     variable.mKind = DB_Address_Binding::Kind::Internal;
     variable.mKey = nextGuid();
     variable.mName = QStringLiteral("Merker %1").arg(i);
-    variable.mDptMain = 1;
+    variable.mDpt.mMain = 1;
     mStore.mFbPages.appendChild(std::move(block));
   }
 

@@ -104,8 +104,8 @@ public:
     group->mNumber = from.mAddress.sub();
     group->mName = from.mName;
     group->mDescription = from.mDescription;
-    group->mDptMain = from.mDptMain;
-    group->mDptSub = from.mDptSub;
+    group->mDpt = from.mDpt;
+    group->mDptGuessed = from.mDptGuessed;
     group->mDptRaw = from.mDpts;
     group->mCentral = from.mCentral;
     group->mUnfiltered = from.mUnfiltered;

@@ -21,14 +21,6 @@ QString inOneLine(const QString& text) {
   return hasBreak ? text.simplified() : text;
 }
 
-QString datapointType(const DB_Address_Sub_Group& group) {
-  if (group.mDptMain <= 0) {
-    return {};
-  }
-  const QString main = QString::number(group.mDptMain);
-  return group.mDptSub > 0 ? QStringLiteral("%1.%2").arg(main).arg(group.mDptSub, 3, 10, QLatin1Char('0')) : main;
-}
-
 template <class Group>
 QString ownText(const Group& group, int column) {
   switch (column) {
@@ -141,7 +133,7 @@ QString Address_Tree_Model::textOf(const Node& node, int column) {
   if (column == cAddress) {
     return Group_Address(node.mParent->mParent->mNumber, node.mParent->mNumber, node.mNumber).toString();
   }
-  return column == cDatapointType ? datapointType(sub) : ownText(sub, column);
+  return column == cDatapointType ? sub.mDpt.toString() : ownText(sub, column);
 }
 
 const Address_Tree_Model::Node* Address_Tree_Model::nodeOf(const QModelIndex& index) {

@@ -11,8 +11,7 @@ void DB_Address_Binding::bindTo(const DB_Address_Sub_Group& group, const Group_A
   mSub = address.sub();
   mName = group.mName;
   mDescription = group.mDescription;
-  mDptMain = group.mDptMain;
-  mDptSub = group.mDptSub;
+  mDpt = group.mDpt;
   mDptRaw = group.mDptRaw;
   mReadAtStart = group.mReadAtStart;
   mReadCyclic = group.mReadCyclic;
@@ -31,8 +30,8 @@ void DB_Address_Binding::fields(DB_Fields& fields) {
   fields.number("mSub", mSub);
   fields.text("mAddressName", mName);
   fields.text("mDescription", mDescription);
-  fields.number("mDptMain", mDptMain);
-  fields.number("mDptSub", mDptSub);
+  fields.number("mDptMain", mDpt.mMain);
+  fields.number("mDptSub", mDpt.mSub, Datapoint_Id::cAnySub);
   fields.text("mDptRaw", mDptRaw);
   fields.flag("mReadAtStart", mReadAtStart);
   fields.flag("mReadCyclic", mReadCyclic);

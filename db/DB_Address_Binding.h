@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Datapoint_Id.h"
 #include "db/DB_Fields.h"
 
 #include <QString>
@@ -22,8 +23,7 @@ struct DB_Address_Binding {
   int mSub = 0;
   QString mName;
   QString mDescription;
-  int mDptMain = 0;
-  int mDptSub = 0;
+  Datapoint_Id mDpt;
   QString mDptRaw;
   bool mReadAtStart = false;
   bool mReadCyclic = false;

@@ -6,8 +6,8 @@ void DB_Address_Sub_Group::fields(DB_Fields& fields) {
   fields.number("mNumber", mNumber);
   fields.text("mName", mName);
   fields.text("mDescription", mDescription);
-  fields.number("mDptMain", mDptMain);
-  fields.number("mDptSub", mDptSub);
+  fields.number("mDptMain", mDpt.mMain);
+  fields.number("mDptSub", mDpt.mSub, Datapoint_Id::cAnySub);
   fields.text("mDptRaw", mDptRaw);
   fields.flag("mDptGuessed", mDptGuessed);
   fields.flag("mReadAtStart", mReadAtStart);

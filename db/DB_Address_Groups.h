@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Datapoint_Id.h"
 #include "db/DB_Children.h"
 #include "db/DB_Data_Base.h"
 
@@ -17,8 +18,7 @@ public:
   int mNumber = 0;  ///< 0..255
   QString mName;
   QString mDescription;
-  int mDptMain = 0;         ///< datapoint type main number, 0 for none (KNX Standard, 3/7/2 "Datapoint Types")
-  int mDptSub = 0;          ///< datapoint type sub number, 0 for any
+  Datapoint_Id mDpt;
   QString mDptRaw;          ///< the type as an import told it, such as "DPST-9-1" or a list of several
   bool mDptGuessed = false; ///< the type follows from the size alone
   bool mReadAtStart = false;

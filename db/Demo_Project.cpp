@@ -33,9 +33,7 @@ void addSubGroup(Address_Tree& tree, const QUuid& middleKey, const QJsonObject& 
   group->mNumber = number(from, "sub"_L1);
   group->mName = text(from, "name"_L1);
   group->mDescription = text(from, "description"_L1);
-  const QStringList type = text(from, "dpt"_L1).split(u'.');
-  group->mDptMain = type.value(0).toInt();
-  group->mDptSub = type.value(1).toInt();
+  group->mDpt = Datapoint_Id::parse(text(from, "dpt"_L1)).value_or(Datapoint_Id());
   tree.add(std::move(group));
 }
 

@@ -34,19 +34,9 @@ Ets_Groups::Style styleOf(const QString& text) {
 void readDpts(Ets_Groups::Address& address) {
   QString list = address.mDpts;
   const QStringList types = list.replace(u',', u' ').split(u' ', Qt::SkipEmptyParts);
-  const QStringList parts = types.isEmpty() ? QStringList() : types.last().split(u'-');
-  if (parts.size() < 2 || (parts[0] != u"DPST" && parts[0] != u"DPT")) {
-    return;
+  if (!types.isEmpty() && types.last().startsWith(u"DP", Qt::CaseInsensitive)) {
+    address.mDpt = Datapoint_Id::parse(types.last()).value_or(Datapoint_Id());
   }
-  constexpr int cDptMax = 65535;
-  bool ok = false;
-  const int main = parts[1].toInt(&ok);
-  if (!ok || main < 1 || main > cDptMax) {
-    return;
-  }
-  address.mDptMain = main;
-  const int sub = parts.size() > 2 ? parts[2].toInt(&ok) : 0;
-  address.mDptSub = ok && sub > 0 && sub <= cDptMax ? sub : 0;
 }
 
 /// Walks the elements of one file.
@@ -128,6 +118,7 @@ private:
       return;
     }
     address.mAddress = *parsed;
+    address.mLine = static_cast<int>(mXml.lineNumber());
     address.mStyle = styleOf(address.mText);
     address.mRangePath = mPaths.last();
     address.mName = attribute(attributes, u"Name");

@@ -54,13 +54,13 @@ private slots:
       Style mStyle;
       const char* mType;
     };
-    for (const Case& row : {Case{"Address='1/2/3' DPTs='DPST-9-1'", "1/2/3", Style::ThreeLevel, "9.1"},
-                            {"Address='1/258' DPTs='DPT-9'", "1/1/2", Style::TwoLevel, "9.0"},
-                            {"Address='2305'", "1/1/1", Style::Free, "0.0"},
-                            {"Address='0x1fa3'", "3/7/163", Style::Free, "0.0"},
-                            {"Address='1/0/0' DPTs='DPST-1-1,DPST-1-6'", "1/0/0", Style::ThreeLevel, "1.6"},
-                            {"Address='1/0/0' DPTs='DPST-1-1 DPT-5'", "1/0/0", Style::ThreeLevel, "5.0"},
-                            {"Address='1/0/0' DPTs='EIS 5'", "1/0/0", Style::ThreeLevel, "0.0"}}) {
+    for (const Case& row : {Case{"Address='1/2/3' DPTs='DPST-9-1'", "1/2/3", Style::ThreeLevel, "9.001"},
+                            {"Address='1/258' DPTs='DPT-9'", "1/1/2", Style::TwoLevel, "9"},
+                            {"Address='2305'", "1/1/1", Style::Free, ""},
+                            {"Address='0x1fa3'", "3/7/163", Style::Free, ""},
+                            {"Address='1/0/0' DPTs='DPST-1-1,DPST-1-6'", "1/0/0", Style::ThreeLevel, "1.006"},
+                            {"Address='1/0/0' DPTs='DPST-1-1 DPT-5'", "1/0/0", Style::ThreeLevel, "5"},
+                            {"Address='1/0/0' DPTs='EIS 5'", "1/0/0", Style::ThreeLevel, ""}}) {
       Ets_Groups groups;
       QString error;
       const QByteArray element =
@@ -70,7 +70,7 @@ private slots:
       const Ets_Groups::Address& read = groups.mAddresses[0];
       QCOMPARE(read.mAddress.toString(), row.mAddress);
       QCOMPARE(read.mStyle, row.mStyle);
-      QCOMPARE(QStringLiteral("%1.%2").arg(read.mDptMain).arg(read.mDptSub), row.mType);
+      QCOMPARE(read.mDpt.toString(), row.mType);
       QCOMPARE(read.mName, QStringLiteral("Licht & mehr"));
       QVERIFY(read.mCentral && !read.mUnfiltered);
     }

@@ -183,7 +183,7 @@ private:
     }
     scope.created(undo, made);
     scope.modified(undo, made);
-    tree.change(made, [](DB_Data_Base& record) { dynamic_cast<DB_Address_Sub_Group&>(record).mDptMain = 9; });
+    tree.change(made, [](DB_Data_Base& record) { dynamic_cast<DB_Address_Sub_Group&>(record).mDpt = {9, 1}; });
   }
 
   void renumberAndMove(int salt) {

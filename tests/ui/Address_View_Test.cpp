@@ -78,8 +78,7 @@ private:
     mRig->addAddress({1, 2, 3}, QStringLiteral("Licht Küche"));
     DB_Address_Sub_Group* const bath = mRig->addAddress({1, 2, 4}, QStringLiteral("Licht Bad"));
     bath->mDescription = QStringLiteral("Keller");
-    bath->mDptMain = 9;
-    bath->mDptSub = 1;
+    bath->mDpt = {9, 1};
     mRig->addAddress({1, 3, 0}, QStringLiteral("Jalousie"));
     mRig->addAddress({4, 0, 0}, QStringLiteral("Wind"));
     mRig->addAddress({4, 0, 1}, QStringLiteral("Regen"));
