@@ -1,0 +1,99 @@
+#pragma once
+
+#include "base/Datapoint_Id.h"
+#include "base/Group_Address.h"
+
+#include <QHash>
+#include <QString>
+#include <QUuid>
+
+#include <functional>
+#include <span>
+#include <vector>
+
+class ProjectDatabase;
+struct DB_Address_Binding;
+
+/// One place in the project that is bound to a group address or an internal variable.
+struct Address_Use {
+  enum class Place { Input, Output, Disable, Element };
+
+  Place mPlace = Place::Input;
+  int mIndex = 0; ///< of the pin, or of the element's binding; 0 for `Disable`
+  QUuid mPageGuid;
+  QUuid mOwnerGuid; ///< the block or element
+
+  friend bool operator==(const Address_Use&, const Address_Use&) = default;
+};
+
+/// Where the group addresses and internal variables of a project are used: a picture of the moment in which it was
+/// made, by one walk over all bindings of the logic pages and then of the visualisation pages, in their order.
+class Address_Usage {
+public:
+  /// An internal variable, as the first binding that carries its key tells it.
+  struct Variable {
+    QUuid mKey;
+    QString mName;
+    Datapoint_Id mDpt;
+  };
+
+  /// A binding to a group address that the project does not have (any more), with what is cached in it.
+  struct Invalid {
+    Address_Use mUse;
+    QUuid mKey; ///< may be null
+    Group_Address mAddress;
+    QString mName;
+  };
+
+  /// What a use is called, in the words of the user.
+  struct Use_Text {
+    QString mPage;  ///< "Programm 1"
+    QString mOwner; ///< "Und", or the name of the element
+    QString mPlace; ///< "Eingang 1"
+    /// "Programm 1 / Und: Eingang 1"
+    [[nodiscard]] QString toString() const;
+  };
+
+  /// What a type of blocks is called; may answer an empty text.
+  using Type_Name = std::function<QString(int type)>;
+
+  Address_Usage() = default;
+  explicit Address_Usage(const ProjectDatabase& database);
+
+  /// In the order of pages, blocks and pins; empty for what is nowhere used. Valid as long as this object.
+  [[nodiscard]] std::span<const Address_Use> uses(const QUuid& key) const;
+  [[nodiscard]] qsizetype count(const QUuid& key) const { return static_cast<qsizetype>(uses(key).size()); }
+
+  /// In the order in which they were first met.
+  [[nodiscard]] const std::vector<Variable>& variables() const { return mVariables; }
+  /// In the order of pages.
+  [[nodiscard]] const std::vector<Invalid>& invalid() const { return mInvalid; }
+
+  /// Of a use that is (still) in the project; what is gone has empty texts. A block without a title and a name of its
+  /// own is called like its type.
+  [[nodiscard]] static Use_Text text(const ProjectDatabase& database, const Address_Use& use,
+                                     const Type_Name& blockType = {});
+
+private:
+  /// The uses of one key: a part of `mUses`.
+  struct Range {
+    size_t mFirst = 0;
+    size_t mCount = 0;
+  };
+  struct Found {
+    size_t mRange;
+    Address_Use mUse;
+  };
+
+  template <class Visitor>
+  static void visit(const ProjectDatabase& database, const Visitor& onBinding);
+  void add(const ProjectDatabase& database, const DB_Address_Binding& binding, const Address_Use& use,
+           std::vector<Found>& found);
+  void sort(const std::vector<Found>& found);
+
+  QHash<QUuid, size_t> mRangeByKey;
+  std::vector<Range> mRanges;
+  std::vector<Address_Use> mUses; ///< those of one key beside each other
+  std::vector<Variable> mVariables;
+  std::vector<Invalid> mInvalid;
+};
