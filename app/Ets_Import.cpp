@@ -2,7 +2,7 @@
 
 #include "base/Decimal_Text.h"
 #include "db/Address_Import.h"
-#include "db/Ets_Xml_Reader.h"
+#include "db/Ets_Reader.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -48,7 +48,7 @@ Ets_Import::Outcome Ets_Import::run(Project_Session& session, const QString& pat
   }
   Ets_Groups groups;
   QString error;
-  if (!Ets_Xml_Reader::read(file, groups, error)) {
+  if (!Ets_Reader::read(file, {}, groups, error)) {
     return failed(error);
   }
   Address_Import::Result result;

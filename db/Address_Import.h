@@ -1,7 +1,7 @@
 #pragma once
 
 #include "db/Edit_Result.h"
-#include "db/Ets_Xml_Reader.h"
+#include "db/Ets_Groups.h"
 
 class Project_Session;
 

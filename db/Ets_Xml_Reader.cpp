@@ -1,70 +1,104 @@
 #include "db/Ets_Xml_Reader.h"
 
 #include "db/DB_Text.h"
+#include "db/Ets_Collector.h"
 
 #include <QCoreApplication>
+#include <QIODevice>
+#include <QLocale>
 #include <QXmlStreamReader>
 
 namespace {
 
 constexpr QStringView cNamespace = u"http://knx.org/xml/ga-export/01";
 constexpr int cNumberMax = 65535;
+constexpr int cAttributeLimit = 100;
+constexpr int cElementsPerProgress = 1000;
 
 QString tr(const char* text) {
-  return QCoreApplication::translate("Ets_Xml_Reader", text);
+  return QCoreApplication::translate("Ets_Reader", text);
 }
 
-QString attribute(const QXmlStreamAttributes& attributes, QStringView name) {
-  return DB_Text::singleLine(attributes.value(name.toString()).toString());
-}
-
-bool isTrue(const QString& text) {
+bool isTrue(QStringView text) {
   return text.compare(u"true", Qt::CaseInsensitive) == 0 || text == u"1";
 }
 
-Ets_Groups::Style styleOf(const QString& text) {
-  const qsizetype slashes = text.count(u'/');
-  if (slashes == 2) {
-    return Ets_Groups::Style::ThreeLevel;
+/// Hands the file to the parser and ends it early where a single token has no end: the parser would gather it whole.
+class Guarded_Device : public QIODevice {
+public:
+  Guarded_Device(QIODevice& source, Ets_Collector& collector) : mSource(source), mCollector(collector) {
+    open(ReadOnly | Unbuffered);
   }
-  return slashes == 1 ? Ets_Groups::Style::TwoLevel : Ets_Groups::Style::Free;
-}
 
-/// "DPST-9-1" or "DPT-9"; the last of a list divided by commas or blanks.
-void readDpts(Ets_Groups::Address& address) {
-  QString list = address.mDpts;
-  const QStringList types = list.replace(u',', u' ').split(u' ', Qt::SkipEmptyParts);
-  if (!types.isEmpty() && types.last().startsWith(u"DP", Qt::CaseInsensitive)) {
-    address.mDpt = Datapoint_Id::parse(types.last()).value_or(Datapoint_Id());
+  [[nodiscard]] bool isSequential() const override { return true; }
+  void onToken() { mInToken = 0; }
+
+protected:
+  qint64 readData(char* data, qint64 size) override {
+    if (mInToken > Ets_Xml_Reader::cTokenLimit) {
+      mCollector.setError(tr("Ein einzelnes Element der Datei ist länger als %1 Byte.")
+                              .arg(QLocale().toString(Ets_Xml_Reader::cTokenLimit)));
+    }
+    if (!mCollector.isOk()) {
+      return -1;
+    }
+    const qint64 count = mSource.read(data, size);
+    mInToken += qMax(count, qint64(0));
+    mPosition += qMax(count, qint64(0));
+    mCollector.checkSize(mPosition);
+    return count;
   }
-}
+  qint64 writeData(const char* /*data*/, qint64 /*size*/) override { return -1; }
+
+private:
+  QIODevice& mSource;
+  Ets_Collector& mCollector;
+  qint64 mInToken = 0;
+  qint64 mPosition = 0;
+};
 
 /// Walks the elements of one file.
 class Walker {
 public:
-  Walker(QIODevice& device, Ets_Groups& groups) : mXml(&device), mGroups(groups) {}
+  Walker(QIODevice& device, Ets_Collector& collector)
+      : mFile(device),
+        mDevice(device, collector),
+        mXml(&mDevice),
+        mCollector(collector) {}
 
-  bool run(QString& error) {
-    while (!mXml.atEnd() && mError.isEmpty()) {
+  bool run() {
+    while (!mXml.atEnd() && mCollector.isOk()) {
       const QXmlStreamReader::TokenType token = mXml.readNext();
+      mDevice.onToken();
       if (token == QXmlStreamReader::StartElement) {
         startElement();
       } else if (token == QXmlStreamReader::EndElement) {
         mPaths.removeLast();
       } else if (token == QXmlStreamReader::DTD) {
         // No export has one, and entities are the way to blow a small file up.
-        mError = tr("Die Datei enthält eine Dokumenttyp-Deklaration und wird nicht gelesen.");
+        mCollector.setError(tr("Die Datei enthält eine Dokumenttyp-Deklaration und wird nicht gelesen."));
       }
     }
-    if (mError.isEmpty() && mXml.hasError()) {
-      mError = tr("Die Datei ist kein lesbares XML (Zeile %1): %2").arg(mXml.lineNumber()).arg(mXml.errorString());
+    if (mXml.hasError()) {
+      mCollector.setError(errorText());
     }
-    error = mError;
-    return mError.isEmpty();
+    return mCollector.isOk();
   }
 
 private:
+  [[nodiscard]] QString errorText() const {
+    const qint64 line = mXml.lineNumber();
+    if (mXml.error() == QXmlStreamReader::PrematureEndOfDocumentError) {
+      return tr("Die Datei ist nicht vollständig: sie endet in Zeile %1 mitten im XML.").arg(line);
+    }
+    return tr("Die Datei ist kein lesbares XML: Zeile %1 ist fehlerhaft oder falsch kodiert.").arg(line);
+  }
+
   void startElement() {
+    if (!mCollector.countElement() ||
+        (mElements++ % cElementsPerProgress == 0 && !mCollector.progress(mFile.pos(), mFile.size()))) {
+      return;
+    }
     const QStringView name = mXml.name();
     const qsizetype depth = mPaths.size();
     QString path = mPaths.value(depth - 1);
@@ -72,85 +106,99 @@ private:
       const bool isOurs =
           name == u"GroupAddress-Export" && (mXml.namespaceUri().isEmpty() || mXml.namespaceUri() == cNamespace);
       if (!isOurs) {
-        mError = tr("Die Datei ist kein ETS-Export von Gruppenadressen.");
+        mCollector.setError(tr("Die Datei ist kein ETS-Export von Gruppenadressen."));
       }
     } else if (depth > Ets_Xml_Reader::cDepthLimit) {
-      mError = tr("Die Elemente sind tiefer als %1-fach verschachtelt (Zeile %2).")
-                   .arg(Ets_Xml_Reader::cDepthLimit)
-                   .arg(mXml.lineNumber());
+      mCollector.setError(tr("Die Elemente sind tiefer als %1-fach verschachtelt (Zeile %2).")
+                              .arg(Ets_Xml_Reader::cDepthLimit)
+                              .arg(mXml.lineNumber()));
     } else if (name == u"GroupRange") {
-      const QString rangeName = attribute(mXml.attributes(), u"Name");
-      path = path.isEmpty() ? rangeName : path + QStringLiteral(" / ") + rangeName;
-      range(static_cast<int>(depth) - 1);
+      range(static_cast<int>(depth) - 1, path);
     } else if (name == u"GroupAddress") {
-      address();
+      address(path);
     } else {
-      fault(tr("unbekanntes Element \"%1\"").arg(name.left(40).toString()));
+      mCollector.fault(mXml.lineNumber(), tr("unbekanntes Element \"%1\"").arg(name.left(40).toString()));
     }
     mPaths.append(path);
   }
 
-  void range(int depth) {
-    const QXmlStreamAttributes attributes = mXml.attributes();
+  void range(int depth, QString& path) {
     Ets_Groups::Range range;
-    range.mName = attribute(attributes, u"Name");
-    range.mDescription = attribute(attributes, u"Description");
+    range.mDepth = depth;
     bool isStartOk = false;
     bool isEndOk = false;
-    range.mStart = attributes.value(QStringLiteral("RangeStart")).toInt(&isStartOk);
-    range.mEnd = attributes.value(QStringLiteral("RangeEnd")).toInt(&isEndOk);
-    range.mDepth = depth;
+    for (const QXmlStreamAttribute& attribute : attributes()) {
+      const QStringView name = attribute.name();
+      const QStringView value = attribute.value();
+      if (name == u"Name") {
+        range.mName = DB_Text::singleLine(value.toString());
+      } else if (name == u"Description") {
+        range.mDescription = DB_Text::clean(value.toString());
+      } else if (name == u"RangeStart") {
+        range.mStart = value.toInt(&isStartOk);
+      } else if (name == u"RangeEnd") {
+        range.mEnd = value.toInt(&isEndOk);
+      }
+    }
+    path = path.isEmpty() ? range.mName : path + QStringLiteral(" / ") + range.mName;
+    // Every address below may keep it, and of nested long names it grows faster than the file.
+    if (!mCollector.countText(path.size())) {
+      return;
+    }
     if (!isStartOk || !isEndOk || range.mStart < 0 || range.mEnd > cNumberMax || range.mStart > range.mEnd) {
-      fault(tr("der Bereich \"%1\" hat keine gültigen Grenzen (0..65535)").arg(range.mName.left(40)));
+      mCollector.fault(mXml.lineNumber(),
+                       tr("der Bereich \"%1\" hat keine gültigen Grenzen (0..65535)").arg(range.mName.left(40)));
       return;
     }
-    mGroups.mRanges.push_back(range);
+    mCollector.addRange(range);
   }
 
-  void address() {
-    const QXmlStreamAttributes attributes = mXml.attributes();
+  void address(const QString& path) {
     Ets_Groups::Address address;
-    address.mText = attribute(attributes, u"Address");
-    QString error;
-    const std::optional<Group_Address> parsed = Group_Address::parse(address.mText, &error);
-    if (!parsed) {
-      fault(error);
-      return;
-    }
-    address.mAddress = *parsed;
     address.mLine = static_cast<int>(mXml.lineNumber());
-    address.mStyle = styleOf(address.mText);
-    address.mRangePath = mPaths.last();
-    address.mName = attribute(attributes, u"Name");
-    address.mDescription = attribute(attributes, u"Description");
-    address.mDpts = attribute(attributes, u"DPTs");
-    readDpts(address);
-    address.mCentral = isTrue(attribute(attributes, u"Central"));
-    address.mUnfiltered = isTrue(attribute(attributes, u"Unfiltered"));
-    address.mSecurity = attribute(attributes, u"Security");
-    mGroups.mAddresses.push_back(address);
-  }
-
-  void fault(const QString& text) {
-    ++mGroups.mFaultCount;
-    if (mGroups.mFaults.size() < Ets_Xml_Reader::cFaultLimit) {
-      mGroups.mFaults.append(tr("Zeile %1: %2").arg(mXml.lineNumber()).arg(text));
+    address.mRangePath = path;
+    for (const QXmlStreamAttribute& attribute : attributes()) {
+      const QStringView name = attribute.name();
+      const QStringView value = attribute.value();
+      if (name == u"Name") {
+        address.mName = DB_Text::singleLine(value.toString());
+      } else if (name == u"Address") {
+        address.mText = DB_Text::singleLine(value.toString());
+      } else if (name == u"Description") {
+        address.mDescription = DB_Text::clean(value.toString());
+      } else if (name == u"DPTs") {
+        address.mDpts = DB_Text::singleLine(value.toString());
+      } else if (name == u"Central") {
+        address.mCentral = isTrue(value);
+      } else if (name == u"Unfiltered") {
+        address.mUnfiltered = isTrue(value);
+      } else if (name == u"Security") {
+        address.mSecurity = DB_Text::singleLine(value.toString());
+      }
     }
+    mCollector.addAddress(std::move(address));
   }
 
+  QXmlStreamAttributes attributes() {
+    const QXmlStreamAttributes attributes = mXml.attributes();
+    // The parser compares each with each: of many such elements reading would take for ever.
+    if (attributes.size() > cAttributeLimit) {
+      mCollector.setError(
+          tr("Ein Element hat mehr als %1 Attribute (Zeile %2).").arg(cAttributeLimit).arg(mXml.lineNumber()));
+    }
+    return attributes;
+  }
+
+  QIODevice& mFile;
+  Guarded_Device mDevice;
   QXmlStreamReader mXml;
-  Ets_Groups& mGroups;
-  QString mError;
+  Ets_Collector& mCollector;
+  int mElements = 0;
   QStringList mPaths; ///< of each open element, the names of the ranges down to it
 };
 
 } // namespace
 
-bool Ets_Xml_Reader::read(QIODevice& device, Ets_Groups& groups, QString& error) {
-  groups = {};
-  const bool isOk = Walker(device, groups).run(error);
-  if (!isOk) {
-    groups = {};
-  }
-  return isOk;
+bool Ets_Xml_Reader::read(QIODevice& device, Ets_Collector& collector) {
+  return Walker(device, collector).run();
 }

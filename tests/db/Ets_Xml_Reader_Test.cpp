@@ -1,5 +1,5 @@
 #include "db/Address_Import.h"
-#include "db/Ets_Xml_Reader.h"
+#include "db/Ets_Reader.h"
 #include "tests/db/Project_Dump.h"
 #include "tests/db/Session_Rig.h"
 
@@ -19,7 +19,7 @@ bool readBytes(const QByteArray& bytes, Ets_Groups& groups, QString& error) {
   QBuffer buffer;
   buffer.setData(bytes);
   buffer.open(QIODevice::ReadOnly);
-  return Ets_Xml_Reader::read(buffer, groups, error);
+  return Ets_Reader::read(buffer, {}, groups, error);
 }
 
 /// The names of one kind of element, found over the raw tags.
@@ -88,7 +88,7 @@ private slots:
     QVERIFY(groups.mFaults[1].startsWith(QStringLiteral("Zeile 4:")));
     const QByteArray many = QByteArray("<GroupAddress Name='x' Address='y'/>\n").repeated(900);
     QVERIFY2(readBytes(cOpen + many + cClose, groups, error), qPrintable(error));
-    QCOMPARE(groups.mFaults.size(), Ets_Xml_Reader::cFaultLimit);
+    QCOMPARE(groups.mFaults.size(), Ets_Reader::cFaultLimit);
     QCOMPARE(groups.mFaultCount, 900);
   }
 
@@ -163,7 +163,7 @@ private slots:
       QVERIFY(file.open(QIODevice::ReadOnly));
       Ets_Groups groups;
       QString error;
-      QVERIFY2(Ets_Xml_Reader::read(file, groups, error), qPrintable(name + QStringLiteral(": ") + error));
+      QVERIFY2(Ets_Reader::read(file, {}, groups, error), qPrintable(name + QStringLiteral(": ") + error));
       QVERIFY2(groups.mFaults.isEmpty(), qPrintable(groups.mFaults.join(u'\n')));
       const auto namesOf = [](const auto& read) {
         QStringList names;
