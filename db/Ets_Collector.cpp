@@ -138,6 +138,12 @@ void Ets_Collector::finishGroups() {
   }
 }
 
+void Ets_Collector::refuseIfAllFaulty() {
+  if (mGroups.mAddresses.empty() && mGroups.mFaultCount > 0) {
+    setError(tr("Keine Zeile der Datei nennt eine Gruppenadresse. %1").arg(mGroups.mFaults.first()));
+  }
+}
+
 Datapoint_Id Ets_Collector::typeOf(const QString& dpts) {
   QString list = dpts;
   const QStringList types = list.replace(u',', u' ').split(u' ', Qt::SkipEmptyParts);

@@ -46,6 +46,9 @@ public:
   /// Makes the ranges of the named groups, and the range paths of all addresses.
   void finishGroups();
 
+  /// For formats of lines: an error when there are faults and not one address.
+  void refuseIfAllFaulty();
+
   /// The type of "DPST-9-1", "DPT-9" or "9.001", the last of a list divided by commas or blanks; none for other texts.
   [[nodiscard]] static Datapoint_Id typeOf(const QString& dpts);
 

@@ -1,0 +1,240 @@
+#include "db/Ets_Csv_Layout.h"
+
+#include "base/Group_Address.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+using Layout = Ets_Csv_Layout;
+
+/// Digits, or nothing or '-' for a level that the row does not name; empty for anything else.
+std::optional<int> levelOf(QStringView text) {
+  constexpr int cMostDigits = 4;
+  text = text.trimmed();
+  if (text.isEmpty() || text == u"-") {
+    return -1;
+  }
+  const bool isNumber = text.size() <= cMostDigits &&
+                        std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+  return isNumber ? std::optional(text.toInt()) : std::nullopt;
+}
+
+/// "1/-/-", "1/2/-", "1/-".
+std::optional<Layout::Place> groupOf(QStringView text) {
+  QList<int> levels;
+  for (const QStringView part : text.trimmed().split(u'/')) {
+    const std::optional<int> level = part.trimmed().isEmpty() ? std::nullopt : levelOf(part);
+    if (!level) {
+      return std::nullopt;
+    }
+    levels.append(*level);
+  }
+  const bool isGroup = (levels.size() == 2 || levels.size() == 3) && levels.last() < 0 && levels[0] >= 0 &&
+                       levels[0] <= Group_Address::cMainMax;
+  const int middle = levels.size() == 3 ? levels[1] : -1;
+  return isGroup && middle <= Group_Address::cMiddleMax ? std::optional(Layout::Place{{}, levels[0], middle})
+                                                        : std::nullopt;
+}
+
+bool isAddressCell(const QString& text) {
+  return text.contains(u'/') && (Group_Address::parse(text) || groupOf(text));
+}
+
+/// Names of columns, without blanks and in small letters.
+enum class Column { Name, Main, Middle, Sub, Address, Central, Unfiltered, Description, Dpt, Security };
+
+std::optional<Column> columnOf(const QString& title) {
+  static const QHash<QString, Column> columns = [] {
+    QHash<QString, Column> result;
+    const auto add = [&result](Column column, std::initializer_list<const char*> names) {
+      for (const char* const name : names) {
+        result.insert(QString::fromLatin1(name), column);
+      }
+    };
+    add(Column::Name, {"groupname", "gruppenname", "name"});
+    add(Column::Main, {"main", "maingroup", "haupt", "hauptgruppe"});
+    add(Column::Middle, {"middle", "middlegroup", "mittel", "mittelgruppe"});
+    add(Column::Sub, {"sub", "subgroup", "unter", "untergruppe"});
+    add(Column::Address, {"address", "groupaddress", "adresse", "gruppenadresse"});
+    add(Column::Central, {"central", "zentral"});
+    add(Column::Unfiltered, {"unfiltered", "ungefiltert"});
+    add(Column::Description, {"description", "beschreibung"});
+    add(Column::Dpt, {"datapointtype", "datenpunkttyp", "dpt"});
+    add(Column::Security, {"security", "sicherheit"});
+    return result;
+  }();
+  QString key = title.toLower();
+  key.removeIf([](QChar c) { return c.isSpace() || c == u'-' || c == u'_'; });
+  const auto at = columns.constFind(key);
+  return at == columns.constEnd() ? std::nullopt : std::optional(*at);
+}
+
+void set(int& column, int index) {
+  column = column < 0 ? index : column;
+}
+
+/// A level's title comes once for the names and, in the layout 3/3, once more for the numbers; beside one column of
+/// names it is that of the numbers.
+void setLevel(Layout& layout, size_t level, int& name, int index, bool hasName) {
+  if (!hasName && name < 0) {
+    name = index;
+  } else {
+    set(layout.mNumbers[level], index);
+  }
+}
+
+Layout ofHeader(const QStringList& titles) {
+  Layout layout;
+  const bool hasName =
+      std::any_of(titles.begin(), titles.end(), [](const QString& t) { return columnOf(t) == Column::Name; });
+  for (int i = 0; i < static_cast<int>(titles.size()); ++i) {
+    const std::optional<Column> column = columnOf(titles[i]);
+    if (!column) {
+      continue;
+    }
+    layout.mHasHeader = true;
+    switch (*column) {
+    case Column::Name:
+      set(layout.mName, i);
+      break;
+    case Column::Main:
+      setLevel(layout, 0, layout.mMain, i, hasName);
+      break;
+    case Column::Middle:
+      setLevel(layout, 1, layout.mMiddle, i, hasName);
+      break;
+    case Column::Sub:
+      setLevel(layout, 2, layout.mName, i, hasName);
+      break;
+    case Column::Address:
+      set(layout.mAddress, i);
+      break;
+    case Column::Central:
+      set(layout.mCentral, i);
+      break;
+    case Column::Unfiltered:
+      set(layout.mUnfiltered, i);
+      break;
+    case Column::Description:
+      set(layout.mDescription, i);
+      break;
+    case Column::Dpt:
+      set(layout.mDpt, i);
+      break;
+    case Column::Security:
+      set(layout.mSecurity, i);
+      break;
+    }
+  }
+  return layout;
+}
+
+bool hasAddresses(const Layout& layout) {
+  return layout.mAddress >= 0 || layout.mNumbers[2] >= 0;
+}
+
+/// The column with the most address cells; -1 when none has one.
+int addressColumn(const std::vector<QStringList>& rows) {
+  constexpr qsizetype cColumns = 16;
+  std::array<int, cColumns> counts{};
+  for (const QStringList& fields : rows) {
+    for (qsizetype i = 0; i < qMin(fields.size(), cColumns); ++i) {
+      counts[static_cast<size_t>(i)] += isAddressCell(fields[i]) ? 1 : 0;
+    }
+  }
+  const auto* const best = std::max_element(counts.begin(), counts.end());
+  return *best == 0 ? -1 : static_cast<int>(best - counts.begin());
+}
+
+/// Whether three columns hold the numbers of addresses: nothing else, and in some row all of them.
+bool areNumbers(const std::vector<QStringList>& rows, int first) {
+  bool hasAddress = false;
+  for (const QStringList& fields : rows) {
+    int named = 0;
+    for (int i = first; i < first + 3; ++i) {
+      const std::optional<int> level = levelOf(fields.value(i));
+      if (!level) {
+        return false;
+      }
+      named += *level >= 0 ? 1 : 0;
+    }
+    hasAddress = hasAddress || named == 3;
+  }
+  return hasAddress;
+}
+
+/// What follows the addresses, in the order of ETS.
+void setFurther(Layout& layout, int next) {
+  layout.mCentral = next;
+  layout.mUnfiltered = next + 1;
+  layout.mDescription = next + 2;
+  layout.mDpt = next + 3;
+  layout.mSecurity = next + 4;
+}
+
+std::optional<Layout> ofContent(const std::vector<QStringList>& rows) {
+  constexpr int cThree = 3;
+  Layout layout;
+  int next = addressColumn(rows);
+  if (next >= 0) {
+    layout.mAddress = next;
+    layout.mName = next > 0 ? next - 1 : 1;
+    layout.mMiddle = next >= cThree ? next - 2 : -1;
+    layout.mMain = next >= cThree ? next - cThree : next - 2;
+    setFurther(layout, qMax(next, layout.mName) + 1);
+    return layout;
+  }
+  for (const int first : {cThree, 1}) {
+    if (areNumbers(rows, first)) {
+      layout.mName = first - 1;
+      layout.mMain = first == cThree ? 0 : -1;
+      layout.mMiddle = first == cThree ? 1 : -1;
+      layout.mNumbers = {first, first + 1, first + 2};
+      setFurther(layout, first + cThree);
+      return layout;
+    }
+  }
+  return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Ets_Csv_Layout> Ets_Csv_Layout::of(const std::vector<QStringList>& rows) {
+  if (rows.empty()) {
+    return std::nullopt;
+  }
+  const bool isTitle = std::none_of(rows.front().begin(), rows.front().end(), isAddressCell);
+  const Layout titled = isTitle ? ofHeader(rows.front()) : Layout();
+  if (hasAddresses(titled)) {
+    return titled;
+  }
+  std::optional<Layout> layout = ofContent(titled.mHasHeader ? std::vector(rows.begin() + 1, rows.end()) : rows);
+  if (layout) {
+    layout->mHasHeader = titled.mHasHeader;
+  }
+  return layout;
+}
+
+std::optional<Ets_Csv_Layout::Place> Ets_Csv_Layout::placeOf(const QStringList& fields) const {
+  if (mAddress >= 0) {
+    const QString text = fields.value(mAddress).trimmed();
+    if (std::optional<Place> group = groupOf(text)) {
+      return group;
+    }
+    const std::optional<Group_Address> address = Group_Address::parse(text);
+    return address ? std::optional(Place{text, address->main(), address->middle()}) : std::nullopt;
+  }
+  std::array<int, 3> levels{};
+  for (size_t i = 0; i < levels.size(); ++i) {
+    levels[i] = levelOf(fields.value(mNumbers[i])).value_or(-2);
+  }
+  const auto [main, middle, sub] = levels;
+  const QString text = QStringLiteral("%1/%2/%3").arg(main).arg(middle).arg(sub);
+  if (sub >= 0) {
+    return Group_Address::parse(text) ? std::optional(Place{text, main, middle}) : std::nullopt;
+  }
+  return groupOf(QString(text).replace(QStringLiteral("-1"), QStringLiteral("-")));
+}

@@ -1,0 +1,55 @@
+#include "db/Ets_Write_Result.h"
+
+#include "db/DB_Address_Groups.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("Ets_Write_Result", text);
+}
+
+} // namespace
+
+void Ets_Write_Result::omit(const DB_Address_MainGroup& group) {
+  qsizetype addresses = 0;
+  for (const auto& middle : group.mMiddleGroups) {
+    addresses += middle->mSubGroups.size();
+  }
+  mLeftOut += static_cast<int>(addresses);
+  tell(tr("Hauptgruppe %1 \"%2\" mit %3 Gruppenadressen: auf dem Bus gibt es nur die Hauptgruppen 0 bis 31.")
+           .arg(group.mNumber)
+           .arg(group.mName)
+           .arg(addresses));
+}
+
+void Ets_Write_Result::omit(int main, const DB_Address_Middle_Group& group) {
+  mLeftOut += static_cast<int>(group.mSubGroups.size());
+  tell(tr("Mittelgruppe %1/%2 \"%3\" mit %4 Gruppenadressen: auf dem Bus gibt es nur die Mittelgruppen 0 bis 7.")
+           .arg(main)
+           .arg(group.mNumber)
+           .arg(group.mName)
+           .arg(group.mSubGroups.size()));
+}
+
+void Ets_Write_Result::omit(const Group_Address& address, const DB_Address_Sub_Group& group) {
+  ++mLeftOut;
+  tell(tr("%1 \"%2\": auf dem Bus gibt es nur die Untergruppen 0 bis 255.").arg(address.toString(), group.mName));
+}
+
+void Ets_Write_Result::omitRepeated(const Group_Address& address, const DB_Address_Sub_Group& group) {
+  ++mLeftOut;
+  tell(tr("%1 \"%2\": die Adresse ist im Projekt mehrfach vorhanden, die erste zählt.")
+           .arg(address.toString(), group.mName));
+}
+
+void Ets_Write_Result::omitEmpty(const QString& groupText, const QString& name) {
+  tell(tr("Gruppe %1 \"%2\": ohne Gruppenadressen kann dieses Format sie nicht nennen.").arg(groupText, name));
+}
+
+void Ets_Write_Result::tell(const QString& sentence) {
+  if (mOmitted.size() < cListLimit) {
+    mOmitted.append(sentence);
+  }
+}

@@ -1,0 +1,139 @@
+#include "db/Ets_Xml_Writer.h"
+
+#include "db/Address_Tree.h"
+#include "db/DB_Text.h"
+#include "db/Ets_Collector.h"
+#include "db/Ets_Text.h"
+
+#include <QIODevice>
+
+namespace {
+
+constexpr int cMainSpan = 2048;
+constexpr int cMiddleSpan = 256;
+
+QString escaped(const QString& text) {
+  // As ETS does; a plain line break in an attribute would be read as a blank.
+  return Ets_Text::permitted(DB_Text::clean(text))
+      .toHtmlEscaped()
+      .replace(u'\n', QStringLiteral("&#xA;"))
+      .replace(u'\t', QStringLiteral("&#x9;"));
+}
+
+QString attribute(const char* name, const QString& value) {
+  return QStringLiteral(" %1=\"%2\"").arg(QLatin1String(name), escaped(value));
+}
+
+QString optional(const char* name, const QString& value) {
+  return value.isEmpty() ? QString() : attribute(name, value);
+}
+
+QString flag(const char* name, bool isSet) {
+  return isSet ? attribute(name, QStringLiteral("true")) : QString();
+}
+
+QString dptsOf(const DB_Address_Sub_Group& group) {
+  const bool isSame =
+      group.mDptRaw.startsWith(u"DP") && !group.mDpt.isNone() && Ets_Collector::typeOf(group.mDptRaw) == group.mDpt;
+  return isSame ? group.mDptRaw : group.mDpt.toEtsText();
+}
+
+class Writer {
+public:
+  Writer(const Address_Tree& tree, Ets_Write_Result& result) : mTree(tree), mResult(result) {}
+
+  QByteArray run() {
+    line(0, QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\" standalone=\"yes\"?>"));
+    const qsizetype start = mText.size();
+    line(0, QStringLiteral("<GroupAddress-Export xmlns=\"http://knx.org/xml/ga-export/01\">"));
+    const qsizetype body = mText.size();
+    for (const auto& main : mTree.mainGroups()) {
+      if (main->mNumber < 0 || main->mNumber > Group_Address::cMainMax) {
+        mResult.omit(*main);
+      } else {
+        mainGroup(*main);
+      }
+    }
+    close(start, body, 0, QStringLiteral("GroupAddress-Export"));
+    // ETS ends the file with the tag.
+    return "\xef\xbb\xbf" + mText.chopped(2).toUtf8();
+  }
+
+private:
+  void mainGroup(const DB_Address_MainGroup& group) {
+    const qsizetype start = mText.size();
+    open(1, group.mName, group.mDescription, group.mNumber * cMainSpan, cMainSpan);
+    const qsizetype body = mText.size();
+    for (const auto& middle : group.mMiddleGroups) {
+      if (middle->mNumber < 0 || middle->mNumber > Group_Address::cMiddleMax) {
+        mResult.omit(group.mNumber, *middle);
+      } else {
+        middleGroup(group.mNumber, *middle);
+      }
+    }
+    close(start, body, 1, QStringLiteral("GroupRange"));
+  }
+
+  void middleGroup(int main, const DB_Address_Middle_Group& group) {
+    const qsizetype start = mText.size();
+    open(2, group.mName, group.mDescription, main * cMainSpan + group.mNumber * cMiddleSpan, cMiddleSpan);
+    const qsizetype body = mText.size();
+    for (const auto& sub : group.mSubGroups) {
+      const Group_Address address(main, group.mNumber, sub->mNumber);
+      if (!address.isOnBus()) {
+        mResult.omit(address, *sub);
+      } else if (mTree.subGroup(address) != sub.get()) {
+        mResult.omitRepeated(address, *sub);
+      } else {
+        subGroup(address, *sub);
+      }
+    }
+    close(start, body, 2, QStringLiteral("GroupRange"));
+  }
+
+  void subGroup(const Group_Address& address, const DB_Address_Sub_Group& group) {
+    line(3, QStringLiteral("<GroupAddress") + attribute("Name", group.mName) +
+                attribute("Address", address.toString()) + flag("Central", group.mCentral) +
+                flag("Unfiltered", group.mUnfiltered) + optional("Description", group.mDescription) +
+                optional("DPTs", dptsOf(group)) + optional("Security", group.mSecurity) + QStringLiteral(" />"));
+    ++mResult.mAddresses;
+  }
+
+  void open(int depth, const QString& name, const QString& description, int start, int span) {
+    // 0/0/0 is no group address for ETS, so its first ranges begin at 1.
+    line(depth, QStringLiteral("<GroupRange") + attribute("Name", name) +
+                    attribute("RangeStart", QString::number(qMax(start, 1))) +
+                    attribute("RangeEnd", QString::number(start + span - 1)) + optional("Description", description) +
+                    QStringLiteral(">"));
+  }
+
+  /// An element without content closes in its own tag.
+  void close(qsizetype start, qsizetype body, int depth, const QString& name) {
+    constexpr qsizetype cTagEnd = 3;
+    if (mText.size() == body && body > start) {
+      mText.chop(cTagEnd);
+      mText += QStringLiteral(" />\r\n");
+    } else {
+      line(depth, QStringLiteral("</") + name + u'>');
+    }
+  }
+
+  void line(int depth, const QString& text) {
+    mText += QString(qsizetype(depth) * 2, u' ') + text + QStringLiteral("\r\n");
+  }
+
+  const Address_Tree& mTree;
+  Ets_Write_Result& mResult;
+  QString mText;
+};
+
+} // namespace
+
+Ets_Write_Result Ets_Xml_Writer::write(const Address_Tree& tree, QIODevice& device) {
+  Ets_Write_Result result;
+  const QByteArray bytes = Writer(tree, result).run();
+  if (device.write(bytes) != bytes.size()) {
+    result.mError = device.errorString();
+  }
+  return result;
+}
