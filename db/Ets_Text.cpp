@@ -40,7 +40,7 @@ bool isForbidden(QChar c) {
 std::optional<QString> decodeUtf16(QByteArrayView bytes, QStringDecoder::Encoding encoding, QString& error) {
   QStringDecoder decoder(encoding, QStringDecoder::Flag::Stateless);
   QString text = decoder.decode(bytes);
-  if (decoder.hasError()) {
+  if (decoder.hasError() || bytes.size() % 2 != 0) {
     error = tr("Die Datei ist als UTF-16 gekennzeichnet, ihre Zeichen sind es nicht.");
     return std::nullopt;
   }
