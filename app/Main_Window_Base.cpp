@@ -70,6 +70,7 @@ void Main_Window_Base::buildContents(const QList<QAction*>& startActions, const 
 
   connect(mPageView, &Page_View::refused, this, &Main_Window_Base::showInfo);
   connect(mAddressView, &Address_View::refused, this, &Main_Window_Base::showInfo);
+  connect(mAddressView, &Address_View::info, this, &Main_Window_Base::showInfo);
   connect(mStartPage, &Start_Page::backRequested, this, &Main_Window_Base::showProjectPage);
   connect(&mSession, &Project_Session::closed, this, &Main_Window_Base::showStartPage);
   connect(&mSession, &Project_Session::closed, this, &Main_Window_Base::updateTitle);

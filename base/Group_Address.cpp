@@ -71,6 +71,21 @@ std::optional<Group_Address> read(QStringView text) {
   return Group_Address::fromNumber(static_cast<quint16>(*number));
 }
 
+/// "1/2" for two parts; empty where a part is no number of its level.
+std::optional<Group_Address> readGroup(QStringView text, qsizetype partCount) {
+  if (text.endsWith(u"/*")) {
+    text.chop(2);
+  }
+  const QList<QStringView> parts = text.split(u'/');
+  const std::optional<int> main = digits(parts[0]);
+  const std::optional<int> middle = partCount == 2 ? digits(parts.value(1)) : std::optional(0);
+  if (parts.size() != partCount || !main || !middle) {
+    return std::nullopt;
+  }
+  const Group_Address group(*main, *middle, 0);
+  return group.isOnBus() ? std::optional(group) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<Group_Address> Group_Address::parse(QStringView text, QString* error) {
@@ -81,6 +96,24 @@ std::optional<Group_Address> Group_Address::parse(QStringView text, QString* err
                  .arg(text.left(40).toString());
   }
   return address;
+}
+
+std::optional<Group_Address> Group_Address::parseMainGroup(QStringView text, QString* error) {
+  const std::optional<Group_Address> group = readGroup(text.trimmed(), 1);
+  if (!group && error) {
+    *error =
+        tr("\"%1\" ist keine Hauptgruppe. Erlaubt ist eine Zahl 0..31, auch als 1/*.").arg(text.left(40).toString());
+  }
+  return group;
+}
+
+std::optional<Group_Address> Group_Address::parseMiddleGroup(QStringView text, QString* error) {
+  const std::optional<Group_Address> group = readGroup(text.trimmed(), 2);
+  if (!group && error) {
+    *error = tr("\"%1\" ist keine Mittelgruppe. Erlaubt sind Haupt/Mittel (0..31/0..7), auch als 1/2/*.")
+                 .arg(text.left(40).toString());
+  }
+  return group;
 }
 
 QString Group_Address::toString() const {

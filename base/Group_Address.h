@@ -28,6 +28,10 @@ public:
   /// On failure the result is empty and `error`, if given, tells what is allowed (German).
   [[nodiscard]] static std::optional<Group_Address> parse(QStringView text, QString* error = nullptr);
 
+  /// The same for whole groups: "1/*" or "1", and "1/2/*" or "1/2". The numbers that the text does not give are 0.
+  [[nodiscard]] static std::optional<Group_Address> parseMainGroup(QStringView text, QString* error = nullptr);
+  [[nodiscard]] static std::optional<Group_Address> parseMiddleGroup(QStringView text, QString* error = nullptr);
+
   [[nodiscard]] constexpr int main() const { return mMain; }
   [[nodiscard]] constexpr int middle() const { return mMiddle; }
   [[nodiscard]] constexpr int sub() const { return mSub; }

@@ -65,12 +65,6 @@ Group* insertSorted(DB_Children<Group>& siblings, std::unique_ptr<Group> group, 
   return &siblings.insert(index, std::move(group));
 }
 
-/// Puts a group whose number was changed to its new place.
-template <class Group>
-void replace(DB_Children<Group>& siblings, qsizetype index, qsizetype wanted) {
-  insertSorted(siblings, siblings.take(index), wanted);
-}
-
 } // namespace
 
 DB_Address_Middle_Group* Address_Tree::middleGroup(int main, int middle) const {
@@ -185,30 +179,59 @@ std::unique_ptr<DB_Data_Base> Address_Tree::take(const QUuid& key) {
 }
 
 bool Address_Tree::change(const QUuid& key, const std::function<void(DB_Data_Base&)>& change, qsizetype wanted) {
-  const auto apply = [&](auto& group, auto& siblings) {
-    const int number = group.mNumber;
-    const qsizetype place = indexIn(siblings, group);
-    change(group);
-    if (group.mNumber == number && (wanted < 0 || wanted == place)) {
-      emit recordChanged(key);
-      return;
-    }
-    beginChange();
-    replace(siblings, place, wanted);
-    findAgain(group, number);
-    findAgain(group, group.mNumber);
-    endChange();
-  };
   if (DB_Address_Sub_Group* const sub = subGroup(key)) {
-    apply(*sub, middleGroup(sub->mMiddleKey)->mSubGroups);
+    const QUuid parent = sub->mMiddleKey;
+    const Group_Address address = addressOf(*sub);
+    const qsizetype place = placeOf(key);
+    change(*sub);
+    if (!middleGroup(sub->mMiddleKey)) {
+      sub->mMiddleKey = parent;
+    }
+    rearrange(*sub, {sub->mMiddleKey != parent, sub->mNumber != address.sub(), place, wanted},
+              middleGroup(parent)->mSubGroups, middleGroup(sub->mMiddleKey)->mSubGroups, [&] {
+                findSub(address);
+                findSub(addressOf(*sub));
+              });
   } else if (DB_Address_Middle_Group* const middle = middleGroup(key)) {
-    apply(*middle, mainGroup(middle->mMainKey)->mMiddleGroups);
+    const QUuid parent = middle->mMainKey;
+    const int main = mainGroup(parent)->mNumber;
+    const int number = middle->mNumber;
+    const qsizetype place = placeOf(key);
+    change(*middle);
+    if (!mainGroup(middle->mMainKey)) {
+      middle->mMainKey = parent;
+    }
+    rearrange(*middle, {middle->mMainKey != parent, middle->mNumber != number, place, wanted},
+              mainGroup(parent)->mMiddleGroups, mainGroup(middle->mMainKey)->mMiddleGroups, [&] {
+                findAgain(*middle, main, number);
+                findAgain(*middle, mainGroup(middle->mMainKey)->mNumber, middle->mNumber);
+              });
   } else if (DB_Address_MainGroup* const main = mainGroup(key)) {
-    apply(*main, mMainGroups);
+    const int number = main->mNumber;
+    const qsizetype place = placeOf(key);
+    change(*main);
+    rearrange(*main, {false, main->mNumber != number, place, wanted}, mMainGroups, mMainGroups, [&] {
+      findAgain(*main, number);
+      findAgain(*main, main->mNumber);
+    });
   } else {
     return false;
   }
   return true;
+}
+
+template <class Group, class FindAgain>
+void Address_Tree::rearrange(Group& group, const Rearrangement& what, DB_Children<Group>& from, DB_Children<Group>& to,
+                             FindAgain&& findAgain) {
+  const bool isMoved = what.mIsOtherParent || what.mIsOtherNumber || (what.mWanted >= 0 && what.mWanted != what.mPlace);
+  if (!isMoved) {
+    emit recordChanged(group.mKey);
+    return;
+  }
+  beginChange();
+  insertSorted(to, from.take(what.mPlace), what.mWanted);
+  findAgain();
+  endChange();
 }
 
 void Address_Tree::findMain(int number) {
@@ -232,13 +255,7 @@ void Address_Tree::findSub(const Group_Address& address) {
   setFound(mSubByAddress, address, visitNumber(mMainGroups, address.main(), inMain));
 }
 
-void Address_Tree::findAgain(const DB_Address_Sub_Group& group, int number) {
-  const Group_Address address = addressOf(group);
-  findSub({address.main(), address.middle(), number});
-}
-
-void Address_Tree::findAgain(const DB_Address_Middle_Group& group, int number) {
-  const int main = mainGroup(group.mMainKey)->mNumber;
+void Address_Tree::findAgain(const DB_Address_Middle_Group& group, int main, int number) {
   findMiddle(main, number);
   for (const auto& sub : group.mSubGroups) {
     findSub({main, number, sub->mNumber});
@@ -248,10 +265,7 @@ void Address_Tree::findAgain(const DB_Address_Middle_Group& group, int number) {
 void Address_Tree::findAgain(const DB_Address_MainGroup& group, int number) {
   findMain(number);
   for (const auto& middle : group.mMiddleGroups) {
-    findMiddle(number, middle->mNumber);
-    for (const auto& sub : middle->mSubGroups) {
-      findSub({number, middle->mNumber, sub->mNumber});
-    }
+    findAgain(*middle, number, middle->mNumber);
   }
 }
 

@@ -54,9 +54,9 @@ public:
   /// Its index in its parent's list; -1 when there is none.
   [[nodiscard]] qsizetype placeOf(const QUuid& key) const;
 
-  /// Applies `change` to the record of that key, keeps order and indices right when it changes the number, and tells.
-  /// The group's own key and its parent's key must stay as they are. Among groups of the same number it goes
-  /// to `wanted` as for `add`. False when there is no such group.
+  /// Applies `change` to the record of that key, keeps order and indices right when it changes the number or the
+  /// parent's key, and tells. A parent that is not in the tree is not taken over; the group's own key must stay as it
+  /// is. Among groups of the same number it goes to `wanted` as for `add`. False when there is no such group.
   bool change(const QUuid& key, const std::function<void(DB_Data_Base& record)>& change, qsizetype wanted = -1);
 
   /// Makes room for so many group addresses, at most for those of the largest project; adding them is faster then.
@@ -66,6 +66,8 @@ public:
 
   void beginChange();
   void endChange();
+  /// Between the outermost two of them.
+  [[nodiscard]] bool isChanging() const { return mChangeDepth > 0; }
 
 signals:
   /// One group's texts or attributes changed; the structure did not.
@@ -78,10 +80,20 @@ private:
   void findMain(int number);
   void findMiddle(int main, int middle);
   void findSub(const Group_Address& address);
-  /// The same for a group and everything below it, as if it bore `number`.
-  void findAgain(const DB_Address_Sub_Group& group, int number);
-  void findAgain(const DB_Address_Middle_Group& group, int number);
+  /// The same for a group and everything below it, as if it stood there.
+  void findAgain(const DB_Address_Middle_Group& group, int main, int number);
   void findAgain(const DB_Address_MainGroup& group, int number);
+
+  struct Rearrangement {
+    bool mIsOtherParent = false;
+    bool mIsOtherNumber = false;
+    qsizetype mPlace = -1; ///< before the change
+    qsizetype mWanted = -1;
+  };
+  /// Brings a changed group to its place, looks up with `findAgain` what is found now, and tells.
+  template <class Group, class FindAgain>
+  void rearrange(Group& group, const Rearrangement& what, DB_Children<Group>& from, DB_Children<Group>& to,
+                 FindAgain&& findAgain);
 
   DB_Children<DB_Address_MainGroup> mMainGroups;
   QHash<QUuid, DB_Address_MainGroup*> mMainByKey;

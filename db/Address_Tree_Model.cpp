@@ -1,19 +1,18 @@
 #include "db/Address_Tree_Model.h"
 
-#include "base/Group_Address.h"
 #include "base/Session_State.h"
-#include "db/DB_Address_Groups.h"
+#include "db/Address_Clipboard.h"
 #include "db/Model_Roles.h"
-#include "db/Project_Edits.h"
 #include "db/Project_Session.h"
 
+#include <QMimeData>
 #include <QRegularExpression>
 
-#include <algorithm>
 #include <array>
-#include <type_traits>
 
 namespace {
+
+using Field = Address_Edits::Field;
 
 /// A cell is one line high; records may hold line breaks.
 QString inOneLine(const QString& text) {
@@ -21,16 +20,30 @@ QString inOneLine(const QString& text) {
   return hasBreak ? text.simplified() : text;
 }
 
-template <class Group>
-QString ownText(const Group& group, int column) {
-  switch (column) {
-  case Address_Tree_Model::cName:
-    return group.mName;
-  case Address_Tree_Model::cDescription:
-    return group.mDescription;
-  default:
-    return {};
-  }
+/// What is told of a column, and the field that is edited in it.
+struct Column_Row {
+  const char* mTitle;
+  const char* mTip;
+  std::optional<Field> mField;
+  bool DB_Address_Sub_Group::*mFlag = nullptr;
+};
+
+// clang-format off
+const std::array<Column_Row, Address_Rows::cColumnCount> cColumns{{
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Adresse"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Haupt/Mittel/Unter (0..31/0..7/0..255)"), {}},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Name"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Höchstens 255 Zeichen"), Field::Name},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Beschreibung"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Höchstens 4000 Zeichen"), Field::Description},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Datenpunkttyp"), QT_TRANSLATE_NOOP("Address_Tree_Model", "KNX-Datenpunkttyp wie 9.001; leer, wenn er nicht bekannt ist"), Field::Type},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Lesen Start"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Die Steuerung liest den Wert beim Start vom Bus"), Field::ReadAtStart, &DB_Address_Sub_Group::mReadAtStart},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Lesen zyklisch"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Die Steuerung liest den Wert in Abständen vom Bus"), Field::ReadCyclic, &DB_Address_Sub_Group::mReadCyclic},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Schreiben"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Die Steuerung darf den Wert auf den Bus schreiben"), Field::Write, &DB_Address_Sub_Group::mWrite},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Aktiv"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Die Steuerung verwendet die Adresse"), Field::Active, &DB_Address_Sub_Group::mActive},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Herkunft"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Wie die Adresse in einem Import zwei- oder freistufig hieß, und die Bereiche dort"), {}},
+}};
+// clang-format on
+
+const Column_Row& columnOf(int column) {
+  return cColumns[static_cast<size_t>(column)];
 }
 
 } // namespace
@@ -38,11 +51,30 @@ QString ownText(const Group& group, int column) {
 Address_Tree_Model::Address_Tree_Model(Project_Session& session, QObject* parent)
     : QAbstractItemModel(parent),
       mSession(session) {
-  const Address_Tree& tree = session.database().mAddresses;
+  const ProjectDatabase& database = session.database();
+  const Address_Tree& tree = database.mAddresses;
   connect(&tree, &Address_Tree::structureAboutToChange, this, &Address_Tree_Model::onStructureAboutToChange);
   connect(&tree, &Address_Tree::structureChanged, this, &Address_Tree_Model::onStructureChanged);
   connect(&tree, &Address_Tree::recordChanged, this, &Address_Tree_Model::onRecordChanged);
+  mPagesTimer.setSingleShot(true);
+  mPagesTimer.setInterval(0);
+  connect(&mPagesTimer, &QTimer::timeout, this, &Address_Tree_Model::onPagesChanged);
+  const auto later = [this] { mPagesTimer.start(); };
+  connect(&database.mFbPages, &DB_Page_List_Signals::structureChanged, this, later);
+  connect(&database.mWidgetPages, &DB_Page_List_Signals::structureChanged, this, later);
+  connect(&session, &Project_Session::opened, this, &Address_Tree_Model::onPagesChanged);
+  mUsage = Address_Usage(database);
   rebuild();
+}
+
+void Address_Tree_Model::rebuild() {
+  mRows.build(mSession.database(), mUsage, mWords, mOrder);
+}
+
+void Address_Tree_Model::reset() {
+  beginResetModel();
+  rebuild();
+  endResetModel();
 }
 
 void Address_Tree_Model::onStructureAboutToChange() {
@@ -60,215 +92,256 @@ void Address_Tree_Model::onRecordChanged(const QUuid& key) {
   // Inside a structure change the rows are out of date, and are all told to be new at its end.
   const QModelIndex first = mIsResetting ? QModelIndex() : indexOf(key);
   if (first.isValid()) {
-    emit dataChanged(first, first.siblingAtColumn(cColumnCount - 1));
+    emit dataChanged(first, first.siblingAtColumn(Address_Rows::cColumnCount - 1));
   }
+}
+
+void Address_Tree_Model::onPagesChanged() {
+  mPagesTimer.stop();
+  beginResetModel();
+  mUsage = Address_Usage(mSession.database());
+  rebuild();
+  endResetModel();
 }
 
 void Address_Tree_Model::setFilter(const QString& text) {
   static const QRegularExpression blanks(QStringLiteral("\\s+"));
   const QStringList words = text.split(blanks, Qt::SkipEmptyParts);
-  if (words == mWords) {
-    return;
-  }
-  beginResetModel();
-  mWords = words;
-  rebuild();
-  endResetModel();
-}
-
-bool Address_Tree_Model::passes(const Node& node) const {
-  QString all;
-  for (int column = 0; column < cColumnCount; ++column) {
-    all += textOf(node, column) + QLatin1Char('\n');
-  }
-  return std::all_of(mWords.begin(), mWords.end(),
-                     [&all](const QString& word) { return all.contains(word, Qt::CaseInsensitive); });
-}
-
-template <class Group>
-void Address_Tree_Model::build(Nodes& nodes, const Node* parent, const Group& groups) {
-  // Children point to their parent's node, so the list must not move.
-  nodes.reserve(static_cast<size_t>(groups.size()));
-  for (const auto& group : groups) {
-    using Record = std::remove_cvref_t<decltype(*group)>;
-    Node& node = nodes.emplace_back(Node{parent, static_cast<int>(nodes.size()), group->mNumber, group.get(), {}});
-    if constexpr (std::is_same_v<Record, DB_Address_MainGroup>) {
-      build(node.mChildren, &node, group->mMiddleGroups);
-    } else if constexpr (std::is_same_v<Record, DB_Address_Middle_Group>) {
-      build(node.mChildren, &node, group->mSubGroups);
-    }
-    if (isFiltered() && node.mChildren.empty() && !passes(node)) {
-      nodes.pop_back();
-    } else if constexpr (std::is_same_v<Record, DB_Address_Sub_Group>) {
-      ++mShownSubGroups;
-    }
+  if (words != mWords) {
+    mWords = words;
+    reset();
   }
 }
 
-void Address_Tree_Model::rebuild() {
-  mMainNodes = Nodes();
-  mShownSubGroups = 0;
-  build(mMainNodes, nullptr, mSession.database().mAddresses.mainGroups());
+void Address_Tree_Model::sort(int column, Qt::SortOrder order) {
+  const bool isColumn = column >= 0 && column < Address_Rows::cColumnCount;
+  const Address_Rows::Order wanted{isColumn ? column : Address_Rows::cAddress, order == Qt::DescendingOrder};
+  if (mOrder != wanted) {
+    mOrder = wanted;
+    reset();
+  }
 }
 
-Address_Tree_Model::Level Address_Tree_Model::levelOf(const Node& node) {
-  if (!node.mParent) {
-    return Level::Main;
-  }
-  return node.mParent->mParent ? Level::Sub : Level::Middle;
-}
-
-QString Address_Tree_Model::textOf(const Node& node, int column) {
-  switch (levelOf(node)) {
-  case Level::Main:
-    return column == cAddress ? Group_Address::mainGroupText(node.mNumber)
-                              : ownText(static_cast<const DB_Address_MainGroup&>(*node.mRecord), column);
-  case Level::Middle:
-    return column == cAddress ? Group_Address::middleGroupText(node.mParent->mNumber, node.mNumber)
-                              : ownText(static_cast<const DB_Address_Middle_Group&>(*node.mRecord), column);
-  case Level::Sub:
-    break;
-  }
-  const auto& sub = static_cast<const DB_Address_Sub_Group&>(*node.mRecord);
-  if (column == cAddress) {
-    return Group_Address(node.mParent->mParent->mNumber, node.mParent->mNumber, node.mNumber).toString();
-  }
-  return column == cDatapointType ? sub.mDpt.toString() : ownText(sub, column);
-}
-
-const Address_Tree_Model::Node* Address_Tree_Model::nodeOf(const QModelIndex& index) {
-  return static_cast<const Node*>(index.constInternalPointer());
-}
-
-const Address_Tree_Model::Node* Address_Tree_Model::find(const Nodes& nodes, int number, const DB_Data_Base* record) {
-  const auto less = [](const Node& node, int value) { return node.mNumber < value; };
-  auto at = std::lower_bound(nodes.begin(), nodes.end(), number, less);
-  while (at != nodes.end() && at->mNumber == number && at->mRecord != record) {
-    ++at;
-  }
-  return at != nodes.end() && at->mRecord == record ? &*at : nullptr;
-}
-
-const Address_Tree_Model::Node* Address_Tree_Model::find(const QUuid& key) const {
-  const Address_Tree& tree = mSession.database().mAddresses;
-  if (const DB_Address_Sub_Group* const sub = tree.subGroup(key)) {
-    const Node* const middle = find(sub->mMiddleKey);
-    return middle ? find(middle->mChildren, sub->mNumber, sub) : nullptr;
-  }
-  if (const DB_Address_Middle_Group* const middle = tree.middleGroup(key)) {
-    const Node* const main = find(middle->mMainKey);
-    return main ? find(main->mChildren, middle->mNumber, middle) : nullptr;
-  }
-  const DB_Address_MainGroup* const main = tree.mainGroup(key);
-  return main ? find(mMainNodes, main->mNumber, main) : nullptr;
+const Address_Tree_Model::Row* Address_Tree_Model::rowOf(const QModelIndex& index) {
+  return static_cast<const Row*>(index.constInternalPointer());
 }
 
 QUuid Address_Tree_Model::keyOf(const QModelIndex& index) const {
-  const Node* const node = nodeOf(index);
-  if (!node) {
-    return {};
-  }
-  switch (levelOf(*node)) {
-  case Level::Main:
-    return static_cast<const DB_Address_MainGroup*>(node->mRecord)->mKey;
-  case Level::Middle:
-    return static_cast<const DB_Address_Middle_Group*>(node->mRecord)->mKey;
-  case Level::Sub:
-    break;
-  }
-  return static_cast<const DB_Address_Sub_Group*>(node->mRecord)->mKey;
+  const Row* const row = rowOf(index);
+  return row ? mRows.keyOf(*row) : QUuid();
+}
+
+Address_Tree_Model::Kind Address_Tree_Model::kindOf(const QModelIndex& index) const {
+  const Row* const row = rowOf(index);
+  return row ? row->mKind : Kind::Variables;
+}
+
+const Address_Use& Address_Tree_Model::useOf(const QModelIndex& index) const {
+  return mRows.useOf(*rowOf(index));
 }
 
 QModelIndex Address_Tree_Model::indexOf(const QUuid& key) const {
-  const Node* const node = find(key);
-  return node ? createIndex(node->mRow, 0, node) : QModelIndex();
+  const Row* const row = mRows.find(key);
+  return row ? createIndex(row->mIndex, 0, row) : QModelIndex();
+}
+
+QModelIndex Address_Tree_Model::variablesIndex() const {
+  const std::vector<Row>& top = mRows.top();
+  const bool isShown = !top.empty() && top.back().mKind == Kind::Variables;
+  return isShown ? createIndex(top.back().mIndex, 0, &top.back()) : QModelIndex();
 }
 
 QModelIndex Address_Tree_Model::index(int row, int column, const QModelIndex& parent) const {
   if (!hasIndex(row, column, parent)) {
     return {};
   }
-  const Node* const node = nodeOf(parent);
-  const Nodes& nodes = node ? node->mChildren : mMainNodes;
-  return createIndex(row, column, &nodes[static_cast<size_t>(row)]);
+  const Row* const parentRow = rowOf(parent);
+  const std::vector<Row>& rows = parentRow ? parentRow->mChildren : mRows.top();
+  return createIndex(row, column, &rows[static_cast<size_t>(row)]);
 }
 
 QModelIndex Address_Tree_Model::parent(const QModelIndex& child) const {
-  const Node* const node = nodeOf(child);
-  return node && node->mParent ? createIndex(node->mParent->mRow, 0, node->mParent) : QModelIndex();
+  const Row* const row = rowOf(child);
+  return row && row->mParent ? createIndex(row->mParent->mIndex, 0, row->mParent) : QModelIndex();
 }
 
 int Address_Tree_Model::rowCount(const QModelIndex& parent) const {
   if (!parent.isValid()) {
-    return static_cast<int>(mMainNodes.size());
+    return static_cast<int>(mRows.top().size());
   }
-  return parent.column() == 0 ? static_cast<int>(nodeOf(parent)->mChildren.size()) : 0;
+  return parent.column() == 0 ? static_cast<int>(rowOf(parent)->mChildren.size()) : 0;
 }
 
 int Address_Tree_Model::columnCount(const QModelIndex&) const {
-  return cColumnCount;
+  return Address_Rows::cColumnCount;
+}
+
+QVariant Address_Tree_Model::displayText(const Row& row, int column) const {
+  QString text = mRows.text(row, column);
+  if (column == Address_Rows::cType && row.mKind == Kind::Sub && !text.isEmpty() &&
+      static_cast<const DB_Address_Sub_Group*>(row.mRecord)->mDptGuessed) {
+    return tr("%1 (vermutet)").arg(text);
+  }
+  return inOneLine(text);
+}
+
+QString Address_Tree_Model::toolTip(const Row& row, int column) const {
+  if (row.mKind == Kind::Variable) {
+    return tr("Interne Variable \"%1\": lebt in den Verknüpfungen, die sie verwenden, und entsteht nur dort.")
+        .arg(mRows.text(row, Address_Rows::cName));
+  }
+  const auto* const sub = row.mKind == Kind::Sub ? static_cast<const DB_Address_Sub_Group*>(row.mRecord) : nullptr;
+  if (sub && column == Address_Rows::cAddress && !sub->mOrigin.isEmpty()) {
+    return tr("%1, im Import: %2").arg(mRows.text(row, column), sub->mOrigin);
+  }
+  if (sub && column == Address_Rows::cType && sub->mDptGuessed) {
+    return tr("%1: vermutet, denn der Import nennt nur \"%2\".").arg(sub->mDpt.toString(), sub->mDptRaw);
+  }
+  return columnOf(column).mFlag ? tr(columnOf(column).mTip) : mRows.text(row, column);
+}
+
+QVariant Address_Tree_Model::checkState(const Row& row, int column) const {
+  bool DB_Address_Sub_Group::*const flag = columnOf(column).mFlag;
+  if (!flag || row.mKind != Kind::Sub) {
+    return {};
+  }
+  return static_cast<const DB_Address_Sub_Group*>(row.mRecord)->*flag ? Qt::Checked : Qt::Unchecked;
 }
 
 QVariant Address_Tree_Model::data(const QModelIndex& index, int role) const {
-  static const std::array icons{QStringLiteral("main_group"), QStringLiteral("middle_group"),
-                                QStringLiteral("sub_group")};
-  const Node* const node = nodeOf(index);
-  if (!node) {
+  static const std::array icons{QStringLiteral("main_group"),
+                                QStringLiteral("middle_group"),
+                                QStringLiteral("sub_group"),
+                                QStringLiteral("io_internal_connection"),
+                                QStringLiteral("io_internal_connection"),
+                                QStringLiteral("account_tree-white")};
+  const Row* const row = rowOf(index);
+  if (!row) {
     return {};
   }
   switch (role) {
   case Qt::DisplayRole:
-    return inOneLine(textOf(*node, index.column()));
+    return displayText(*row, index.column());
   case Qt::EditRole:
-    return textOf(*node, index.column());
+    return mRows.text(*row, index.column());
   case Qt::ToolTipRole:
-    return Model_Roles::toolTip(textOf(*node, index.column()));
+    return Model_Roles::toolTip(toolTip(*row, index.column()));
+  case Qt::CheckStateRole:
+    return checkState(*row, index.column());
   case Model_Roles::cIconName:
-    return index.column() == cAddress ? icons[static_cast<size_t>(levelOf(*node))] : QVariant();
+    return index.column() == Address_Rows::cAddress ? icons[static_cast<size_t>(row->mKind)] : QVariant();
   default:
     return {};
   }
 }
 
 QVariant Address_Tree_Model::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+  if (orientation != Qt::Horizontal || section < 0 || section >= Address_Rows::cColumnCount) {
     return {};
   }
-  switch (section) {
-  case cAddress:
-    return tr("Adresse");
-  case cName:
-    return tr("Name");
-  case cDescription:
-    return tr("Beschreibung");
-  case cDatapointType:
-    return tr("Datenpunkttyp");
+  switch (role) {
+  case Qt::DisplayRole:
+    return tr(columnOf(section).mTitle);
+  case Qt::ToolTipRole:
+    return tr(columnOf(section).mTip);
   default:
     return {};
   }
 }
 
 Qt::ItemFlags Address_Tree_Model::flags(const QModelIndex& index) const {
-  const Node* const node = nodeOf(index);
-  if (!node) {
-    return Qt::NoItemFlags;
+  const Row* const row = rowOf(index);
+  const bool mayEdit = !mSession.state().operatingMode();
+  if (!row) {
+    return mayEdit ? Qt::ItemIsDropEnabled : Qt::NoItemFlags;
   }
   Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-  flags.setFlag(Qt::ItemNeverHasChildren, levelOf(*node) == Level::Sub);
-  flags.setFlag(Qt::ItemIsEditable, index.column() == cName && !mSession.state().operatingMode());
+  flags.setFlag(Qt::ItemNeverHasChildren, row->mKind == Kind::Sub || row->mKind == Kind::Use);
+  if (!mayEdit || !row->mRecord) {
+    return flags;
+  }
+  const int column = index.column();
+  const bool isSub = row->mKind == Kind::Sub;
+  const bool isOwnText = column <= Address_Rows::cDescription;
+  flags.setFlag(Qt::ItemIsEditable, isOwnText || (isSub && column == Address_Rows::cType));
+  flags.setFlag(Qt::ItemIsUserCheckable, isSub && columnOf(column).mFlag);
+  flags.setFlag(Qt::ItemIsDragEnabled, row->mKind != Kind::Main);
+  flags.setFlag(Qt::ItemIsDropEnabled, !isSub);
   return flags;
 }
 
-bool Address_Tree_Model::setData(const QModelIndex& index, const QVariant& value, int role) {
-  if (!index.isValid() || index.column() != cName || role != Qt::EditRole) {
-    return false;
+QString Address_Tree_Model::whyNot(const QModelIndex& index, const QString& text) const {
+  if (index.column() == Address_Rows::cAddress) {
+    return Address_Edits::checkNumber(mSession, keyOf(index), text).mError;
   }
-  if (value.toString() == textOf(*nodeOf(index), cName)) {
-    return true;
-  }
-  const Edit_Result result = Project_Edits::renameAddress(mSession, keyOf(index), value.toString());
+  const std::optional<Field> field = columnOf(index.column()).mField;
+  return field ? Address_Edits::check(*field, text).mError : QString();
+}
+
+QList<QUuid> Address_Tree_Model::targetsOf(const QUuid& key) const {
+  return mTargets ? mTargets(key) : QList<QUuid>{key};
+}
+
+bool Address_Tree_Model::tell(const Edit_Result& result) {
   if (!result) {
     emit refused(result.mError);
   }
   return static_cast<bool>(result);
+}
+
+bool Address_Tree_Model::setData(const QModelIndex& index, const QVariant& value, int role) {
+  const Row* const row = rowOf(index);
+  if (!row || !row->mRecord) {
+    return false;
+  }
+  const QUuid key = mRows.keyOf(*row);
+  const std::optional<Field> field = columnOf(index.column()).mField;
+  if (role == Qt::CheckStateRole && columnOf(index.column()).mFlag) {
+    return tell(Address_Edits::set(mSession, targetsOf(key), *field, value.toInt() == Qt::Checked));
+  }
+  if (role != Qt::EditRole) {
+    return false;
+  }
+  const QString text = value.toString();
+  const QString present = mRows.text(*row, index.column());
+  if (text == present || text == inOneLine(present)) {
+    return true; // an editor that was only looked into
+  }
+  if (index.column() == Address_Rows::cAddress) {
+    return tell(Address_Edits::renumber(mSession, key, text));
+  }
+  return field && !columnOf(index.column()).mFlag && tell(Address_Edits::set(mSession, {key}, *field, text));
+}
+
+QStringList Address_Tree_Model::mimeTypes() const {
+  return {Address_Clipboard::mimeType()};
+}
+
+QMimeData* Address_Tree_Model::mimeData(const QModelIndexList& indexes) const {
+  QList<QUuid> keys;
+  for (const QModelIndex& index : indexes) {
+    const QUuid key = index.column() == 0 && rowOf(index)->mRecord ? keyOf(index) : QUuid();
+    if (!key.isNull()) {
+      keys.append(key);
+    }
+  }
+  auto* const data = new QMimeData;
+  data->setData(Address_Clipboard::mimeType(), Address_Clipboard::pack(mSession, keys, Address_Clipboard::Use::Move));
+  return data;
+}
+
+bool Address_Tree_Model::canDropMimeData(const QMimeData* data, Qt::DropAction action, int, int,
+                                         const QModelIndex& parent) const {
+  const Row* const row = rowOf(parent);
+  return action == Qt::MoveAction && data->hasFormat(Address_Clipboard::mimeType()) && row && row->mRecord &&
+         Address_Clipboard::fits(mSession, data->data(Address_Clipboard::mimeType()), mRows.keyOf(*row));
+}
+
+bool Address_Tree_Model::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                      const QModelIndex& parent) {
+  if (!canDropMimeData(data, action, row, column, parent)) {
+    return false;
+  }
+  Address_Clipboard::Result result;
+  return tell(Address_Clipboard::paste(mSession, data->data(Address_Clipboard::mimeType()), keyOf(parent), result));
 }

@@ -1,44 +1,62 @@
 #pragma once
 
-#include "db/DB_Data_Base.h"
+#include "db/Address_Edits.h"
+#include "db/Address_Rows.h"
 
 #include <QAbstractItemModel>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 #include <QUuid>
 
-#include <vector>
+#include <functional>
 
 class Project_Session;
 
-/// The group addresses of the open project as a tree of three levels: main groups, middle groups, group addresses.
+/// The group addresses of the open project as a tree of three levels (main groups, middle groups, group addresses) and
+/// behind it the branch of internal variables with their uses.
 ///
-/// The name can be edited, each time one undo step, unless the operating mode is on. The model keeps its own tree of
-/// the rows that pass the filter, so a row, its parent and its number are found without a search; it is built anew when
-/// the structure of the addresses or the filter changes. The session outlives the model.
+/// Texts are edited in their cells and flags by their check boxes, each time one undo step, unless the operating mode
+/// is on. The rows are built anew when the structure of the addresses, the filter or the order changes; what is edited
+/// in a cell stays where it is until then. The session outlives the model.
 class Address_Tree_Model : public QAbstractItemModel {
   Q_OBJECT
 
 public:
-  static constexpr int cAddress = 0;       ///< "1/*", "1/2/*", "1/2/3"
-  static constexpr int cName = 1;          ///< editable
-  static constexpr int cDescription = 2;   ///< in one line
-  static constexpr int cDatapointType = 3; ///< "9.001", "9", empty for none
-  static constexpr int cColumnCount = 4;
+  using Kind = Address_Rows::Kind;
 
   explicit Address_Tree_Model(Project_Session& session, QObject* parent = nullptr);
 
-  /// Shows only rows in which every word stands, in whatever column and case, and the groups around them. What is then
-  /// renamed stays where it is until the filter or the structure changes.
+  /// Shows only rows in which every word stands, in whatever column and case, and the groups around them.
   void setFilter(const QString& text);
   [[nodiscard]] bool isFiltered() const { return !mWords.isEmpty(); }
   /// Group addresses (third level) that pass the filter.
-  [[nodiscard]] qsizetype shownSubGroupCount() const { return mShownSubGroups; }
+  [[nodiscard]] qsizetype shownSubGroupCount() const { return mRows.subCount(); }
+  [[nodiscard]] qsizetype variableCount() const { return static_cast<qsizetype>(mUsage.variables().size()); }
 
-  /// Null for an invalid index.
+  /// The pins and elements that are bound to an address or variable, as they were when the rows were built.
+  [[nodiscard]] const Address_Usage& usage() const { return mUsage; }
+
+  /// Null for an invalid index and for rows that are no group, address or variable.
   [[nodiscard]] QUuid keyOf(const QModelIndex& index) const;
+  [[nodiscard]] Kind kindOf(const QModelIndex& index) const;
+  /// Of a row that is a use.
+  [[nodiscard]] const Address_Use& useOf(const QModelIndex& index) const;
   /// In the first column; invalid when the group is not there or filtered out.
   [[nodiscard]] QModelIndex indexOf(const QUuid& key) const;
+
+  /// The branch of internal variables; invalid when it is not shown.
+  [[nodiscard]] QModelIndex variablesIndex() const;
+
+  /// Which groups an edit of the cell of that key means; the key alone unless set. So a view with several selected
+  /// rows has a check box set for all of them.
+  void setTargets(std::function<QList<QUuid>(const QUuid& key)> targets) { mTargets = std::move(targets); }
+
+  /// What the uses call a block without a name of its own.
+  void setBlockTypeName(const Address_Usage::Type_Name& name) { mRows.setBlockTypeName(name); }
+
+  /// Why that text may not stand in the cell (German); empty when it may.
+  [[nodiscard]] QString whyNot(const QModelIndex& index, const QString& text) const;
 
   [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
   [[nodiscard]] QModelIndex parent(const QModelIndex& child) const override;
@@ -48,40 +66,43 @@ public:
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
   bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+  void sort(int column, Qt::SortOrder order) override;
+
+  [[nodiscard]] Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+  [[nodiscard]] QStringList mimeTypes() const override;
+  [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
+  [[nodiscard]] bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                     const QModelIndex& parent) const override;
+  bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                    const QModelIndex& parent) override;
 
 signals:
   /// An edit was not done; the German text tells why.
   void refused(const QString& text);
 
 private:
-  enum class Level { Main, Middle, Sub };
+  using Row = Address_Rows::Row;
 
-  struct Node {
-    const Node* mParent = nullptr; ///< null for main groups
-    int mRow = 0;
-    int mNumber = 0;
-    const DB_Data_Base* mRecord = nullptr;
-    std::vector<Node> mChildren;
-  };
-  using Nodes = std::vector<Node>;
-
-  [[nodiscard]] static Level levelOf(const Node& node);
-  [[nodiscard]] static QString textOf(const Node& node, int column);
-  [[nodiscard]] static const Node* nodeOf(const QModelIndex& index);
-  [[nodiscard]] static const Node* find(const Nodes& nodes, int number, const DB_Data_Base* record);
-  [[nodiscard]] const Node* find(const QUuid& key) const;
-  [[nodiscard]] bool passes(const Node& node) const;
-  template <class Group>
-  void build(Nodes& nodes, const Node* parent, const Group& groups);
+  [[nodiscard]] static const Row* rowOf(const QModelIndex& index);
+  [[nodiscard]] QVariant displayText(const Row& row, int column) const;
+  [[nodiscard]] QString toolTip(const Row& row, int column) const;
+  [[nodiscard]] QVariant checkState(const Row& row, int column) const;
+  [[nodiscard]] QList<QUuid> targetsOf(const QUuid& key) const;
+  bool tell(const Edit_Result& result);
   void rebuild();
+  void reset();
 
   void onStructureAboutToChange();
   void onStructureChanged();
   void onRecordChanged(const QUuid& key);
+  void onPagesChanged();
 
   Project_Session& mSession;
-  Nodes mMainNodes;
+  Address_Usage mUsage;
+  Address_Rows mRows;
+  Address_Rows::Order mOrder;
   QStringList mWords;
-  qsizetype mShownSubGroups = 0;
+  QTimer mPagesTimer;
+  std::function<QList<QUuid>(const QUuid&)> mTargets;
   bool mIsResetting = false;
 };

@@ -29,32 +29,6 @@ Edit_Result checkLength(const QString& name) {
 
 } // namespace
 
-Edit_Result Project_Edits::renameAddress(Project_Session& session, const QUuid& key, const QString& name) {
-  Address_Tree& tree = session.database().mAddresses;
-  const QString clean = DB_Text::singleLine(name);
-  if (Edit_Result result = checkLength(clean); !result) {
-    return result;
-  }
-  if (!tree.record(key)) {
-    return Edit_Result::refused(tr("Die Adresse gibt es nicht mehr."));
-  }
-  Edit_Scope scope(session.history(), tr("Umbenennen"));
-  if (!scope) {
-    return Edit_Result::refused(scope.refusal());
-  }
-  scope.modified(session.addressUndo(), key);
-  tree.change(key, [&clean](DB_Data_Base& record) {
-    if (auto* const sub = dynamic_cast<DB_Address_Sub_Group*>(&record)) {
-      sub->mName = clean;
-    } else if (auto* const middle = dynamic_cast<DB_Address_Middle_Group*>(&record)) {
-      middle->mName = clean;
-    } else if (auto* const main = dynamic_cast<DB_Address_MainGroup*>(&record)) {
-      main->mName = clean;
-    }
-  });
-  return Edit_Result::done();
-}
-
 Edit_Result Project_Edits::renamePage(Project_Session& session, const QUuid& guid, const QString& caption) {
   ProjectDatabase& database = session.database();
   const QString clean = DB_Text::singleLine(caption);

@@ -7,15 +7,13 @@
 
 class Project_Session;
 
-/// The edits of a project that are no page's own, each one undo step (or part of the one that is open). Menu, view,
-/// assistant and test call these; all of them refuse in the operating mode. Texts lose the bytes 0x02 and 0x03.
+/// The edits of a project that are no page's own and no address's (`Address_Edits`), each one undo step (or part of the
+/// one that is open). Menu, view, assistant and test call these; all of them refuse in the operating mode. Texts lose
+/// the bytes 0x02 and 0x03.
 namespace Project_Edits {
 
-/// Longest name of a group or page, in characters.
+/// Longest name of a page, in characters.
 inline constexpr qsizetype cNameLimit = 255;
-
-/// Renames a main, middle or sub group. A name of 0 to 255 characters in one line.
-Edit_Result renameAddress(Project_Session& session, const QUuid& key, const QString& name);
 
 /// Renames a logic or visualisation page. A name of 1 to 255 characters in one line.
 Edit_Result renamePage(Project_Session& session, const QUuid& guid, const QString& caption);

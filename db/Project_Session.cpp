@@ -2,6 +2,7 @@
 
 #include "base/File_Copy.h"
 #include "base/Version.h"
+#include "db/Binding_Refresh.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -15,10 +16,23 @@ Project_Session::Project_Session(Session_State& state, QObject* parent)
       mWidgetPageUndo(mDatabase.mWidgetPages),
       mProjectUndo(mDatabase, DB_Table::Project) {
   connect(&mDatabase, &ProjectDatabase::resourcesChanged, &mHistory, &History::setChangedOutside);
+  const Address_Tree& tree = mDatabase.mAddresses;
+  connect(&tree, &Address_Tree::recordChanged, this, &Project_Session::onAddressChanged);
+  connect(&tree, &Address_Tree::structureChanged, this, &Project_Session::onAddressesChanged);
 }
 
 Project_Session::~Project_Session() {
   mDatabase.close();
+}
+
+void Project_Session::onAddressChanged(const QUuid& key) {
+  if (!mDatabase.mAddresses.isChanging()) {
+    Binding_Refresh::one(mDatabase, key);
+  }
+}
+
+void Project_Session::onAddressesChanged() {
+  Binding_Refresh::all(mDatabase);
 }
 
 bool Project_Session::fail(const QString& text) {
@@ -92,6 +106,7 @@ bool Project_Session::open(const QString& path) {
   setPath(absolutePath);
   mFingerprint = fingerprint; // a change during the copying shows at the next save
   mHistory.clear();
+  Binding_Refresh::all(mDatabase);
   emit opened();
   return true;
 }
@@ -116,6 +131,7 @@ bool Project_Session::create(const QString& path, const New_Project::Options& op
   }
   setPath(absolutePath);
   mHistory.clear();
+  Binding_Refresh::all(mDatabase);
   emit opened();
   return true;
 }

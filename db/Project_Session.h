@@ -74,6 +74,8 @@ private:
   };
 
   [[nodiscard]] static Fingerprint fingerprintOf(const QString& path);
+  void onAddressChanged(const QUuid& key);
+  void onAddressesChanged();
   bool fail(const QString& text);
   bool claim(Working_Copy& copy, const QString& path);
   bool copyToWorkingFile(const QString& path);

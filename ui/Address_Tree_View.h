@@ -1,27 +1,85 @@
 #pragma once
 
+#include "base/Group_Address.h"
+#include "db/Address_Clipboard.h"
 #include "ui/Project_Tree_View.h"
 
+#include <QList>
 #include <QSet>
 #include <QUuid>
 
 class Address_Tree_Model;
+class Project_Session;
+class QMenu;
+struct Edit_Result;
 
-/// The tree of group addresses. What is expanded, the current row and the part that is seen survive a new building of
-/// the model; while a filter is set every hit is seen, and afterwards the tree is expanded as it was before.
+/// The tree of group addresses with its commands: make, rename, copy, cut, paste, delete, move by dragging, set a field
+/// of all selected. What is expanded, the selection and the part that is seen survive a new building of the model;
+/// while a filter is set every hit is seen, and afterwards the tree is expanded as it was before.
 class Address_Tree_View : public Project_Tree_View {
   Q_OBJECT
 
 public:
-  /// Model and state outlive the view.
-  Address_Tree_View(Address_Tree_Model& model, const Session_State& state, QWidget* parent = nullptr);
+  /// Session and model outlive the view.
+  Address_Tree_View(Project_Session& session, Address_Tree_Model& model, QWidget* parent = nullptr);
+
+  /// The commands that make something new.
+  [[nodiscard]] QList<QAction*> newCommands() const { return {mAddSub, mAddMiddle, mAddMain}; }
+
+  /// Selects the address or group and brings it into view; nothing when it is filtered out.
+  void showKey(const QUuid& key);
+  /// The groups, addresses and variables of the selected rows, in the order of the rows.
+  [[nodiscard]] QList<QUuid> selectedKeys() const;
+
+signals:
+  /// Something was made and may be filtered out.
+  void added(const QUuid& key);
+  /// What a command did, in a sentence.
+  void info(const QString& text);
+  /// A use of a variable was chosen: the page it stands on.
+  void pageChosen(const QUuid& pageGuid);
+
+protected:
+  void updateCommands() override;
+  void onCopy() override;
 
 private:
+  /// In the order of the rows; those that are not shown are left out.
+  void selectKeys(const QList<QUuid>& keys);
+  void addCommands();
+  [[nodiscard]] QMenu* makeSetMenu();
   void onAboutToBeReset();
   void onReset();
+  void onActivated(const QModelIndex& index);
+  void onHeaderMenu(const QPoint& at);
 
+  /// What the commands work on: selected groups and addresses without variables and uses.
+  [[nodiscard]] QList<QUuid> editedKeys() const;
+  /// Where something new goes; invalid numbers (-1) without a selection.
+  [[nodiscard]] Group_Address currentAddress() const;
+  void toClipboard(Address_Clipboard::Use use);
+  bool tell(const Edit_Result& result);
+  void tellAdded(const Edit_Result& result, const QUuid& key);
+  void onAddMainGroup();
+  void onAddMiddleGroup();
+  void onAddAddress();
+  void onCut();
+  void onPaste();
+  void onDelete();
+  void onSetText(int column);
+  void onSetFlag(int column, bool isOn);
+
+  Project_Session& mSession;
   Address_Tree_Model& mModel;
-  QSet<QUuid> mExpanded; ///< without a filter
+  QAction* mAddMain = nullptr;
+  QAction* mAddMiddle = nullptr;
+  QAction* mAddSub = nullptr;
+  QAction* mCut = nullptr;
+  QAction* mPaste = nullptr;
+  QAction* mDelete = nullptr;
+  QAction* mSet = nullptr; ///< the menu with a field for all selected
+  QSet<QUuid> mExpanded;   ///< without a filter
+  QList<QUuid> mSelected;
   QUuid mCurrent;
   bool mWasFiltered = false;
   int mScroll = 0; ///< without a filter

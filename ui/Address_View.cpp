@@ -5,24 +5,28 @@
 #include "base/Session_State.h"
 #include "db/Address_Tree_Model.h"
 #include "db/Project_Session.h"
+#include "fb/model/FB_Types.h"
 #include "ui/Address_Tree_View.h"
 #include "ui/Empty_Hint.h"
 #include "ui/Theme.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QShortcut>
 #include <QStackedLayout>
 #include <QStackedWidget>
 #include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int cGap = 4;
-constexpr int cFilterDelayMs = 120;
+constexpr int cFilterDelayMs = 0; // several keys that wait already are one filtering
 constexpr int cNameWidth = 200;
 constexpr int cDescriptionWidth = 110;
 
@@ -40,7 +44,7 @@ Address_View::Address_View(Project_Session& session, QWidget* parent)
       mEmpty(new Empty_Hint),
       mFilter(new QLineEdit),
       mTreeOrHint(new QStackedWidget),
-      mTree(new Address_Tree_View(*mModel, session.state())),
+      mTree(new Address_Tree_View(session, *mModel)),
       mNoHit(new Empty_Hint),
       mCount(new QLabel) {
   mPages->setContentsMargins(0, 0, 0, 0);
@@ -56,6 +60,10 @@ Address_View::Address_View(Project_Session& session, QWidget* parent)
   connect(mModel, &QAbstractItemModel::modelReset, this, &Address_View::updateState);
   // A box in the middle of committing an editor would take its focus and commit it again.
   connect(mModel, &Address_Tree_Model::refused, this, &Address_View::refused, Qt::QueuedConnection);
+  connect(mTree, &Address_Tree_View::added, this, &Address_View::showAddress);
+  connect(mTree, &Address_Tree_View::info, this, &Address_View::info);
+  connect(mTree, &Address_Tree_View::pageChosen, this, &Address_View::pageChosen);
+  mModel->setBlockTypeName(FB_Types::name);
   connect(&session, &Project_Session::opened, this, &Address_View::updateState);
   connect(&session, &Project_Session::closed, this, &Address_View::clearFilter);
   connect(&session, &Project_Session::closed, this, &Address_View::updateState);
@@ -68,8 +76,8 @@ QWidget* Address_View::makeListPage() {
   mFilter->setObjectName(QStringLiteral("ui:mAddressFilter"));
   mFilter->setPlaceholderText(tr("Suchen"));
   mFilter->setAccessibleName(tr("Adressen suchen"));
-  mFilter->setToolTip(tr("Zeigt die Zeilen, in denen jedes Wort vorkommt: in Adresse, Name, Beschreibung oder "
-                         "Datenpunkttyp. Escape leert das Feld."));
+  mFilter->setToolTip(tr("Zeigt die Zeilen, in denen jedes Wort vorkommt: in Adresse, Name, Beschreibung, "
+                         "Datenpunkttyp oder Herkunft. Escape leert das Feld."));
   mFilter->addAction(Theme::icon(QStringLiteral("search-white")), QLineEdit::LeadingPosition);
   mFilter->setClearButtonEnabled(true);
   mFilter->installEventFilter(this);
@@ -81,16 +89,7 @@ QWidget* Address_View::makeListPage() {
   connect(mFilter, &QLineEdit::textChanged, escape,
           [escape](const QString& text) { escape->setEnabled(!text.isEmpty()); });
 
-  QHeaderView* const header = mTree->header();
-  header->setObjectName(QStringLiteral("ui:mAddressHeader"));
-  header->setSectionsMovable(true);
-  header->setFirstSectionMovable(false);
-  // The longest address, at the third level behind its icon.
-  const int icon = mTree->style()->pixelMetric(QStyle::PM_SmallIconSize);
-  const int longest = mTree->fontMetrics().horizontalAdvance(QStringLiteral("31/7/255"));
-  header->resizeSection(Address_Tree_Model::cAddress, 3 * mTree->indentation() + icon + longest + 4 * cGap);
-  header->resizeSection(Address_Tree_Model::cName, cNameWidth);
-  header->resizeSection(Address_Tree_Model::cDescription, cDescriptionWidth);
+  setUpColumns();
   mTreeOrHint->addWidget(mTree);
   mTreeOrHint->addWidget(mNoHit);
 
@@ -101,10 +100,53 @@ QWidget* Address_View::makeListPage() {
   auto* const layout = new QVBoxLayout(page);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(cGap);
-  layout->addWidget(mFilter);
+  auto* const bar = new QHBoxLayout;
+  bar->setSpacing(cGap);
+  bar->addWidget(mFilter, 1);
+  bar->addWidget(makeAddButton());
+  layout->addLayout(bar);
   layout->addWidget(mTreeOrHint, 1);
   layout->addWidget(mCount);
   return page;
+}
+
+/// What can be made is in the tree's context menu, too; this shows that it can.
+QWidget* Address_View::makeAddButton() {
+  auto* const button = new QToolButton;
+  button->setIcon(Theme::icon(QStringLiteral("plus_white")));
+  button->setToolTip(tr("Neue Adresse oder Gruppe anlegen"));
+  button->setAccessibleName(button->toolTip());
+  button->setPopupMode(QToolButton::InstantPopup);
+  auto* const menu = new QMenu(button);
+  menu->addActions(mTree->newCommands());
+  button->setMenu(menu);
+  return button;
+}
+
+void Address_View::setUpColumns() {
+  QHeaderView* const header = mTree->header();
+  header->setObjectName(QStringLiteral("ui:mAddressColumns"));
+  header->setSectionsMovable(true);
+  header->setFirstSectionMovable(false);
+  // The longest address, at the third level behind its icon.
+  const int icon = mTree->style()->pixelMetric(QStyle::PM_SmallIconSize);
+  const int longest = mTree->fontMetrics().horizontalAdvance(QStringLiteral("31/7/255"));
+  header->resizeSection(Address_Rows::cAddress, 3 * mTree->indentation() + icon + longest + 4 * cGap);
+  header->resizeSection(Address_Rows::cName, cNameWidth);
+  header->resizeSection(Address_Rows::cDescription, cDescriptionWidth);
+  for (int column = Address_Rows::cType; column < Address_Rows::cColumnCount; ++column) {
+    const QString title = mModel->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    // Room for the arrow of sorting, too.
+    header->resizeSection(column, header->fontMetrics().horizontalAdvance(title) + icon + 4 * cGap);
+  }
+  header->hideSection(Address_Rows::cOrigin);
+}
+
+void Address_View::showAddress(const QUuid& key) {
+  if (mModel->isFiltered() && !mModel->indexOf(key).isValid()) {
+    clearFilter();
+  }
+  mTree->showKey(key);
 }
 
 bool Address_View::eventFilter(QObject* watched, QEvent* event) {
@@ -138,16 +180,17 @@ void Address_View::updateState() {
   const Address_Tree& tree = mSession.database().mAddresses;
   const qsizetype mains = tree.mainGroups().size();
   const qsizetype subs = tree.subGroupCount();
+  const bool isEmpty = mains == 0 && mModel->variableCount() == 0;
   if (!mSession.isOpen()) {
     mEmpty->setText(tr("Kein Projekt ist geöffnet. Hier stehen die Gruppenadressen des Projekts."));
     mEmpty->setStep({});
-  } else if (mains == 0) {
+  } else if (isEmpty) {
     const bool isLocked = mSession.state().operatingMode();
     mEmpty->setText(tr("Hier stehen die Gruppenadressen des Projekts. Sie kommen aus dem Export der ETS."));
     mEmpty->setStep(tr("Adressen &importieren…"));
     mEmpty->setStepEnabled(!isLocked, isLocked ? Session_State::operatingModeRefusal() : QString());
   }
-  mPages->setCurrentIndex(mSession.isOpen() && mains > 0 ? 1 : 0);
+  mPages->setCurrentIndex(mSession.isOpen() && !isEmpty ? 1 : 0);
 
   const bool isWithoutHit = mModel->isFiltered() && mModel->rowCount() == 0;
   mNoHit->setText(tr("Keine Zeile enthält \"%1\".").arg(mFilter->text().simplified()));
@@ -158,10 +201,13 @@ void Address_View::updateState() {
         tr("%1 von %2")
             .arg(Decimal_Text::count(mModel->shownSubGroupCount()), counted(subs, tr("1 Adresse"), tr("%1 Adressen"))));
   } else {
-    mCount->setText(QStringList{counted(mains, tr("1 Hauptgruppe"), tr("%1 Hauptgruppen")),
-                                counted(tree.middleGroupCount(), tr("1 Mittelgruppe"), tr("%1 Mittelgruppen")),
-                                counted(subs, tr("1 Adresse"), tr("%1 Adressen"))}
-                        .join(QStringLiteral(", ")));
+    QStringList counts{counted(mains, tr("1 Hauptgruppe"), tr("%1 Hauptgruppen")),
+                       counted(tree.middleGroupCount(), tr("1 Mittelgruppe"), tr("%1 Mittelgruppen")),
+                       counted(subs, tr("1 Adresse"), tr("%1 Adressen"))};
+    if (mModel->variableCount() > 0) {
+      counts.append(counted(mModel->variableCount(), tr("1 interne Variable"), tr("%1 interne Variablen")));
+    }
+    mCount->setText(counts.join(QStringLiteral(", ")));
   }
 }
 

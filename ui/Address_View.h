@@ -12,6 +12,7 @@ class QLabel;
 class QLineEdit;
 class QStackedLayout;
 class QStackedWidget;
+class QUuid;
 
 /// The group addresses of the open project: a filter field, the tree, and a line that counts. Without addresses, or
 /// without a project, a text says what belongs here. The session outlives the view.
@@ -21,7 +22,10 @@ class Address_View : public QWidget {
 public:
   explicit Address_View(Project_Session& session, QWidget* parent = nullptr);
 
-  /// Width and order of the columns.
+  /// Brings an address, group or variable into view and selects it; a filter that hides it is cleared.
+  void showAddress(const QUuid& key);
+
+  /// Width, order and sorting of the columns, and which are hidden.
   void saveState(App_Settings& settings) const;
   void restoreState(const App_Settings& settings);
 
@@ -30,12 +34,18 @@ signals:
   void importRequested();
   /// An edit was not done; the German text tells why. Comes from the event loop, so a box may be shown.
   void refused(const QString& text);
+  /// What a command did, in a sentence.
+  void info(const QString& text);
+  /// A use of a variable was chosen: the page it stands on.
+  void pageChosen(const QUuid& pageGuid);
 
 protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
   [[nodiscard]] QWidget* makeListPage();
+  [[nodiscard]] QWidget* makeAddButton();
+  void setUpColumns();
   void applyFilter();
   void clearFilter();
   void enterTree();

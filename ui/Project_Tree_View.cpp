@@ -3,7 +3,6 @@
 #include "base/Session_State.h"
 #include "ui/Named_Icon_Delegate.h"
 
-#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -41,18 +40,15 @@ Project_Tree_View::Project_Tree_View(const Session_State& state, QWidget* parent
   setEditTriggers(DoubleClicked);
   setHorizontalScrollMode(ScrollPerPixel);
   setContextMenuPolicy(Qt::ActionsContextMenu);
-  mRename = addCommand(tr("&Umbenennen"), QKeySequence(Qt::Key_F2), &Project_Tree_View::onRename);
-  mCopy = addCommand(tr("&Kopieren"), QKeySequence::Copy, &Project_Tree_View::onCopy);
-  connect(&state, &Session_State::operatingModeChanged, this, &Project_Tree_View::updateCommands);
-  updateCommands();
+  mRename = addCommand(tr("&Umbenennen"), QKeySequence(Qt::Key_F2), [this] { onRename(); });
+  mCopy = addCommand(tr("&Kopieren"), QKeySequence::Copy, [this] { onCopy(); });
+  connect(&state, &Session_State::operatingModeChanged, this, [this] { updateCommands(); });
 }
 
-QAction* Project_Tree_View::addCommand(const QString& text, const QKeySequence& keys,
-                                       void (Project_Tree_View::*slot)()) {
+QAction* Project_Tree_View::addCommand(const QString& text, const QKeySequence& keys) {
   auto* const action = new QAction(text, this);
   action->setShortcut(keys);
   action->setShortcutContext(Qt::WidgetShortcut);
-  connect(action, &QAction::triggered, this, slot);
   addAction(action);
   return action;
 }
@@ -60,9 +56,8 @@ QAction* Project_Tree_View::addCommand(const QString& text, const QKeySequence& 
 void Project_Tree_View::setModel(QAbstractItemModel* model) {
   QTreeView::setModel(model);
   // After the base class has heard of it, so that no command belongs to a row that is gone.
-  connect(model, &QAbstractItemModel::modelReset, this, &Project_Tree_View::updateCommands);
-  connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &Project_Tree_View::updateCommands);
-  updateCommands();
+  connect(model, &QAbstractItemModel::modelReset, this, [this] { updateCommands(); });
+  connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { updateCommands(); });
 }
 
 QAction* Project_Tree_View::commandOf(const QKeyEvent& event) const {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QAction>
 #include <QTreeView>
 
 class Session_State;
-class QAction;
 
 /// A tree of project records: in-place renaming of one column by double click or F2, Ctrl+C for the selected rows as
 /// tab-separated text in the order of rows and columns that is seen, a context menu with both.
@@ -21,17 +21,27 @@ public:
   [[nodiscard]] QString selectedText() const;
 
 protected:
+  /// Adds a command to the context menu and to the keyboard. `keys` may be empty.
+  template <class Function>
+  QAction* addCommand(const QString& text, const QKeySequence& keys, Function&& function) {
+    QAction* const action = addCommand(text, keys);
+    connect(action, &QAction::triggered, this, std::forward<Function>(function));
+    return action;
+  }
+  /// Which commands are enabled now; called whenever the selection, the current row or the operating mode changes.
+  virtual void updateCommands();
+  /// Puts the selected rows on the clipboard.
+  virtual void onCopy();
+
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
-  QAction* addCommand(const QString& text, const QKeySequence& keys, void (Project_Tree_View::*slot)());
+  QAction* addCommand(const QString& text, const QKeySequence& keys);
   [[nodiscard]] QAction* commandOf(const QKeyEvent& event) const;
   [[nodiscard]] QModelIndex renameIndex() const;
-  void updateCommands();
   void onRename();
-  void onCopy();
 
   QAction* mRename = nullptr;
   QAction* mCopy = nullptr;

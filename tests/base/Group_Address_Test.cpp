@@ -27,6 +27,35 @@ private slots:
     }
   }
 
+  void parseGroups() {
+    for (const auto& [text, main, middle] : {std::tuple("1", 1, -1),
+                                             {"31/*", 31, -1},
+                                             {" 0/* ", 0, -1},
+                                             {"1/2", -1, 2},
+                                             {"1/7/*", -1, 7},
+                                             {"32", -1, -1},
+                                             {"32/*", -1, -1},
+                                             {"1/8", -1, -1},
+                                             {"1/2/3", -1, -1},
+                                             {"", -1, -1},
+                                             {"/*", -1, -1},
+                                             {"*", -1, -1},
+                                             {"1//*", -1, -1},
+                                             {"1/*/*", -1, -1},
+                                             {"1/2/*/*", -1, -1},
+                                             {"1/x/*", -1, -1},
+                                             {"-1/*", -1, -1}}) {
+      const QString group = QString::fromLatin1(text);
+      QString mainError;
+      QString middleError;
+      const std::optional<Group_Address> mainRead = Group_Address::parseMainGroup(group, &mainError);
+      const std::optional<Group_Address> middleRead = Group_Address::parseMiddleGroup(group, &middleError);
+      QCOMPARE(mainRead ? mainRead->main() : -1, main);
+      QCOMPARE(middleRead ? middleRead->middle() : -1, middle);
+      QVERIFY2(mainRead.has_value() == mainError.isEmpty() && middleRead.has_value() == middleError.isEmpty(), text);
+    }
+  }
+
   void everyNumber() {
     for (int number = 0; number < 65'536; ++number) {
       const Group_Address address = Group_Address::fromNumber(static_cast<quint16>(number));

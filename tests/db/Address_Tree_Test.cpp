@@ -37,6 +37,16 @@ void setNumber(Address_Tree& tree, const QUuid& key, int number) {
   }));
 }
 
+void moveTo(Address_Tree& tree, const QUuid& key, const QUuid& parent) {
+  QVERIFY(tree.change(key, [&parent](DB_Data_Base& record) {
+    if (auto* const middle = dynamic_cast<DB_Address_Middle_Group*>(&record)) {
+      middle->mMainKey = parent;
+    } else {
+      static_cast<DB_Address_Sub_Group&>(record).mMiddleKey = parent;
+    }
+  }));
+}
+
 /// The tree's rules told in the plainest way: a list of groups of all levels that is sorted anew for every question.
 struct Plain_Tree {
   struct Group {
@@ -62,6 +72,12 @@ struct Plain_Tree {
     at->mNumber = number;
     std::rotate(at, at + 1, mGroups.end());
   }
+  void moveTo(const QUuid& key, const QUuid& parent) {
+    const auto at = find(key);
+    at->mParent = parent;
+    std::rotate(at, at + 1, mGroups.end());
+  }
+  [[nodiscard]] int depth(const QUuid& key) { return key.isNull() ? 0 : 1 + depth(find(key)->mParent); }
   /// A line for each group, and in `first` the one that each number finds.
   QStringList lines(QMap<QString, QUuid>& first, const QUuid& parent = {}, const QString& path = {}) const {
     QStringList lines;
@@ -179,6 +195,15 @@ private slots:
         setNumber(tree, key, number);
         if (isOther) {
           plain.setNumber(key, number);
+        }
+        const QUuid parent = anyKey();
+        const int depth = plain.depth(key);
+        if (depth > 1) {
+          const bool fits = plain.depth(parent) == depth - 1;
+          moveTo(tree, key, parent);
+          if (fits && parent != plain.find(key)->mParent) {
+            plain.moveTo(key, parent);
+          }
         }
       }
       if (step % 10 == 0 || step < 300) {

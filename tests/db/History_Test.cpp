@@ -1,3 +1,4 @@
+#include "db/Address_Edits.h"
 #include "db/Edit_Scope.h"
 #include "db/Project_Edits.h"
 #include "tests/db/Project_Dump.h"
@@ -41,9 +42,9 @@ private slots:
   }
 
   void theEditsOfOneTurnAreOneStep() {
-    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
-    Project_Edits::renameAddress(session(), mBlind, QStringLiteral("B"));
-    Project_Edits::renameAddress(session(), mLight, QStringLiteral("C"));
+    Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, QStringLiteral("A"));
+    Address_Edits::set(session(), {mBlind}, Address_Edits::Field::Name, QStringLiteral("B"));
+    Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, QStringLiteral("C"));
     QTRY_COMPARE(history().position(), size_t(1));
     QVERIFY(history().undo());
     QCOMPARE(name(mLight), QStringLiteral("Licht"));
@@ -52,10 +53,10 @@ private slots:
   }
 
   void aScopeOfItsOwnClosesAtItsEnd() {
-    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
+    Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, QStringLiteral("A"));
     {
       Edit_Scope scope(history(), QStringLiteral("Eigener"), Grouping::Own);
-      Project_Edits::renameAddress(session(), mLight, QStringLiteral("B"));
+      Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, QStringLiteral("B"));
       QVERIFY2(!history().undo(), "no undo while a scope is open");
     }
     QCOMPARE(history().position(), size_t(2));
@@ -70,15 +71,15 @@ private slots:
     for (const Edit_Result& result :
          {Project_Edits::renamePage(session(), page, QString()),
           Project_Edits::renamePage(session(), page, QStringLiteral(" \t ")),
-          Project_Edits::renameAddress(session(), mLight, QString(256, u'x')),
-          Project_Edits::renameAddress(session(), QUuid::createUuid(), QStringLiteral("x")),
+          Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, QString(256, u'x')),
+          Address_Edits::set(session(), {QUuid::createUuid()}, Address_Edits::Field::Name, QStringLiteral("x")),
           Project_Edits::setGeoposition(session(), 90.1, 0), Project_Edits::setGeoposition(session(), 0, qQNaN())}) {
       QVERIFY(!result.mError.isEmpty());
     }
     history().commit();
     QCOMPARE(dump(), before);
     QCOMPARE(history().position(), size_t(0));
-    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
+    Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, QStringLiteral("A"));
     history().commit();
     mRig->mState.setOperatingMode(true);
     QVERIFY(!Project_Edits::setGeoposition(session(), 1, 2) && !history().undo());
@@ -87,7 +88,7 @@ private slots:
 
   void theMarkFollowsTheSavedState() {
     QSignalSpy changed(&history(), &History::changed);
-    Project_Edits::renameAddress(session(), mLight, QStringLiteral("A"));
+    Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, QStringLiteral("A"));
     QVERIFY2(session().isModified(), "before the turn ends");
     QVERIFY(!changed.isEmpty());
     QCOMPARE(session().save(), Project_Session::Save_Result::Saved);
@@ -95,7 +96,7 @@ private slots:
     QVERIFY2(history().canUndo(), "saving keeps the history");
     QVERIFY(history().undo());
     QVERIFY(session().isModified());
-    Project_Edits::renameAddress(session(), mLight, QStringLiteral("B"));
+    Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, QStringLiteral("B"));
     history().commit();
     QVERIFY(history().undo());
     QVERIFY2(session().isModified(), "the saved state can no longer be reached");
@@ -118,7 +119,7 @@ private slots:
 
   void onlyTheLatestStepsAreKept() {
     for (size_t i = 0; i < History::cLimit + 10; ++i) {
-      Project_Edits::renameAddress(session(), mLight, QString::number(i));
+      Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, QString::number(i));
       history().commit();
     }
     QCOMPARE(history().position(), History::cLimit);
@@ -158,8 +159,10 @@ private:
     ProjectDatabase& database = session().database();
     const QString text = QStringLiteral("Neu %1").arg(salt);
     const std::function<void()> edits[cEdits] = {
-        [&] { Project_Edits::renameAddress(session(), mLight, text); },
-        [&] { Project_Edits::renameAddress(session(), database.mAddresses.mainGroup(1)->mKey, text); },
+        [&] { Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, text); },
+        [&] {
+          Address_Edits::set(session(), {database.mAddresses.mainGroup(1)->mKey}, Address_Edits::Field::Name, text);
+        },
         [&] { Project_Edits::renamePage(session(), database.mFbPages.pages().at(0).mGuid, text); },
         [&] { Project_Edits::renamePage(session(), database.mWidgetPages.pages().at(1).mGuid, text); },
         [&] { Project_Edits::setGeoposition(session(), salt, -salt); },

@@ -1,3 +1,4 @@
+#include "db/Address_Edits.h"
 #include "db/Project_Edits.h"
 #include "tests/db/Project_Dump.h"
 #include "tests/db/Session_Rig.h"
@@ -17,7 +18,7 @@ private slots:
     const QUuid key = mRig->addAddress({1, 1, 1}, QStringLiteral("alt"))->mKey;
     QCOMPARE(mRig->mSession.save(), Save::Saved);
     const QByteArray oldBytes = Session_Rig::bytesOf(mRig->path());
-    QVERIFY(Project_Edits::renameAddress(mRig->mSession, key, QStringLiteral("neu")));
+    QVERIFY(Address_Edits::set(mRig->mSession, {key}, Address_Edits::Field::Name, QStringLiteral("neu")));
     const QString other = mRig->path(QStringLiteral("Anderes Haus.zpro"));
     QCOMPARE(mRig->mSession.saveAs(other), Save::Saved);
     QCOMPARE(mRig->mSession.path(), other);
@@ -48,7 +49,7 @@ private slots:
     for (int i = 0; i < 255; ++i) {
       mRig->addAddress({2, 1, i}, QString(200, u'x'));
     }
-    QVERIFY(Project_Edits::renameAddress(mRig->mSession, key, QStringLiteral("neu")));
+    QVERIFY(Address_Edits::set(mRig->mSession, {key}, Address_Edits::Field::Name, QStringLiteral("neu")));
     mRig->mSession.database().mProject.mTimestamp = 1; // whatever it was, a save that fails leaves it
     const QByteArray edited = Project_Dump::project(mRig->mSession.database());
     const QString moved = mRig->folder() + QStringLiteral("-weg");
@@ -84,7 +85,8 @@ private slots:
     QVERIFY(mRig->mSession.database().ressourceWriteRaw(QStringLiteral("bild"), "bytes"));
     QCOMPARE(mRig->mSession.save(), Save::Saved);
     for (const bool isOtherName : {false, true}) {
-      QVERIFY(Project_Edits::renameAddress(mRig->mSession, key, QStringLiteral("neu %1").arg(isOtherName)));
+      QVERIFY(Address_Edits::set(mRig->mSession, {key}, Address_Edits::Field::Name,
+                                 QStringLiteral("neu %1").arg(isOtherName)));
       QVERIFY(QFile::remove(mRig->mSession.database().fileName()));
       const QString path = mRig->path(QStringLiteral("Anderes Haus.zpro"));
       QCOMPARE(isOtherName ? mRig->mSession.saveAs(path) : mRig->mSession.save(), Save::Saved);

@@ -1,0 +1,295 @@
+#include "db/Address_Clipboard.h"
+
+#include "db/Address_Edits.h"
+#include "db/DB_Text.h"
+#include "db/Edit_Scope.h"
+#include "db/Project_Session.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+
+#include <optional>
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+constexpr QLatin1StringView cProject = "project"_L1;
+constexpr QLatin1StringView cUse = "use"_L1;
+constexpr QLatin1StringView cItems = "items"_L1;
+constexpr QLatin1StringView cLevel = "level"_L1;
+constexpr QLatin1StringView cKey = "key"_L1;
+constexpr QLatin1StringView cData = "data"_L1;
+constexpr int cMain = 0;
+constexpr int cMiddle = 1;
+constexpr int cSub = 2;
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("Address_Clipboard", text);
+}
+
+/// So that what one studio dragged is not taken for its own by another that has a copy of the project open.
+QString projectOf(const Project_Session& session) {
+  return session.path();
+}
+
+template <class Group>
+QJsonObject packRecord(int level, const Group& group) {
+  return {{cLevel, level},
+          {cKey, group.mKey.toString(QUuid::WithoutBraces)},
+          {cData, QString::fromLatin1(group.toData().toBase64())}};
+}
+
+QJsonObject packWhole(const DB_Address_Sub_Group& sub) {
+  return packRecord(cSub, sub);
+}
+
+template <class Group>
+QJsonObject packWhole(int level, const Group& group, const auto& children) {
+  QJsonArray items;
+  for (const auto& child : children) {
+    if constexpr (requires { child->mSubGroups; }) {
+      items.append(packWhole(cMiddle, *child, child->mSubGroups));
+    } else {
+      items.append(packWhole(*child));
+    }
+  }
+  QJsonObject packed = packRecord(level, group);
+  packed.insert(cItems, items);
+  return packed;
+}
+
+/// Whether a group around the one of that key is among the keys, too.
+bool isInside(const Address_Tree& tree, const QUuid& key, const QSet<QUuid>& keys) {
+  const DB_Address_Sub_Group* const sub = tree.subGroup(key);
+  const DB_Address_Middle_Group* const middle = tree.middleGroup(sub ? sub->mMiddleKey : key);
+  return (sub && keys.contains(sub->mMiddleKey)) || (middle && keys.contains(middle->mMainKey));
+}
+
+/// The group that takes things of that level in, near the group or address `target`; null when there is none.
+QUuid parentFor(const Address_Tree& tree, int level, const QUuid& target) {
+  const DB_Address_Sub_Group* const sub = tree.subGroup(target);
+  const DB_Address_Middle_Group* const middle = tree.middleGroup(sub ? sub->mMiddleKey : target);
+  const DB_Address_MainGroup* const main = tree.mainGroup(middle ? middle->mMainKey : target);
+  if (level == cSub) {
+    return middle ? middle->mKey : QUuid();
+  }
+  return main ? main->mKey : QUuid();
+}
+
+struct Unpacked {
+  bool mIsMove = false;
+  int mLevel = cSub; ///< of all items
+  QJsonArray mItems;
+};
+
+std::optional<Unpacked> unpack(const Project_Session& session, const QByteArray& packed) {
+  const QJsonObject object = QJsonDocument::fromJson(packed).object();
+  Unpacked unpacked;
+  unpacked.mItems = object.value(cItems).toArray();
+  unpacked.mIsMove = object.value(cUse).toInt() == static_cast<int>(Address_Clipboard::Use::Move) &&
+                     object.value(cProject).toString() == projectOf(session);
+  if (unpacked.mItems.isEmpty()) {
+    return std::nullopt;
+  }
+  unpacked.mLevel = unpacked.mItems.at(0).toObject().value(cLevel).toInt(-1);
+  for (const QJsonValue item : std::as_const(unpacked.mItems)) {
+    if (item.toObject().value(cLevel).toInt(-1) != unpacked.mLevel) {
+      return std::nullopt;
+    }
+  }
+  return unpacked.mLevel >= cMain && unpacked.mLevel <= cSub ? std::optional(unpacked) : std::nullopt;
+}
+
+QList<QUuid> keysOf(const QJsonArray& items) {
+  QList<QUuid> keys;
+  for (const QJsonValue item : items) {
+    keys.append(QUuid(item.toObject().value(cKey).toString()));
+  }
+  return keys;
+}
+
+/// Makes copies of packed groups in the tree.
+class Paster {
+public:
+  Paster(Project_Session& session, Edit_Scope& scope, Address_Clipboard::Result& result)
+      : mSession(session),
+        mTree(session.database().mAddresses),
+        mScope(scope),
+        mResult(result) {}
+
+  /// False when there is no free number.
+  bool addSub(const QJsonObject& from, const DB_Address_Middle_Group& middle) {
+    auto sub = read<DB_Address_Sub_Group>(from);
+    const int main = mTree.mainGroup(middle.mMainKey)->mNumber;
+    sub->mMiddleKey = middle.mKey;
+    sub->mNumber = Address_Edits::freeSub(mSession, main, middle.mNumber, sub->mNumber);
+    sub->mOrigin.clear();
+    return sub->mNumber >= 0 && insert(std::move(sub));
+  }
+
+  bool addMiddle(const QJsonObject& from, const DB_Address_MainGroup& main) {
+    auto middle = read<DB_Address_Middle_Group>(from);
+    middle->mMainKey = main.mKey;
+    middle->mNumber = Address_Edits::freeMiddle(mSession, main.mNumber, middle->mNumber);
+    const DB_Address_Middle_Group* const added = middle->mNumber < 0 ? nullptr : insert(std::move(middle));
+    return added && addChildren(from, [&](const QJsonObject& item) { return addSub(item, *added); });
+  }
+
+  bool addMain(const QJsonObject& from) {
+    auto main = read<DB_Address_MainGroup>(from);
+    main->mNumber = Address_Edits::freeMain(mSession, main->mNumber);
+    const DB_Address_MainGroup* const added = main->mNumber < 0 ? nullptr : insert(std::move(main));
+    return added && addChildren(from, [&](const QJsonObject& item) { return addMiddle(item, *added); });
+  }
+
+  [[nodiscard]] const QUuid& lastKey() const { return mLastKey; }
+
+private:
+  template <class Add>
+  bool addChildren(const QJsonObject& from, Add&& add) {
+    const QUuid own = mLastKey;
+    bool isOk = true;
+    for (const QJsonValue item : from.value(cItems).toArray()) {
+      isOk = isOk && add(item.toObject());
+    }
+    mLastKey = own;
+    return isOk;
+  }
+
+  template <class Group>
+  static std::unique_ptr<Group> read(const QJsonObject& from) {
+    auto group = std::make_unique<Group>();
+    group->setData(QByteArray::fromBase64(from.value(cData).toString().toLatin1()));
+    group->mKey = QUuid::createUuid();
+    group->mName = DB_Text::singleLine(group->mName).left(Address_Edits::cNameLimit);
+    group->mDescription = DB_Text::clean(group->mDescription).left(Address_Edits::cDescriptionLimit);
+    return group;
+  }
+
+  template <class Group>
+  Group* insert(std::unique_ptr<Group> group) {
+    Group* const added = mTree.add(std::move(group));
+    mLastKey = added->mKey;
+    mScope.created(mSession.addressUndo(), added->mKey);
+    ++mResult.mAdded;
+    return added;
+  }
+
+  Project_Session& mSession;
+  Address_Tree& mTree;
+  Edit_Scope& mScope;
+  Address_Clipboard::Result& mResult;
+  QUuid mLastKey;
+};
+
+Edit_Result noPlace(int level) {
+  return Edit_Result::refused(level == cSub ? tr("Adressen gehören in eine Mittelgruppe: zuerst eine auswählen.")
+                                            : tr("Mittelgruppen gehören in eine Hauptgruppe: zuerst eine auswählen."));
+}
+
+/// Whether the items find free numbers; what lies below them fits, as it did where it comes from.
+bool hasRoom(const Address_Tree& tree, const Unpacked& unpacked, const QUuid& parent) {
+  const DB_Address_Middle_Group* const middle = tree.middleGroup(parent);
+  const DB_Address_MainGroup* const main = tree.mainGroup(middle ? middle->mMainKey : parent);
+  int first = 0;
+  int last = unpacked.mLevel == cSub ? Group_Address::cSubMax : Group_Address::cMiddleMax;
+  const auto isTaken = [&](int number) {
+    switch (unpacked.mLevel) {
+    case cSub:
+      return tree.subGroup({main->mNumber, middle->mNumber, number}) != nullptr;
+    case cMiddle:
+      return tree.middleGroup(main->mNumber, number) != nullptr;
+    default:
+      return tree.mainGroup(number) != nullptr;
+    }
+  };
+  if (unpacked.mLevel == cMain) {
+    last = Group_Address::cMainMax;
+  } else if (unpacked.mLevel == cSub && main->mNumber == 0 && middle->mNumber == 0) {
+    first = 1; // 0/0/0 is the bus's own
+  }
+  qsizetype room = 0;
+  for (int number = first; number <= last; ++number) {
+    room += isTaken(number) ? 0 : 1;
+  }
+  return unpacked.mItems.size() <= room;
+}
+
+} // namespace
+
+QString Address_Clipboard::mimeType() {
+  return QStringLiteral("application/x-quarna-addresses");
+}
+
+QByteArray Address_Clipboard::pack(Project_Session& session, const QList<QUuid>& keys, Use use) {
+  const Address_Tree& tree = session.database().mAddresses;
+  const QSet<QUuid> all(keys.cbegin(), keys.cend());
+  QJsonArray items;
+  for (const QUuid& key : keys) {
+    if (isInside(tree, key, all)) {
+      continue;
+    }
+    if (const DB_Address_Sub_Group* const sub = tree.subGroup(key)) {
+      items.append(packWhole(*sub));
+    } else if (const DB_Address_Middle_Group* const middle = tree.middleGroup(key)) {
+      items.append(packWhole(cMiddle, *middle, middle->mSubGroups));
+    } else if (const DB_Address_MainGroup* const main = tree.mainGroup(key)) {
+      items.append(packWhole(cMain, *main, main->mMiddleGroups));
+    }
+  }
+  return QJsonDocument(QJsonObject{{cProject, projectOf(session)}, {cUse, static_cast<int>(use)}, {cItems, items}})
+      .toJson(QJsonDocument::Compact);
+}
+
+bool Address_Clipboard::fits(Project_Session& session, const QByteArray& packed, const QUuid& target) {
+  const std::optional<Unpacked> unpacked = unpack(session, packed);
+  return unpacked &&
+         (unpacked->mLevel == cMain || !parentFor(session.database().mAddresses, unpacked->mLevel, target).isNull());
+}
+
+Edit_Result Address_Clipboard::paste(Project_Session& session, const QByteArray& packed, const QUuid& target,
+                                     Result& result) {
+  result = {};
+  Address_Tree& tree = session.database().mAddresses;
+  const std::optional<Unpacked> unpacked = unpack(session, packed);
+  if (!unpacked) {
+    return Edit_Result::refused(tr("Einfügen lassen sich Adressen, Mittelgruppen oder Hauptgruppen, aber nicht "
+                                   "gemischt."));
+  }
+  const QUuid parent = parentFor(tree, unpacked->mLevel, target);
+  if (unpacked->mLevel != cMain && parent.isNull()) {
+    return noPlace(unpacked->mLevel);
+  }
+  if (unpacked->mIsMove && unpacked->mLevel != cMain) {
+    result.mKeys = keysOf(unpacked->mItems);
+    result.mMoved = result.mKeys.size();
+    return Address_Edits::move(session, result.mKeys, parent);
+  }
+  if (!hasRoom(tree, *unpacked, parent)) {
+    return Edit_Result::refused(
+        tr("In der Gruppe sind nicht genug Nummern frei für %1 Einträge.").arg(unpacked->mItems.size()));
+  }
+  Edit_Scope scope(session.history(), tr("Einfügen"));
+  if (!scope) {
+    return Edit_Result::refused(scope.refusal());
+  }
+  Paster paster(session, scope, result);
+  tree.beginChange();
+  for (const QJsonValue value : unpacked->mItems) {
+    const QJsonObject item = value.toObject();
+    const bool isAdded = unpacked->mLevel == cSub      ? paster.addSub(item, *tree.middleGroup(parent))
+                         : unpacked->mLevel == cMiddle ? paster.addMiddle(item, *tree.mainGroup(parent))
+                                                       : paster.addMain(item);
+    if (isAdded) {
+      result.mKeys.append(paster.lastKey());
+    } else {
+      result.mFaults.append(tr("Ein Eintrag fand keine freie Nummer."));
+    }
+  }
+  tree.endChange();
+  return Edit_Result::done();
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "db/Edit_Result.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QUuid>
+
+class Project_Session;
+
+/// Group addresses on the clipboard and while they are dragged: packed with all their fields, and with everything below
+/// them. What is read comes from outside and is checked.
+namespace Address_Clipboard {
+
+[[nodiscard]] QString mimeType();
+
+enum class Use {
+  Copy, ///< pasting makes new addresses with keys of their own
+  Move, ///< pasting in the same project moves the addresses, so bindings follow; elsewhere it copies
+};
+
+struct Result {
+  qsizetype mAdded = 0;   ///< new addresses and groups
+  qsizetype mChanged = 0; ///< of those that were there
+  qsizetype mMoved = 0;
+  QStringList mFaults; ///< one German sentence for each line that was left out
+  QList<QUuid> mKeys;  ///< what was pasted, without what lies below it
+};
+
+[[nodiscard]] QByteArray pack(Project_Session& session, const QList<QUuid>& keys, Use use);
+
+/// Whether `paste` would find a place for it.
+[[nodiscard]] bool fits(Project_Session& session, const QByteArray& packed, const QUuid& target);
+
+/// Brings what was packed into the group of that key, or beside the group or address of that key: addresses into its
+/// middle group, middle groups into its main group; main groups need no target. They keep their number where it is
+/// free, else get the next free one. One undo step; without room for all of them nothing is pasted.
+Edit_Result paste(Project_Session& session, const QByteArray& packed, const QUuid& target, Result& result);
+
+} // namespace Address_Clipboard

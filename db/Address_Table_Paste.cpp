@@ -1,0 +1,250 @@
+#include "db/Address_Table_Paste.h"
+
+#include "db/Address_Edits.h"
+#include "db/Delimited_Text.h"
+#include "db/Edit_Scope.h"
+#include "db/Project_Session.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+
+namespace {
+
+using Field = Address_Edits::Field;
+using Result = Address_Clipboard::Result;
+using Rows = std::vector<Delimited_Text::Row>;
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("Address_Table_Paste", text);
+}
+
+/// What a title says of its column: the address, or a field.
+struct Title_Row {
+  const char* mTitle;
+  std::optional<Field> mField; ///< none for the address
+};
+
+constexpr Title_Row cTitles[] = {
+    {"adresse", {}},
+    {"address", {}},
+    {"gruppenadresse", {}},
+    {"name", Field::Name},
+    {"gruppenname", Field::Name},
+    {"bezeichnung", Field::Name},
+    {"beschreibung", Field::Description},
+    {"description", Field::Description},
+    {"kommentar", Field::Description},
+    {"datenpunkttyp", Field::Type},
+    {"datapointtype", Field::Type},
+    {"dpt", Field::Type},
+    {"typ", Field::Type},
+    {"lesen start", Field::ReadAtStart},
+    {"lesen zyklisch", Field::ReadCyclic},
+    {"schreiben", Field::Write},
+    {"aktiv", Field::Active},
+};
+
+const Title_Row* titleOf(const QString& cell) {
+  const QString title = cell.simplified().toLower();
+  const auto* const found = std::find_if(std::begin(cTitles), std::end(cTitles),
+                                         [&title](const Title_Row& row) { return title == QLatin1String(row.mTitle); });
+  return found == std::end(cTitles) ? nullptr : found;
+}
+
+/// Which column holds what; -1 for none.
+struct Layout {
+  int mAddress = -1;
+  std::map<Field, int> mColumns;
+  bool mHasTitles = false;
+};
+
+bool isAddress(const QString& cell) {
+  return cell.contains(u'/') &&
+         (Group_Address::parse(cell) || Group_Address::parseMiddleGroup(cell) || Group_Address::parseMainGroup(cell));
+}
+
+Layout layoutOf(const Rows& rows) {
+  Layout layout;
+  const QStringList& first = rows.front().mFields;
+  for (int column = 0; column < first.size(); ++column) {
+    if (const Title_Row* const title = titleOf(first[column])) {
+      layout.mHasTitles = true;
+      if (title->mField) {
+        layout.mColumns.emplace(*title->mField, column);
+      } else if (layout.mAddress < 0) {
+        layout.mAddress = column;
+      }
+    }
+  }
+  if (layout.mHasTitles) {
+    return layout;
+  }
+  const auto withAddress = std::count_if(
+      rows.cbegin(), rows.cend(), [](const Delimited_Text::Row& row) { return isAddress(row.mFields.value(0)); });
+  int column = 0;
+  if (2 * static_cast<size_t>(withAddress) >= rows.size()) {
+    layout.mAddress = column++;
+  }
+  for (const Field field : {Field::Name, Field::Description, Field::Type}) {
+    layout.mColumns.emplace(field, column++);
+  }
+  return layout;
+}
+
+bool isFlag(Field field) {
+  return field >= Field::ReadAtStart;
+}
+
+/// "ja", "x", "1", "ein", "wahr"; anything else is no.
+bool isYes(const QString& cell) {
+  static const QStringList yes{QStringLiteral("ja"),   QStringLiteral("yes"), QStringLiteral("x"),
+                               QStringLiteral("1"),    QStringLiteral("ein"), QStringLiteral("wahr"),
+                               QStringLiteral("true"), QStringLiteral("on")};
+  return yes.contains(cell.trimmed().toLower());
+}
+
+/// A type cell may carry the name behind the number: "9.001 Temperatur".
+QString typeIn(const QString& cell) {
+  return cell.trimmed().section(u' ', 0, 0);
+}
+
+class Paster {
+public:
+  Paster(Project_Session& session, const Layout& layout, const QUuid& target, Result& result)
+      : mSession(session),
+        mTree(session.database().mAddresses),
+        mLayout(layout),
+        mTarget(target),
+        mResult(result) {}
+
+  void paste(const Delimited_Text::Row& row) {
+    const Edit_Result edit = pasteRow(row.mFields);
+    if (!edit) {
+      mResult.mFaults.append(tr("Zeile %1: %2").arg(row.mLine).arg(edit.mError));
+    }
+  }
+
+private:
+  [[nodiscard]] QString cell(const QStringList& cells, int column) const {
+    return column < 0 ? QString() : cells.value(column).trimmed();
+  }
+
+  Edit_Result pasteRow(const QStringList& cells) {
+    for (const auto& [field, column] : mLayout.mColumns) {
+      const QString text = cell(cells, column);
+      const Edit_Result check = Address_Edits::check(field, field == Field::Type ? typeIn(text) : text);
+      if (!check) {
+        return check;
+      }
+    }
+    const QString address = cell(cells, mLayout.mAddress);
+    if (address.isEmpty()) {
+      return pasteBeside(cells);
+    }
+    if (const auto main = Group_Address::parseMainGroup(address); main && address.endsWith(u'*')) {
+      return pasteAt(cells, mTree.mainGroup(main->main()),
+                     [&](QUuid* key) { return Address_Edits::addMainGroup(mSession, main->main(), {}, key); });
+    }
+    if (const auto middle = Group_Address::parseMiddleGroup(address); middle && address.endsWith(u'*')) {
+      return pasteAt(cells, mTree.middleGroup(middle->main(), middle->middle()), [&](QUuid* key) {
+        return Address_Edits::addMiddleGroup(mSession, middle->main(), middle->middle(), {}, key);
+      });
+    }
+    QString error;
+    const std::optional<Group_Address> sub = Group_Address::parse(address, &error);
+    return sub ? pasteAt(cells, mTree.subGroup(*sub),
+                         [&](QUuid* key) { return Address_Edits::add(mSession, *sub, {}, key); })
+               : Edit_Result::refused(error);
+  }
+
+  /// A row without an address: the next free one of the target's middle group.
+  Edit_Result pasteBeside(const QStringList& cells) {
+    const DB_Address_Sub_Group* const sub = mTree.subGroup(mTarget);
+    const DB_Address_Middle_Group* const middle = mTree.middleGroup(sub ? sub->mMiddleKey : mTarget);
+    const DB_Address_MainGroup* const main = middle ? mTree.mainGroup(middle->mMainKey) : nullptr;
+    if (!main) {
+      return Edit_Result::refused(tr("ohne Adresse, und es ist keine Mittelgruppe ausgewählt, in die sie könnte."));
+    }
+    const int number = Address_Edits::freeSub(mSession, main->mNumber, middle->mNumber, mNext);
+    if (number < 0) {
+      return Edit_Result::refused(tr("In der Mittelgruppe %1 ist keine Adresse mehr frei.")
+                                      .arg(Group_Address::middleGroupText(main->mNumber, middle->mNumber)));
+    }
+    mNext = number + 1;
+    const Group_Address address(main->mNumber, middle->mNumber, number);
+    return pasteAt(cells, static_cast<const DB_Address_Sub_Group*>(nullptr),
+                   [&](QUuid* key) { return Address_Edits::add(mSession, address, {}, key); });
+  }
+
+  template <class Group, class Add>
+  Edit_Result pasteAt(const QStringList& cells, const Group* present, Add&& add) {
+    QUuid key = present ? present->mKey : QUuid();
+    if (!present) {
+      if (Edit_Result edit = add(&key); !edit) {
+        return edit;
+      }
+    }
+    bool isChanged = false;
+    for (const auto& [field, column] : mLayout.mColumns) {
+      const QString text = cell(cells, column);
+      const bool isOfAddress = field != Field::Name && field != Field::Description;
+      // A short row, or one of a table without titles, does not empty what it does not tell.
+      const bool isTold = column < cells.size() && (mLayout.mHasTitles || !text.isEmpty());
+      if (!isTold || (isOfAddress && !mTree.subGroup(key)) || (isFlag(field) && text.isEmpty())) {
+        continue;
+      }
+      const QVariant value = isFlag(field) ? QVariant(isYes(text)) : field == Field::Type ? typeIn(text) : text;
+      Address_Edits::set(mSession, {key}, field, value);
+      isChanged = true;
+    }
+    mResult.mAdded += present ? 0 : 1;
+    mResult.mChanged += present && isChanged ? 1 : 0;
+    mResult.mKeys.append(key);
+    return Edit_Result::done();
+  }
+
+  Project_Session& mSession;
+  Address_Tree& mTree;
+  const Layout& mLayout;
+  QUuid mTarget;
+  Result& mResult;
+  int mNext = 0;
+};
+
+} // namespace
+
+Edit_Result Address_Table_Paste::paste(Project_Session& session, const QString& text, const QUuid& target,
+                                       Result& result) {
+  result = {};
+  Rows rows;
+  const QChar separator = text.contains(u'\t') ? u'\t' : u';';
+  Delimited_Text table(text, separator);
+  for (Delimited_Text::Row row; table.next(row);) {
+    const bool isEmpty = std::all_of(row.mFields.cbegin(), row.mFields.cend(),
+                                     [](const QString& cell) { return cell.trimmed().isEmpty(); });
+    if (!isEmpty) {
+      rows.push_back(row);
+    }
+  }
+  if (rows.empty()) {
+    return Edit_Result::refused(tr("Die Zwischenablage enthält weder Adressen noch eine Tabelle."));
+  }
+  Edit_Scope scope(session.history(), tr("Einfügen"), Edit_Scope::Grouping::Own);
+  if (!scope) {
+    return Edit_Result::refused(scope.refusal());
+  }
+  const Layout layout = layoutOf(rows);
+  Paster paster(session, layout, target, result);
+  Address_Tree& tree = session.database().mAddresses;
+  tree.beginChange();
+  for (size_t i = layout.mHasTitles ? 1 : 0; i < rows.size(); ++i) {
+    paster.paste(rows[i]);
+  }
+  tree.endChange();
+  const bool isNothing = result.mKeys.isEmpty();
+  return isNothing ? Edit_Result::refused(result.mFaults.value(0, tr("Die Tabelle hat keine Zeilen.")))
+                   : Edit_Result::done();
+}

@@ -1,0 +1,57 @@
+#include "ui/Datapoint_Edit.h"
+
+#include "base/Datapoint_Types.h"
+#include "db/Address_Edits.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QStringListModel>
+
+namespace {
+
+constexpr int cShownTypes = 12;
+constexpr int cListWidth = 320;
+
+/// Of "9.001 Temperatur (°C)" the number.
+QString numberIn(const QString& text) {
+  return text.trimmed().section(QLatin1Char(' '), 0, 0);
+}
+
+QStringList allTypes() {
+  QStringList types;
+  for (const Datapoint_Type& type : Datapoint_Types::all()) {
+    types.append(Datapoint_Types::describe(type.mId));
+  }
+  return types;
+}
+
+} // namespace
+
+Datapoint_Edit::Datapoint_Edit(QWidget* parent)
+    : Checked_Line_Edit(
+          [](const QString& text) { return Address_Edits::check(Address_Edits::Field::Type, numberIn(text)).mError; },
+          parent) {
+  static const QStringList types = allTypes();
+  auto* const completer = new QCompleter(types, this);
+  completer->setCaseSensitivity(Qt::CaseInsensitive);
+  completer->setFilterMode(Qt::MatchContains);
+  completer->setMaxVisibleItems(cShownTypes);
+  completer->popup()->setMinimumWidth(cListWidth);
+  setCompleter(completer);
+  setPlaceholderText(tr("Nummer oder Name"));
+}
+
+Datapoint_Id Datapoint_Edit::type() const {
+  return Datapoint_Id::parse(numberIn(text())).value_or(Datapoint_Id());
+}
+
+/// The arrow shows all types when nothing is typed yet.
+void Datapoint_Edit::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Down && !completer()->popup()->isVisible()) {
+    completer()->setCompletionPrefix(numberIn(text()));
+    completer()->complete();
+    return;
+  }
+  Checked_Line_Edit::keyPressEvent(event);
+}
