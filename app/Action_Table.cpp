@@ -52,6 +52,13 @@ constexpr Action_Row cRows[] = {
     {"onEdit_ODBC_Import", QT_TRANSLATE_NOOP("Action_Table", "&Adressen ODBC Import (ESF/XML)"), "import_white", "",
      QT_TRANSLATE_NOOP("Action_Table", "Übernimmt die Gruppenadressen eines ETS-Exports in das Projekt"), Menu::Extras,
      0, Bar::None, When::Editable},
+    {"onEdit_Search_Unused", QT_TRANSLATE_NOOP("Action_Table", "Adressen nach Ver&wendung suchen…"), "search-white", "",
+     QT_TRANSLATE_NOOP("Action_Table", "Zeigt, welche Adressen wo oder gar nicht verwendet sind"), Menu::Extras, 1,
+     Bar::None, When::Open},
+    {"onEdit_CheckValidAddress",
+     QT_TRANSLATE_NOOP("Action_Table", "Verknüpfungen auf &ungültige Adressen prüfen"), "warning_white", "",
+     QT_TRANSLATE_NOOP("Action_Table", "Zeigt Verknüpfungen, deren Adresse es nicht mehr gibt"), Menu::Extras, 1,
+     Bar::None, When::Open},
 
     {"onShowAboutDlg", QT_TRANSLATE_NOOP("Action_Table", "&Quarna-Studio"), "info_white", "",
      QT_TRANSLATE_NOOP("Action_Table", "Zeigt die Version des Studios"), Menu::Help, 0, Bar::None, When::Window},

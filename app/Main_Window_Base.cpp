@@ -132,6 +132,16 @@ void Main_Window_Base::showAddresses() {
   mTabs->setCurrentWidget(mAddressView);
 }
 
+void Main_Window_Base::showAddress(const QUuid& key) {
+  showAddresses();
+  mAddressView->showAddress(key);
+}
+
+void Main_Window_Base::showPage(const QUuid& guid) {
+  mTabs->setCurrentWidget(mPageView);
+  mPageView->showPage(guid);
+}
+
 void Main_Window_Base::showInfo(const QString& text) {
   // A path gives way in the middle: its end says which file it is.
   const int width = statusBar()->width() - 2 * fontMetrics().height();

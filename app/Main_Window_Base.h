@@ -13,6 +13,7 @@ class QAction;
 class QSplitter;
 class QStackedWidget;
 class QTabWidget;
+class QUuid;
 
 /// The frame of the main window: its parts and their layout, its title, what it remembers of its looks.
 ///
@@ -38,6 +39,9 @@ protected:
   void showStartPage();
   void showProjectPage();
   void showAddresses();
+  /// Each shows its tab and selects there.
+  void showAddress(const QUuid& key);
+  void showPage(const QUuid& guid);
   /// In the status bar, for some seconds.
   void showInfo(const QString& text);
 

@@ -13,7 +13,9 @@
 #include "base/Session_State.h"
 #include "db/Project_Edits.h"
 #include "db/Project_Session.h"
+#include "ui/Address_Search_Dialog.h"
 #include "ui/Address_View.h"
+#include "ui/Invalid_Address_Dialog.h"
 
 #include <QAction>
 #include <QApplication>
@@ -199,6 +201,24 @@ void Main_Window_Dev::onEdit_ODBC_Import() {
     showAddresses();
   }
   mDialogs->showMessage(outcome.mText);
+}
+
+template <class Dialog>
+void Main_Window_Dev::showResults(Result_Dialog*& dialog) {
+  if (!dialog) {
+    dialog = new Dialog(mSession, mSettings, this);
+    connect(dialog, &Result_Dialog::addressChosen, this, &Main_Window_Dev::showAddress);
+    connect(dialog, &Result_Dialog::pageChosen, this, &Main_Window_Dev::showPage);
+  }
+  dialog->bringUp();
+}
+
+void Main_Window_Dev::onEdit_Search_Unused() {
+  showResults<Address_Search_Dialog>(mAddressSearch);
+}
+
+void Main_Window_Dev::onEdit_CheckValidAddress() {
+  showResults<Invalid_Address_Dialog>(mInvalidAddresses);
 }
 
 void Main_Window_Dev::onShowAboutDlg() {

@@ -5,6 +5,7 @@
 #include <memory>
 
 class Project_Lifecycle;
+class Result_Dialog;
 class Session_State;
 class Window_Actions;
 class Window_Dialogs;
@@ -34,6 +35,8 @@ public slots:
   void onEdit_Redo();
   void onEditGeopos();
   void onEdit_ODBC_Import();
+  void onEdit_Search_Unused();
+  void onEdit_CheckValidAddress();
   void onShowAboutDlg();
 
 protected:
@@ -48,10 +51,14 @@ private:
   void onOpenPath(const QString& path);
   void commitEditor();
   void onBuildEditors(int percent);
+  template <class Dialog>
+  void showResults(Result_Dialog*& dialog);
 
   Session_State& mState;
   std::unique_ptr<Window_Dialogs> mDialogs;
   Window_Actions* mActions;
   Project_Lifecycle* mLifecycle;
+  Result_Dialog* mAddressSearch = nullptr; ///< made when first asked for, as the one below
+  Result_Dialog* mInvalidAddresses = nullptr;
   QString mImportFolder; ///< of the last import in this run
 };

@@ -66,6 +66,9 @@ void Address_Usage::visit(const ProjectDatabase& database, const Visitor& onBind
 
 Address_Usage::Address_Usage(const ProjectDatabase& database) {
   std::vector<Found> found;
+  const qsizetype owners = database.mFbPages.childCount() + database.mWidgetPages.childCount();
+  mRangeByKey.reserve(owners);
+  found.reserve(static_cast<size_t>(2 * owners));
   visit(database, [this, &database, &found](const DB_Address_Binding& binding, const Address_Use& use) {
     if (binding.mKind != DB_Address_Binding::Kind::None) {
       add(database, binding, use, found);

@@ -52,6 +52,8 @@ public:
     QString mPlace; ///< "Eingang 1"
     /// "Programm 1 / Und: Eingang 1"
     [[nodiscard]] QString toString() const;
+
+    friend bool operator==(const Use_Text&, const Use_Text&) = default;
   };
 
   /// What a type of blocks is called; may answer an empty text.

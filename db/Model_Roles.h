@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Group_Address.h"
+
 #include <QString>
 #include <QVariant>
 
@@ -9,6 +11,16 @@ namespace Model_Roles {
 /// Name of the icon (QString, without path and ending) that stands before the item's text. The layer links no GUI, so
 /// it names the picture and the view draws it.
 inline constexpr int cIconName = Qt::UserRole;
+
+/// What the cell is sorted by: a text or a whole number, in one column always the same of both.
+inline constexpr int cSortKey = Qt::UserRole + 1;
+
+[[nodiscard]] inline qint64 sortKey(const Group_Address& address) {
+  return (qint64(address.main()) << 32) + (qint64(address.middle()) << 16) + address.sub();
+}
+
+/// What the row is the same by after the model was built anew; of a type that compares.
+inline constexpr int cIdentity = Qt::UserRole + 2;
 
 /// For the tool tip role: the text as it is. A tool tip would take what looks like mark-up for it.
 [[nodiscard]] inline QVariant toolTip(const QString& text) {

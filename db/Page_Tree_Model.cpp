@@ -152,11 +152,11 @@ QString Page_Tree_Model::captionOf(const QModelIndex& index) const {
   return index.row() == cLogicBranch ? tr("Programm") : tr("Visualisierung");
 }
 
-QString Page_Tree_Model::iconOf(const QModelIndex& index) const {
-  if (logicPage(index)) {
+QString Page_Tree_Model::pageIcon(const ProjectDatabase& database, const QUuid& guid) {
+  if (database.mFbPages.page(guid)) {
     return QStringLiteral("account_tree-white");
   }
-  const DB_Widget_Page* const page = visuPage(index);
+  const DB_Widget_Page* const page = database.mWidgetPages.page(guid);
   if (!page) {
     return {};
   }
@@ -175,7 +175,7 @@ QVariant Page_Tree_Model::data(const QModelIndex& index, int role) const {
   case Qt::ToolTipRole:
     return Model_Roles::toolTip(captionOf(index));
   case Model_Roles::cIconName: {
-    const QString icon = iconOf(index);
+    const QString icon = pageIcon(mSession.database(), guidOf(index));
     return icon.isEmpty() ? QVariant() : icon;
   }
   default:

@@ -10,6 +10,7 @@
 
 #include <optional>
 
+class ProjectDatabase;
 class Project_Session;
 
 /// The pages of the open project as a tree of one column with two branches: "Programm" lists the logic pages,
@@ -42,6 +43,8 @@ public:
   /// Invalid when there is no such page.
   [[nodiscard]] QModelIndex indexOf(const QUuid& guid) const;
   [[nodiscard]] std::optional<Details> detailsOf(const QUuid& guid) const;
+  /// Name of the icon of a page; empty when there is no such page.
+  [[nodiscard]] static QString pageIcon(const ProjectDatabase& database, const QUuid& guid);
 
   /// Also for the caption shown elsewhere than in the tree; false, after `refused`, when it was not done.
   bool rename(const QUuid& guid, const QString& caption);
@@ -64,7 +67,6 @@ private:
   [[nodiscard]] const DB_FB_Page* logicPage(const QModelIndex& index) const;
   [[nodiscard]] const DB_Widget_Page* visuPage(const QModelIndex& index) const;
   [[nodiscard]] QString captionOf(const QModelIndex& index) const;
-  [[nodiscard]] QString iconOf(const QModelIndex& index) const;
   [[nodiscard]] QString controllerText(int number) const;
 
   void onPageChanged(const QUuid& guid);

@@ -61,6 +61,15 @@ Page_View::Page_View(Project_Session& session, QWidget* parent)
   updateState();
 }
 
+void Page_View::showPage(const QUuid& guid) {
+  const QModelIndex page = mModel->indexOf(guid);
+  if (page.isValid()) {
+    mTree->setExpanded(page.parent(), true);
+    mTree->setCurrentIndex(page);
+    mTree->scrollTo(page);
+  }
+}
+
 void Page_View::onAboutToBeReset() {
   for (int branch = 0; branch < Page_Tree_Model::cBranchCount; ++branch) {
     mIsCollapsed[static_cast<size_t>(branch)] = !mTree->isExpanded(mModel->index(branch, 0));

@@ -21,6 +21,9 @@ class Page_View : public QWidget {
 public:
   explicit Page_View(Project_Session& session, QWidget* parent = nullptr);
 
+  /// Selects a page and scrolls to it; nothing when there is no such page.
+  void showPage(const QUuid& guid);
+
   /// Between tree and details; its object name is "ui:mSplitterRight".
   [[nodiscard]] QSplitter* splitter() { return mSplitter; }
 

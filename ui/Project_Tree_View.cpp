@@ -97,6 +97,11 @@ QModelIndex Project_Tree_View::renameIndex() const {
   return currentIndex().siblingAtColumn(mRenameColumn);
 }
 
+void Project_Tree_View::removeRename() {
+  setEditTriggers(NoEditTriggers);
+  removeAction(mRename);
+}
+
 void Project_Tree_View::updateCommands() {
   mRename->setEnabled(renameIndex().flags().testFlag(Qt::ItemIsEditable));
   mCopy->setEnabled(selectionModel() && selectionModel()->hasSelection());

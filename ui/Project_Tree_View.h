@@ -17,6 +17,8 @@ public:
   void setModel(QAbstractItemModel* model) override;
   /// The column whose items can be renamed; 0 unless set.
   void setRenameColumn(int column) { mRenameColumn = column; }
+  /// Without the command to rename: nothing in this tree ever can be.
+  void removeRename();
   /// The selected rows as tab-separated text, one a line.
   [[nodiscard]] QString selectedText() const;
 

@@ -59,6 +59,11 @@ void pressSoon(const QString& text, bool* isPressed) {
   });
 }
 
+qsizetype visibleWindows() {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  return std::count_if(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
+}
+
 } // namespace
 
 class Main_Window_Test : public QObject {
@@ -81,7 +86,8 @@ private slots:
                            QString::number(rig.mSession.history().position()),
                            QString::number(rig.mSession.isModified()),
                            QString::number(rig.stack()->currentIndex()),
-                           QString::number(rig.mWindow.isVisible())};
+                           QString::number(rig.mWindow.isVisible()),
+                           QString::number(visibleWindows())};
       };
       const QStringList before = signature();
       bool isDialogSeen = row.mIsSubmenu; // opens its menu only

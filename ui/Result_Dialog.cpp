@@ -1,0 +1,156 @@
+#include "ui/Result_Dialog.h"
+
+#include "base/App_Settings.h"
+#include "db/Project_Session.h"
+#include "ui/Result_List.h"
+#include "ui/Theme.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSplitter>
+
+namespace {
+constexpr int cGap = 8;
+constexpr int cFilterDelayMs = 120;
+} // namespace
+
+Result_Dialog::Result_Dialog(Project_Session& session, App_Settings& settings, const QString& name, const QSize& size,
+                             QWidget* parent)
+    : QDialog(parent),
+      mSession(session),
+      mSettings(settings),
+      mWatch(session),
+      mTop(new QHBoxLayout),
+      mFilter(new QLineEdit),
+      mBody(new QSplitter(Qt::Vertical)),
+      mCount(new QLabel) {
+  setObjectName(name);
+  makeFilter();
+  mBody->setChildrenCollapsible(false);
+  mCount->setObjectName(QStringLiteral("ui:mCount"));
+  Theme::setTextRole(*mCount, Theme::Role::SecondaryText);
+  mCount->setTextFormat(Qt::PlainText);
+  auto* const closeButton = new QPushButton(tr("S&chließen"));
+  closeButton->setAutoDefault(false); // Enter belongs to the lists
+  connect(closeButton, &QPushButton::clicked, this, &QDialog::close);
+
+  auto* const bottom = new QHBoxLayout;
+  bottom->addWidget(mCount, 1);
+  bottom->addWidget(closeButton);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setSpacing(cGap);
+  layout->addLayout(mTop);
+  layout->addWidget(mBody, 1);
+  layout->addLayout(bottom);
+
+  connect(&session, &Project_Session::closed, this, &QDialog::close);
+  connect(&mWatch, &Address_Usage_Watch::changed, this, [this] {
+    if (isVisible()) {
+      refresh();
+    }
+  });
+  resize(size);
+  restoreGeometry(mSettings.viewState(name));
+}
+
+Result_Dialog::~Result_Dialog() {
+  if (isVisible()) {
+    remember();
+  }
+}
+
+void Result_Dialog::makeFilter() {
+  mFilter->setPlaceholderText(tr("1/2/3, 1/2/*, 1/* oder Wörter"));
+  mFilter->setToolTip(tr("Zeigt die Zeilen, in denen jedes Wort vorkommt. 1/2/3 ist genau diese Adresse, 1/2/* und 1/* "
+                         "sind alle der Gruppe. Escape leert das Feld."));
+  mFilter->addAction(Theme::icon(QStringLiteral("search-white")), QLineEdit::LeadingPosition);
+  mFilter->setClearButtonEnabled(true);
+  mFilter->installEventFilter(this);
+  auto* const label = new QLabel(tr("&Suchen:"));
+  label->setBuddy(mFilter);
+  mTop->setSpacing(cGap);
+  mTop->addWidget(label);
+  mTop->addWidget(mFilter, 1);
+
+  // Escape closes the window when there is nothing to clear.
+  auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), mFilter);
+  escape->setContext(Qt::WidgetShortcut);
+  escape->setEnabled(false);
+  connect(escape, &QShortcut::activated, mFilter, &QLineEdit::clear);
+  connect(mFilter, &QLineEdit::textChanged, escape,
+          [escape](const QString& text) { escape->setEnabled(!text.isEmpty()); });
+
+  mFilterDelay.setSingleShot(true);
+  mFilterDelay.setInterval(cFilterDelayMs);
+  connect(&mFilterDelay, &QTimer::timeout, this, &Result_Dialog::filterNow);
+  connect(mFilter, &QLineEdit::textChanged, &mFilterDelay, qOverload<>(&QTimer::start));
+}
+
+const ProjectDatabase& Result_Dialog::database() const {
+  return mSession.database();
+}
+
+void Result_Dialog::addList(Result_List& list, int stretch) {
+  mBody->addWidget(&list);
+  mBody->setStretchFactor(mBody->count() - 1, stretch);
+  mLists.push_back(&list);
+  list.restoreState(mSettings);
+}
+
+void Result_Dialog::setCountText(const QString& text) {
+  mCount->setText(text);
+}
+
+void Result_Dialog::bringUp() {
+  show();
+  raise();
+  activateWindow();
+}
+
+void Result_Dialog::filterNow() {
+  mFilterDelay.stop();
+  applyFilter();
+}
+
+void Result_Dialog::enterList() {
+  filterNow();
+  mainList().enter();
+}
+
+bool Result_Dialog::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == mFilter && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter) {
+      enterList();
+      return true;
+    }
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+void Result_Dialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (!event->spontaneous()) {
+    refresh();
+    mFilter->setFocus(Qt::OtherFocusReason);
+    mFilter->selectAll();
+  }
+}
+
+void Result_Dialog::hideEvent(QHideEvent* event) {
+  QDialog::hideEvent(event);
+  if (!event->spontaneous()) {
+    remember();
+  }
+}
+
+void Result_Dialog::remember() {
+  mSettings.setViewState(objectName(), saveGeometry());
+  for (const Result_List* const list : mLists) {
+    list->saveState(mSettings);
+  }
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "db/Address_Usage_Watch.h"
+
+#include <QDialog>
+#include <QTimer>
+#include <QUuid>
+
+#include <vector>
+
+class App_Settings;
+class Project_Session;
+class QBoxLayout;
+class QLabel;
+class QLineEdit;
+class QSplitter;
+class Result_List;
+
+/// A window that lists something about the open project and stays open beside the work: a filter field, the lists, a
+/// line that counts. What it lists stays true while the project is edited; it closes with the project.
+class Result_Dialog : public QDialog {
+  Q_OBJECT
+
+public:
+  ~Result_Dialog() override;
+
+  /// Shows the window, or brings it to the front.
+  void bringUp();
+
+signals:
+  void addressChosen(const QUuid& key);
+  void pageChosen(const QUuid& guid);
+
+protected:
+  /// Session and settings outlive the window. Its place is remembered under `name`.
+  Result_Dialog(Project_Session& session, App_Settings& settings, const QString& name, const QSize& size,
+                QWidget* parent);
+
+  /// Reads the project anew.
+  virtual void refresh() = 0;
+  /// The text of the filter field is another one.
+  virtual void applyFilter() = 0;
+  /// The list that Enter and the down key in the filter field lead to.
+  [[nodiscard]] virtual Result_List& mainList() = 0;
+
+  /// Below the others, the columns as last left.
+  void addList(Result_List& list, int stretch);
+  void setCountText(const QString& text);
+  [[nodiscard]] QBoxLayout& top() { return *mTop; }
+  [[nodiscard]] QLineEdit& filter() const { return *mFilter; }
+  [[nodiscard]] const ProjectDatabase& database() const;
+  [[nodiscard]] const Address_Usage& usage() { return mWatch.usage(); }
+
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  Project_Session& mSession;
+
+private:
+  void makeFilter();
+  void filterNow();
+  void enterList();
+  void remember();
+
+  App_Settings& mSettings;
+  Address_Usage_Watch mWatch;
+  QBoxLayout* mTop;
+  QLineEdit* mFilter;
+  QSplitter* mBody;
+  QLabel* mCount;
+  QTimer mFilterDelay;
+  std::vector<Result_List*> mLists;
+};
