@@ -5,6 +5,14 @@
 #include "db/Model_Roles.h"
 #include "db/ProjectDatabase.h"
 
+namespace {
+
+QVariant alignmentOf(int column) {
+  return column == Address_Usage_Model::cCount ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+}
+
+} // namespace
+
 Address_Usage_Model::Rows Address_Usage_Model::rowsOf(const ProjectDatabase& database, const Address_Usage& usage,
                                                       bool isUsed) {
   Rows rows;
@@ -77,7 +85,7 @@ QVariant Address_Usage_Model::data(const QModelIndex& index, int role) const {
   case Qt::ToolTipRole:
     return Model_Roles::toolTip(textOf(shown, column));
   case Qt::TextAlignmentRole:
-    return column == cCount ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+    return alignmentOf(column);
   case Model_Roles::cIconName:
     return column == cAddress ? QStringLiteral("sub_group") : QVariant();
   case Model_Roles::cSortKey:
@@ -90,6 +98,9 @@ QVariant Address_Usage_Model::data(const QModelIndex& index, int role) const {
 }
 
 QVariant Address_Usage_Model::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
+    return alignmentOf(section);
+  }
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
     return {};
   }

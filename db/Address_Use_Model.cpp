@@ -6,16 +6,12 @@
 
 namespace {
 
-/// The number may have been given to another address since.
-QString reasonOf(const ProjectDatabase& database, const Address_Usage::Invalid& invalid) {
-  const QString address = invalid.mAddress.toString();
-  const QString name = invalid.mName.simplified();
-  const QString which = name.isEmpty() ? address : QStringLiteral("%1 \"%2\"").arg(address, name);
-  if (const DB_Address_Sub_Group* const other = database.mAddresses.subGroup(invalid.mAddress)) {
-    return Address_Use_Model::tr("Adresse %1 gibt es nicht mehr; %2 heißt jetzt \"%3\".")
-        .arg(which, address, other->mName.simplified());
-  }
-  return Address_Use_Model::tr("Adresse %1 gibt es nicht mehr.").arg(which);
+/// Address and name stand in cells of their own. The number may have been given to another address since.
+QString reasonOf(const ProjectDatabase& database, const Group_Address& address) {
+  const DB_Address_Sub_Group* const other = database.mAddresses.subGroup(address);
+  return other ? Address_Use_Model::tr("Die Adresse gibt es nicht mehr; %1 ist jetzt \"%2\".")
+                     .arg(address.toString(), other->mName.simplified())
+               : Address_Use_Model::tr("Die Adresse gibt es nicht mehr.");
 }
 
 } // namespace
@@ -58,7 +54,7 @@ Address_Use_Model::Rows Address_Use_Model::invalidRows(const ProjectDatabase& da
   for (const Address_Usage::Invalid& invalid : usage.invalid()) {
     rows.push_back({invalid.mUse, invalid.mKey, Address_Usage::text(database, invalid.mUse, blockType),
                     Page_Tree_Model::pageIcon(database, invalid.mUse.mPageGuid), invalid.mAddress,
-                    invalid.mName.simplified(), reasonOf(database, invalid)});
+                    invalid.mName.simplified(), reasonOf(database, invalid.mAddress)});
   }
   return rows;
 }

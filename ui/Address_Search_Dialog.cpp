@@ -12,15 +12,15 @@
 #include <QLineEdit>
 
 namespace {
-constexpr int cAddressStretch = 3;
-constexpr int cUseStretch = 2;
-constexpr int cAddressWidth = 110;
+constexpr int cAddressShare = 3;
+constexpr int cUseShare = 2;
+constexpr int cAddressWidth = 100;
 constexpr int cNameWidth = 300;
 constexpr int cTypeWidth = 120;
-constexpr int cPageWidth = 190;
-constexpr int cOwnerWidth = 150;
-constexpr int cPlaceWidth = 110;
-constexpr QSize cDefaultSize(760, 520);
+constexpr int cPageWidth = 160;
+constexpr int cOwnerWidth = 170;
+constexpr int cPlaceWidth = 100;
+constexpr QSize cDefaultSize(740, 520);
 } // namespace
 
 Address_Search_Dialog::Address_Search_Dialog(Project_Session& session, App_Settings& settings, QWidget* parent)
@@ -66,8 +66,8 @@ void Address_Search_Dialog::makeLists() {
   mUseList->addCommand(tr("&Seite zeigen"), showPage);
   connect(mUseList, &Result_List::chosen, this, showPage);
 
-  addList(*mAddressList, cAddressStretch);
-  addList(*mUseList, cUseStretch);
+  addList(*mAddressList, cAddressShare);
+  addList(*mUseList, cUseShare);
   mUseList->header().setSectionHidden(Address_Use_Model::cReason, true);
 }
 
@@ -80,8 +80,7 @@ Result_List& Address_Search_Dialog::mainList() {
 }
 
 void Address_Search_Dialog::onSearchChanged() {
-  mAddressList->setVisible(search() != Search::Uses);
-  mUseList->setVisible(search() != Search::Unused);
+  showLists({search() != Search::Uses, search() != Search::Unused});
   mAddressList->header().setSectionHidden(Address_Usage_Model::cCount, search() == Search::Unused);
   applyFilter();
   refresh();

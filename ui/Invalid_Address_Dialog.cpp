@@ -13,10 +13,10 @@
 
 namespace {
 /// The reason, the last one, takes what is left.
-constexpr std::array cWidths{std::pair(Address_Use_Model::cPage, 160), std::pair(Address_Use_Model::cOwner, 130),
+constexpr std::array cWidths{std::pair(Address_Use_Model::cPage, 140), std::pair(Address_Use_Model::cOwner, 140),
                              std::pair(Address_Use_Model::cPlace, 90), std::pair(Address_Use_Model::cAddress, 80),
-                             std::pair(Address_Use_Model::cName, 160)};
-constexpr QSize cDefaultSize(980, 420);
+                             std::pair(Address_Use_Model::cName, 170)};
+constexpr QSize cDefaultSize(1000, 420);
 } // namespace
 
 Invalid_Address_Dialog::Invalid_Address_Dialog(Project_Session& session, App_Settings& settings, QWidget* parent)

@@ -13,9 +13,13 @@
 #include <QShortcut>
 #include <QSplitter>
 
+#include <algorithm>
+
 namespace {
 constexpr int cGap = 8;
 constexpr int cFilterDelayMs = 120;
+constexpr int cAnyHeight = 1000; // the splitter keeps the ratio only
+constexpr int cFrameHeight = 40;
 } // namespace
 
 Result_Dialog::Result_Dialog(Project_Session& session, App_Settings& settings, const QString& name, const QSize& size,
@@ -53,13 +57,24 @@ Result_Dialog::Result_Dialog(Project_Session& session, App_Settings& settings, c
       refresh();
     }
   });
+  connect(mBody, &QSplitter::splitterMoved, this, [this] { mShares = mBody->sizes(); });
   resize(size);
-  restoreGeometry(mSettings.viewState(name));
+  if (!restoreGeometry(mSettings.viewState(name))) {
+    placeBesideTabs();
+  }
 }
 
 Result_Dialog::~Result_Dialog() {
   if (isVisible()) {
     remember();
+  }
+}
+
+/// Over the left lower part of the window: what the results lead to is shown at the right.
+void Result_Dialog::placeBesideTabs() {
+  if (const QWidget* const window = parentWidget()) {
+    const QRect around = window->geometry();
+    move(around.left() + cGap, std::max(around.top(), around.bottom() - height() - cFrameHeight));
   }
 }
 
@@ -94,11 +109,18 @@ const ProjectDatabase& Result_Dialog::database() const {
   return mSession.database();
 }
 
-void Result_Dialog::addList(Result_List& list, int stretch) {
+void Result_Dialog::addList(Result_List& list, int share) {
   mBody->addWidget(&list);
-  mBody->setStretchFactor(mBody->count() - 1, stretch);
   mLists.push_back(&list);
+  mShares.push_back(share * cAnyHeight);
   list.restoreState(mSettings);
+}
+
+void Result_Dialog::showLists(const QList<bool>& seen) {
+  for (int i = 0; i < mLists.size(); ++i) {
+    mLists[i]->setVisible(seen[i]);
+  }
+  mBody->setSizes(mShares);
 }
 
 void Result_Dialog::setCountText(const QString& text) {

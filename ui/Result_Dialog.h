@@ -3,10 +3,9 @@
 #include "db/Address_Usage_Watch.h"
 
 #include <QDialog>
+#include <QList>
 #include <QTimer>
 #include <QUuid>
-
-#include <vector>
 
 class App_Settings;
 class Project_Session;
@@ -43,8 +42,10 @@ protected:
   /// The list that Enter and the down key in the filter field lead to.
   [[nodiscard]] virtual Result_List& mainList() = 0;
 
-  /// Below the others, the columns as last left.
-  void addList(Result_List& list, int stretch);
+  /// Below the others, the columns as last left; `share` of the height, as against that of the others.
+  void addList(Result_List& list, int share);
+  /// Which of the lists are seen, in the order of adding.
+  void showLists(const QList<bool>& seen);
   void setCountText(const QString& text);
   [[nodiscard]] QBoxLayout& top() { return *mTop; }
   [[nodiscard]] QLineEdit& filter() const { return *mFilter; }
@@ -59,6 +60,7 @@ protected:
 
 private:
   void makeFilter();
+  void placeBesideTabs();
   void filterNow();
   void enterList();
   void remember();
@@ -70,5 +72,6 @@ private:
   QSplitter* mBody;
   QLabel* mCount;
   QTimer mFilterDelay;
-  std::vector<Result_List*> mLists;
+  QList<Result_List*> mLists;
+  QList<int> mShares; ///< of the height, while all lists are seen
 };

@@ -18,6 +18,7 @@ Result_List::Result_List(QAbstractItemModel& table, int addressColumn, const Ses
       mHint(new Empty_Hint) {
   mTree->removeRename();
   mTree->setRootIsDecorated(false);
+  mTree->setAllColumnsShowFocus(true);
   mTree->setModel(mModel);
   mTree->header()->setSectionsMovable(true);
   mTree->header()->setFirstSectionMovable(true);

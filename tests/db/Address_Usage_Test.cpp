@@ -65,16 +65,16 @@ private slots:
     const auto reasons = [this] {
       QStringList reasons;
       for (const auto& row : Address_Use_Model::invalidRows(database(), Address_Usage(database()), typeName)) {
-        reasons += row.mText.mPlace + ": " + row.mReason;
+        reasons += row.mText.mPlace + ' ' + row.mAddress.toString() + row.mName + ": " + row.mReason;
       }
       return reasons;
     };
-    const QString gone = "Adresse 1/2/3 \"Licht\" gibt es nicht mehr";
-    QCOMPARE(reasons(),
-             QStringList({"Eingang 1: " + gone + ".", "Eingang 2: " + gone + ".", "Deaktivieren: " + gone + ".",
-                          "Adresse 1: Adresse 4/5/6 gibt es nicht mehr.", "Adresse 2: " + gone + "."}));
+    const QString gone = "Die Adresse gibt es nicht mehr";
+    QCOMPARE(reasons(), QStringList({"Eingang 1 1/2/3Licht: " + gone + '.', "Eingang 2 1/2/3Licht: " + gone + '.',
+                                     "Deaktivieren 1/2/3Licht: " + gone + '.', "Adresse 1 4/5/6: " + gone + '.',
+                                     "Adresse 2 1/2/3Licht: " + gone + '.'}));
     mRig->addAddress({1, 2, 3}, "Lampe");
-    QCOMPARE(reasons().first(), "Eingang 1: " + gone + "; 1/2/3 heißt jetzt \"Lampe\".");
+    QCOMPARE(reasons().first(), "Eingang 1 1/2/3Licht: " + gone + "; 1/2/3 ist jetzt \"Lampe\".");
   }
 
   void filterAndOrder() {
