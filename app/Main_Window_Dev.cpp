@@ -10,7 +10,9 @@
 #include "app/Window_Actions.h"
 #include "app/Window_Dialogs.h"
 #include "base/App_Settings.h"
+#include "base/Decimal_Text.h"
 #include "base/Session_State.h"
+#include "db/Ets_Export.h"
 #include "db/Project_Edits.h"
 #include "db/Project_Session.h"
 #include "ui/Address_Search_Dialog.h"
@@ -20,6 +22,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileInfo>
 #include <QMimeData>
 #include <QPointer>
@@ -76,6 +79,8 @@ void Main_Window_Dev::connectParts() {
   connect(recent, &Recent_Projects_Menu::chosen, this, &Main_Window_Dev::onOpenPath);
   connect(&startPage(), &Start_Page::recentChosen, this, &Main_Window_Dev::onOpenPath);
   connect(&addressView(), &Address_View::importRequested, this, &Main_Window_Dev::onEdit_ODBC_Import);
+
+  connect(&addressView(), &Address_View::pageChosen, this, &Main_Window_Dev::showPage);
 
   connect(mLifecycle, &Project_Lifecycle::beginning, this, &Main_Window_Dev::commitEditor);
   connect(mLifecycle, &Project_Lifecycle::info, this, &Main_Window_Dev::showInfo);
@@ -219,6 +224,34 @@ void Main_Window_Dev::onEdit_Search_Unused() {
 
 void Main_Window_Dev::onEdit_CheckValidAddress() {
   showResults<Invalid_Address_Dialog>(mInvalidAddresses);
+}
+
+void Main_Window_Dev::onEdit_ODBC_Export() {
+  const QString folder = mImportFolder.isEmpty() ? mSettings.lastProjectDir() : mImportFolder;
+  const QString name = QFileInfo(mSession.path()).completeBaseName();
+  const QString filter =
+      tr("ETS-Export XML") + QStringLiteral(" (*.xml);;") + tr("ETS-Export ESF") + QStringLiteral(" (*.esf)");
+  const QString path =
+      mDialogs->chooseSaveFile(tr("Adressen exportieren"), folder + u'/' + name + QStringLiteral(".xml"), filter);
+  if (path.isEmpty() || !mSession.isOpen()) {
+    return;
+  }
+  mImportFolder = QFileInfo(path).absolutePath();
+  if (QFileInfo::exists(path) &&
+      !mDialogs->askYesNo(tr("Die Datei \"%1\" ist schon vorhanden. Ersetzen?").arg(QDir::toNativeSeparators(path)))) {
+    return;
+  }
+  Ets_Write_Result result;
+  const Edit_Result written = Ets_Export::write(mSession, path, result);
+  if (!written) {
+    mDialogs->showMessage(written.mError);
+    return;
+  }
+  showInfo(tr("Exportierte Gruppenadressen: %1.").arg(Decimal_Text::count(result.mAddresses)));
+  if (!result.mOmitted.isEmpty()) {
+    mDialogs->showMessage(tr("Exportiert, aber in diesem Format nicht enthalten:") + QStringLiteral("\n\n") +
+                          result.mOmitted.join(u'\n'));
+  }
 }
 
 void Main_Window_Dev::onShowAboutDlg() {

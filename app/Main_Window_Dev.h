@@ -35,6 +35,7 @@ public slots:
   void onEdit_Redo();
   void onEditGeopos();
   void onEdit_ODBC_Import();
+  void onEdit_ODBC_Export();
   void onEdit_Search_Unused();
   void onEdit_CheckValidAddress();
   void onShowAboutDlg();
@@ -60,5 +61,5 @@ private:
   Project_Lifecycle* mLifecycle;
   Result_Dialog* mAddressSearch = nullptr; ///< made when first asked for, as the one below
   Result_Dialog* mInvalidAddresses = nullptr;
-  QString mImportFolder; ///< of the last import in this run
+  QString mImportFolder; ///< of the last import or export in this run
 };

@@ -73,6 +73,18 @@ QString Window_Dialogs::chooseSaveFile(const QString& title, const QString& sugg
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.selectFile(QFileInfo(suggestion).fileName());
   setLabels(dialog, tr("Speichern"));
+  // Of several kinds of file the chosen one gives the ending to a name without one.
+  if (dialog.nameFilters().size() > 1) {
+    const auto follow = [&dialog](const QString& nameFilter) {
+      dialog.setDefaultSuffix(nameFilter.section(QStringLiteral("*."), 1).chopped(1));
+      const QString name = QFileInfo(dialog.selectedFiles().value(0)).completeBaseName();
+      if (!name.isEmpty()) {
+        dialog.selectFile(name + u'.' + dialog.defaultSuffix());
+      }
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
+    follow(dialog.selectedNameFilter());
+  }
   return choose(dialog);
 }
 
