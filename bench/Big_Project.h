@@ -11,12 +11,13 @@
 class Big_Project {
 public:
   static constexpr int cAddresses = 100'000;
+  static constexpr int cBusAddresses = 65'536; ///< as many as a bus can carry
   static constexpr int cLogicPages = 200;
   static constexpr int cBlocksOnPage = 50;
   static constexpr int cVisuPages = 500;
   static constexpr int cElementsOnPage = 40;
 
-  explicit Big_Project(ProjectDatabase& store) : mStore(store) {}
+  explicit Big_Project(ProjectDatabase& store, int addresses = cAddresses) : mStore(store), mAddresses(addresses) {}
 
   void fill() {
     mStore.mProject.mName = QStringLiteral("Großes Haus");
@@ -69,7 +70,7 @@ private:
     mStore.mAddresses.beginChange();
     QUuid mainKey;
     QUuid middleKey;
-    for (int i = 0; i < cAddresses; ++i) {
+    for (int i = 0; i < mAddresses; ++i) {
       const int middleIndex = i / cSubsOfMiddle;
       if (i % (cSubsOfMiddle * cMiddlesOfMain) == 0) {
         auto group = std::make_unique<DB_Address_MainGroup>();
@@ -110,7 +111,7 @@ private:
 
   /// Bound to some group address, with everything that is cached of it.
   void bindToAny(DB_Address_Binding& binding) {
-    const int i = static_cast<int>(mRandom() % cAddresses);
+    const int i = static_cast<int>(mRandom() % static_cast<unsigned>(mAddresses));
     const int middle = i / cSubsOfMiddle;
     const Group_Address address(middle / cMiddlesOfMain, middle % cMiddlesOfMain, i % cSubsOfMiddle);
     binding.bindTo(*mStore.mAddresses.subGroup(address), address);
@@ -189,5 +190,6 @@ private:
   }
 
   ProjectDatabase& mStore;
+  int mAddresses;
   std::mt19937 mRandom{8800}; // NOLINT(cert-msc32-c,cert-msc51-cpp): every run makes the same project
 };

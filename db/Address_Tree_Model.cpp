@@ -63,6 +63,7 @@ Address_Tree_Model::Address_Tree_Model(Project_Session& session, QObject* parent
   connect(&database.mFbPages, &DB_Page_List_Signals::structureChanged, this, later);
   connect(&database.mWidgetPages, &DB_Page_List_Signals::structureChanged, this, later);
   connect(&session, &Project_Session::opened, this, &Address_Tree_Model::onPagesChanged);
+  connect(&session, &Project_Session::closed, this, &Address_Tree_Model::onPagesChanged);
   mUsage = Address_Usage(database);
   rebuild();
 }

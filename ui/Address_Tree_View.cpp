@@ -136,6 +136,13 @@ void Address_Tree_View::updateCommands() {
   }
 }
 
+/// An edit that moved its row has built the rows anew, and that has closed the editor already.
+void Address_Tree_View::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+  if (!editor->isHidden()) {
+    Project_Tree_View::closeEditor(editor, hint);
+  }
+}
+
 // --- what is selected ---
 
 QList<QUuid> Address_Tree_View::selectedKeys() const {
@@ -180,9 +187,14 @@ Group_Address Address_Tree_View::currentAddress() const {
 void Address_Tree_View::showKey(const QUuid& key) {
   const QModelIndex index = mModel.indexOf(key);
   if (index.isValid()) {
-    setCurrentIndex(index);
+    selectOnly(index);
     scrollTo(index, EnsureVisible);
   }
+}
+
+/// The toolkit's own way looks at the keys that are held, and after Ctrl+V would leave the row unselected.
+void Address_Tree_View::selectOnly(const QModelIndex& index) {
+  selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 /// Neighbours become one range: thousands of single ones would take the toolkit seconds.
@@ -395,7 +407,7 @@ void Address_Tree_View::onReset() {
   }
   const QModelIndex current = mModel.indexOf(mCurrent);
   if (current.isValid()) {
-    setCurrentIndex(current);
+    selectOnly(current);
   }
   if (mSelected.size() > 1) {
     selectKeys(mSelected);

@@ -42,10 +42,12 @@ signals:
 protected:
   void updateCommands() override;
   void onCopy() override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
   /// In the order of the rows; those that are not shown are left out.
   void selectKeys(const QList<QUuid>& keys);
+  void selectOnly(const QModelIndex& index);
   void addCommands();
   [[nodiscard]] QMenu* makeSetMenu();
   void onAboutToBeReset();

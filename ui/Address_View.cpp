@@ -71,6 +71,11 @@ Address_View::Address_View(Project_Session& session, QWidget* parent)
   updateState();
 }
 
+Address_View::~Address_View() {
+  // An open editor hands its text over when it goes: as long as there is a view to tell of it.
+  delete mTree;
+}
+
 QWidget* Address_View::makeListPage() {
   auto* const page = new QWidget;
   mFilter->setObjectName(QStringLiteral("ui:mAddressFilter"));

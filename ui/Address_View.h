@@ -21,6 +21,7 @@ class Address_View : public QWidget {
 
 public:
   explicit Address_View(Project_Session& session, QWidget* parent = nullptr);
+  ~Address_View() override;
 
   /// Brings an address, group or variable into view and selects it; a filter that hides it is cleared.
   void showAddress(const QUuid& key);

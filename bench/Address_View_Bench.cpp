@@ -1,0 +1,151 @@
+#include "base/Session_State.h"
+#include "bench/Bench_Table.h"
+#include "bench/Big_Project.h"
+#include "db/Address_Edits.h"
+#include "db/Address_Tree_Model.h"
+#include "db/Project_Session.h"
+#include "ui/Address_Tree_View.h"
+#include "ui/Address_View.h"
+#include "ui/Theme.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTemporaryDir>
+
+// The address tree as a user of the largest bus feels it: 65,536 addresses and 10,000 blocks; from the key to the
+// painted result. Painted offscreen into an image of the size that the view has in a full window.
+
+namespace {
+
+constexpr int cRuns = 9;
+constexpr QSize cViewSize(640, 900);
+constexpr double cFilterLimit = 100; // ms
+constexpr double cScrollLimit = 16;  // ms
+constexpr double cEditLimit = 100;   // ms
+
+class Rig {
+public:
+  Rig() {
+    qputenv("TMPDIR", mFolder.path().toLocal8Bit());
+    mSession.create(mFolder.filePath(QStringLiteral("big.zpro")), {});
+    Big_Project(mSession.database(), Big_Project::cBusAddresses).fill();
+    emit mSession.opened();
+    mWindow.resize(cViewSize);
+    mView.resize(cViewSize);
+    mWindow.show();
+    QCoreApplication::processEvents();
+    mTree = mView.findChild<Address_Tree_View*>();
+    mFilter = mView.findChild<QLineEdit*>();
+  }
+
+  /// What an edit or key has caused, until it is painted.
+  void paint() {
+    QCoreApplication::processEvents();
+    QImage image(cViewSize, QImage::Format_RGB32);
+    mView.render(&image);
+  }
+
+  double filter(const QString& text) {
+    return Bench_Table::milliseconds([&] {
+      mFilter->setText(text);
+      paint();
+    });
+  }
+
+  QTemporaryDir mFolder;
+  Session_State mState;
+  Project_Session mSession{mState};
+  QWidget mWindow; ///< takes the view's changing least size, which the offscreen platform complains of
+  Address_View mView{mSession, &mWindow};
+  Address_Tree_View* mTree = nullptr;
+  QLineEdit* mFilter = nullptr;
+};
+
+void measureFilter(Rig& rig, Bench_Table& table) {
+  for (const auto& [name, text] : {std::pair("filter: no hit", "gibtesnicht"),
+                                   {"filter: 2,800 hits", "wohnzimmer wand"},
+                                   {"filter: 8,192 hits", "jalousie"},
+                                   {"filter: an address", "12/3/45"},
+                                   {"filter: all 65,536 hits", "e"}}) {
+    std::vector<double> times;
+    for (int run = 0; run < cRuns; ++run) {
+      times.push_back(rig.filter(QString::fromUtf8(text)));
+      rig.filter({});
+    }
+    table.add(name, Bench_Table::median(times), cFilterLimit, "ms");
+  }
+  std::vector<double> times;
+  for (int run = 0; run < cRuns; ++run) {
+    rig.filter(QStringLiteral("jalousie"));
+    times.push_back(rig.filter({}));
+  }
+  table.add("filter: cleared", Bench_Table::median(times), cFilterLimit, "ms");
+}
+
+void measureScroll(Rig& rig, Bench_Table& table) {
+  rig.mTree->expandAll();
+  rig.paint();
+  QScrollBar& bar = *rig.mTree->verticalScrollBar();
+  QImage image(cViewSize, QImage::Format_RGB32);
+  std::vector<double> times;
+  for (int step = 0; step < 200; ++step) {
+    times.push_back(Bench_Table::milliseconds([&] {
+      bar.setValue(bar.value() + (step % 50 == 0 ? bar.maximum() / 5 : 3));
+      rig.mView.render(&image);
+    }));
+  }
+  table.add("scroll: one step, painted", Bench_Table::median(times), cScrollLimit, "ms");
+  std::sort(times.begin(), times.end());
+  table.add("scroll: the slowest of 20", times[times.size() * 19 / 20], cScrollLimit, "ms");
+}
+
+void measureEdits(Rig& rig, Bench_Table& table) {
+  Address_Tree& tree = rig.mSession.database().mAddresses;
+  const QUuid key = tree.subGroup(Group_Address(12, 3, 45))->mKey;
+  const auto measure = [&](const char* name, double limit, const std::function<void(int)>& edit) {
+    std::vector<double> times;
+    for (int run = 0; run < cRuns; ++run) {
+      times.push_back(Bench_Table::milliseconds([&] {
+        edit(run);
+        rig.mSession.history().commit();
+        rig.paint();
+      }));
+    }
+    table.add(name, Bench_Table::median(times), limit, "ms");
+  };
+  using Field = Address_Edits::Field;
+  measure("edit: a name", cEditLimit,
+          [&](int run) { Address_Edits::set(rig.mSession, {key}, Field::Name, QStringLiteral("Name %1").arg(run)); });
+  measure("edit: an address deleted and back", 2 * cEditLimit, [&](int) {
+    Address_Edits::remove(rig.mSession, {key});
+    rig.mSession.history().undo();
+  });
+  QList<QUuid> mains;
+  for (const auto& main : tree.mainGroups()) {
+    mains.append(main->mKey);
+  }
+  measure("edit: a flag of all 65,536", 1000,
+          [&](int run) { Address_Edits::set(rig.mSession, mains, Field::Active, run % 2 == 1); });
+  measure("edit: undo of that", 1000, [&](int) { rig.mSession.history().undo(); });
+  measure("sort by name", 300, [&](int run) {
+    rig.mTree->sortByColumn(Address_Rows::cName, run % 2 == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+  });
+}
+
+} // namespace
+
+/// --report: a missed limit is only told, the program's result stays 0.
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  Theme::apply(application);
+  Bench_Table table;
+  Rig rig;
+  measureFilter(rig, table);
+  measureScroll(rig, table);
+  measureEdits(rig, table);
+  return table.missed() > 0 && !QCoreApplication::arguments().contains(QStringLiteral("--report")) ? 1 : 0;
+}
