@@ -95,7 +95,7 @@ void Address_Tree_View::addCommands() {
   auto* const separator = new QAction(this);
   separator->setSeparator(true);
   insertActions(rename, {mAddSub, mAddMiddle, mAddMain, separator});
-  mCut = addCommand(tr("A&usschneiden"), QKeySequence::Cut, [this] { onCut(); });
+  mCut = addCommand(tr("Auss&chneiden"), QKeySequence::Cut, [this] { onCut(); });
   mPaste = addCommand(tr("&Einfügen"), QKeySequence::Paste, [this] { onPaste(); });
   mDelete = addCommand(tr("&Löschen"), QKeySequence::Delete, [this] { onDelete(); });
   mDelete->setIcon(Theme::icon(QStringLiteral("trash-white")));
@@ -404,6 +404,9 @@ void Address_Tree_View::onReset() {
         setExpanded(index, true);
       }
     }
+  }
+  if (const QModelIndex variables = mModel.variablesIndex(); variables.isValid()) {
+    setFirstColumnSpanned(variables.row(), {}, true);
   }
   const QModelIndex current = mModel.indexOf(mCurrent);
   if (current.isValid()) {

@@ -33,14 +33,19 @@ void Checked_Line_Edit::recheck() {
   showReason();
 }
 
+bool Checked_Line_Edit::mayShowReason() const {
+  return hasFocus();
+}
+
 void Checked_Line_Edit::showReason() {
-  if (isValid() || !hasFocus()) {
+  if (isValid() || !mayShowReason()) {
     delete mLabel;
     return;
   }
   if (!mLabel) {
     mLabel = new QLabel(window());
     mLabel->setObjectName(QStringLiteral("ui:mReason"));
+    mLabel->setProperty("reason", true);
     mLabel->setTextFormat(Qt::PlainText);
     mLabel->setWordWrap(true);
     mLabel->setAttribute(Qt::WA_TransparentForMouseEvents);

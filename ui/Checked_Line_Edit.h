@@ -33,9 +33,11 @@ protected:
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
-private:
+  /// Shows or hides the reason, as it is now.
   void showReason();
+  [[nodiscard]] virtual bool mayShowReason() const;
 
+private:
   Check mCheck;
   QString mReason;
   QPointer<QLabel> mLabel; ///< of the window, so that it may stand outside of a narrow parent

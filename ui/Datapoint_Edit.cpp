@@ -6,7 +6,10 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QStringListModel>
+
+#include <algorithm>
 
 namespace {
 
@@ -39,11 +42,30 @@ Datapoint_Edit::Datapoint_Edit(QWidget* parent)
   completer->setMaxVisibleItems(cShownTypes);
   completer->popup()->setMinimumWidth(cListWidth);
   setCompleter(completer);
+  completer->popup()->installEventFilter(this);
   setPlaceholderText(tr("Nummer oder Name"));
 }
 
 Datapoint_Id Datapoint_Edit::type() const {
   return Datapoint_Id::parse(numberIn(text())).value_or(Datapoint_Id());
+}
+
+/// While the list is open the words in the field are a search.
+bool Datapoint_Edit::mayShowReason() const {
+  return Checked_Line_Edit::mayShowReason() && !completer()->popup()->isVisible();
+}
+
+bool Datapoint_Edit::eventFilter(QObject* watched, QEvent* event) {
+  QWidget* const list = completer()->popup();
+  if (watched == list && event->type() == QEvent::Show) {
+    // The toolkit places a list that is wider than its field beyond the screen.
+    const int beyond = list->geometry().right() - screen()->availableGeometry().right();
+    list->move(list->x() - std::max(0, beyond), list->y());
+  }
+  if (watched == list && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
+    showReason();
+  }
+  return Checked_Line_Edit::eventFilter(watched, event);
 }
 
 /// The arrow shows all types when nothing is typed yet.

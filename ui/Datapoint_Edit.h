@@ -16,4 +16,6 @@ public:
 
 protected:
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  [[nodiscard]] bool mayShowReason() const override;
 };

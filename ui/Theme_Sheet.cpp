@@ -56,7 +56,7 @@ QLineEdit:read-only { background: @Window@; }
 QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0px; min-height: 0px; }
 QAbstractItemView QLineEdit { border: 1px solid @Accent@; border-radius: 0px; padding: 0px; min-height: 0px; }
 QLineEdit[invalid="true"], QAbstractItemView QLineEdit[invalid="true"] { border: 1px solid @Error@; }
-QLabel#ui\\:mReason { background: @Input@; color: @ErrorText@; border: 1px solid @Error@; padding: 4px 8px; }
+QLabel[reason="true"] { background: @Input@; color: @ErrorText@; border: 1px solid @Error@; padding: 4px 8px; }
 
 QHeaderView { background: @Bar@; border: none; }
 QHeaderView::section { background: @Bar@; color: @SecondaryText@; border: none; border-right: 1px solid @Border@;
