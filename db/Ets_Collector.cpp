@@ -1,5 +1,7 @@
 #include "db/Ets_Collector.h"
 
+#include "base/Decimal_Text.h"
+
 #include <QCoreApplication>
 #include <QHash>
 #include <QLocale>
@@ -60,7 +62,7 @@ bool Ets_Collector::checkSize(qint64 bytes) {
 bool Ets_Collector::countElement() {
   if (++mElements > cElementLimit) {
     setError(tr("Die Datei hat mehr als %1 Einträge; so viele hat keine Ausgabe von Gruppenadressen.")
-                 .arg(QLocale().toString(cElementLimit)));
+                 .arg(Decimal_Text::count(cElementLimit)));
   }
   return isOk();
 }
@@ -69,7 +71,7 @@ bool Ets_Collector::countText(qsizetype size) {
   mCharacters += size;
   if (mCharacters > cTextLimit) {
     setError(tr("Die Namen und Beschreibungen der Datei haben zusammen mehr als %1 Zeichen.")
-                 .arg(QLocale().toString(cTextLimit)));
+                 .arg(Decimal_Text::count(cTextLimit)));
   }
   return isOk();
 }

@@ -1,11 +1,11 @@
 #include "db/Ets_Xml_Reader.h"
 
+#include "base/Decimal_Text.h"
 #include "db/DB_Text.h"
 #include "db/Ets_Collector.h"
 
 #include <QCoreApplication>
 #include <QIODevice>
-#include <QLocale>
 #include <QXmlStreamReader>
 
 namespace {
@@ -37,7 +37,7 @@ protected:
   qint64 readData(char* data, qint64 size) override {
     if (mInToken > Ets_Xml_Reader::cTokenLimit) {
       mCollector.setError(tr("Ein einzelnes Element der Datei ist länger als %1 Byte.")
-                              .arg(QLocale().toString(Ets_Xml_Reader::cTokenLimit)));
+                              .arg(Decimal_Text::count(Ets_Xml_Reader::cTokenLimit)));
     }
     if (!mCollector.isOk()) {
       return -1;
