@@ -29,17 +29,16 @@ QString refusalOf(const QByteArray& beginning) {
     return tr("Das ist eine ETS-Projektdatei (.knxproj) oder ein anderes Archiv, keine Ausgabe von Gruppenadressen. In "
               "der ETS die Gruppenadressen als XML, CSV oder ESF (OPC) exportieren und diese Datei wählen.");
   }
-  if (beginning.startsWith("\x89PNG") || beginning.startsWith("\xff\xd8\xff") || beginning.startsWith("GIF8")) {
+  const bool isWide = beginning.startsWith("\xff\xfe") || beginning.startsWith("\xfe\xff");
+  if (isWide || !beginning.contains('\0')) {
+    // A project in an ESF may be called "GIF8".
+    return {};
+  }
+  if (beginning.startsWith("\x89PNG") || beginning.startsWith("\xff\xd8\xff") || beginning.startsWith("GIF8") ||
+      beginning.startsWith("BM")) {
     return tr("Die Datei ist ein Bild, keine Ausgabe von Gruppenadressen.");
   }
-  if (beginning.startsWith("%PDF-")) {
-    return tr("Die Datei ist ein PDF-Dokument, keine Ausgabe von Gruppenadressen.");
-  }
-  const bool isWide = beginning.startsWith("\xff\xfe") || beginning.startsWith("\xfe\xff");
-  if (!isWide && beginning.contains('\0')) {
-    return tr("Die Datei ist keine Textdatei und keine Ausgabe von Gruppenadressen der ETS.");
-  }
-  return {};
+  return tr("Die Datei ist keine Textdatei und keine Ausgabe von Gruppenadressen der ETS.");
 }
 
 std::optional<Ets_Groups::Format> formatOf(const QByteArray& beginning) {

@@ -40,7 +40,7 @@ bool isForbidden(QChar c) {
 std::optional<QString> decodeUtf16(QByteArrayView bytes, QStringDecoder::Encoding encoding, QString& error) {
   QStringDecoder decoder(encoding, QStringDecoder::Flag::Stateless);
   QString text = decoder.decode(bytes);
-  if (decoder.hasError() || bytes.size() % 2 != 0) {
+  if (decoder.hasError() || bytes.size() % 2 != 0 || !text.isValidUtf16()) {
     error = tr("Die Datei ist als UTF-16 gekennzeichnet, ihre Zeichen sind es nicht.");
     return std::nullopt;
   }
@@ -118,12 +118,10 @@ std::optional<QString> Ets_Text::decode(const QByteArray& bytes, QString& error)
 }
 
 QString Ets_Text::preview(const QByteArray& bytes) {
-  QString error;
   const QByteArrayView view = bytes;
-  const bool isWide = view.startsWith(cUtf16LittleMark) || view.startsWith(cUtf16BigMark);
-  if (isWide) {
-    // Whole characters only: the end of a part is no fault of the file.
-    return decodeMarked(view.chopped(view.size() % 2), error).value_or(QString());
+  if (view.startsWith(cUtf16LittleMark) || view.startsWith(cUtf16BigMark)) {
+    // With the mark, which tells the decoder the order of the bytes.
+    return QStringDecoder(QStringDecoder::Utf16).decode(view);
   }
   return QString::fromLatin1(view.startsWith(cUtf8Mark) ? view.sliced(cUtf8Mark.size()) : view);
 }

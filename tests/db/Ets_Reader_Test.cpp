@@ -115,6 +115,7 @@ private slots:
     QTest::newRow("ESF") << cEsf << Format::Esf;
     QTest::newRow("ESF, two levels") << QByteArray("Licht.1/258\ta\t\tLow\t") << Format::Esf;
     QTest::newRow("ESF of a project with brackets") << "<" + cEsf << Format::Esf;
+    QTest::newRow("ESF of a project called like a picture") << "GIF8" + cEsf << Format::Esf;
     QTest::newRow("ESF in UTF-16") << utf16(cEsf, false) << Format::Esf;
     QTest::newRow("XML") << cXml << Format::Xml;
     QTest::newRow("XML with mark and blank lines") << "\xef\xbb\xbf" + cXml.mid(cXml.indexOf('\n')) << Format::Xml;
@@ -143,7 +144,7 @@ private slots:
     row("ETS project", QByteArray("PK\x03\x04\x14\0\0\0", 8) + "P-0123/project.xml", "ETS-Projektdatei");
     row("spreadsheet", "PK\x03\x04 [Content_Types].xml", "Tabellenkalkulation");
     row("picture", "\x89PNG\r\n\x1a\n" + QByteArray(100, '\0'), "Bild");
-    row("PDF", "%PDF-1.7\n", "PDF");
+    row("PDF", "%PDF-1.7\n", "keine Ausgabe");
     row("binary", QByteArray("SQLite format 3\0", 16), "keine Textdatei");
     row("prose", "Guten Tag.\nDie Adressen kommen morgen.\n", "keine Ausgabe");
     row("table without addresses", "Name;Preis\nLampe;3\n", "keine Ausgabe");
@@ -158,6 +159,7 @@ private slots:
         "0x81 in Zeile 1");
     row("marked but no UTF-8", "\xef\xbb\xbf" + cEsf + "\xe4", "als UTF-8 gekennzeichnet");
     row("half a UTF-16", utf16(cEsf, true).chopped(1), "UTF-16");
+    row("half a character in UTF-16", utf16(cEsf, false) + "\x2f\xd9", "UTF-16");
     row("cut XML", cXml.chopped(10), "nicht vollständig");
     row("XML in Windows-1252",
         QByteArray(cXml).replace("Decke", "K\xfc"
