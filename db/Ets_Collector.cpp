@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QIODevice>
 #include <QLocale>
 
 namespace {
@@ -47,6 +48,13 @@ bool Ets_Collector::progress(qint64 done, qint64 all, int first, int last) {
   const qint64 part = all > 0 ? qBound(qint64(0), done, all) * (last - first) / all : 0;
   if (mOptions.mProgress && !mOptions.mProgress(first + static_cast<int>(part))) {
     setError(tr("Das Lesen wurde abgebrochen."));
+  }
+  return isOk();
+}
+
+bool Ets_Collector::checkRead(const QIODevice& device, qint64 count) {
+  if (count < 0 && !device.atEnd()) {
+    setError(tr("Die Datei ist nicht lesbar: %1").arg(device.errorString()));
   }
   return isOk();
 }

@@ -26,8 +26,10 @@ public:
   void fault(qint64 line, const QString& text);
 
   /// Tells that the part `done` of `all` is read, within the stretch from `first` to `last` percent. False when the
-  /// reading must end, as for the three below.
+  /// reading must end, as for the four below.
   bool progress(qint64 done, qint64 all, int first = 0, int last = 100);
+  /// Tells a failure of `device`, which has answered `count` to a call of `read`.
+  bool checkRead(const QIODevice& device, qint64 count);
   /// Refuses a file of more than so many bytes.
   bool checkSize(qint64 bytes);
   /// Counts one more element or line.

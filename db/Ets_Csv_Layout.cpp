@@ -232,9 +232,10 @@ std::optional<Ets_Csv_Layout::Place> Ets_Csv_Layout::placeOf(const QStringList& 
     levels[i] = levelOf(fields.value(mNumbers[i])).value_or(-2);
   }
   const auto [main, middle, sub] = levels;
-  const QString text = QStringLiteral("%1/%2/%3").arg(main).arg(middle).arg(sub);
-  if (sub >= 0) {
-    return Group_Address::parse(text) ? std::optional(Place{text, main, middle}) : std::nullopt;
+  if (sub == -1 && main >= 0 && main <= Group_Address::cMainMax && middle >= -1 &&
+      middle <= Group_Address::cMiddleMax) {
+    return Place{{}, main, middle};
   }
-  return groupOf(QString(text).replace(QStringLiteral("-1"), QStringLiteral("-")));
+  const QString text = QStringLiteral("%1/%2/%3").arg(main).arg(middle).arg(sub);
+  return Group_Address::parse(text) ? std::optional(Place{text, main, middle}) : std::nullopt;
 }

@@ -65,6 +65,23 @@ std::optional<QString> decodeWindows1252(QByteArrayView bytes, QString& error) {
   return text;
 }
 
+bool isAscii(QByteArrayView bytes) {
+  return std::all_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) == 0; });
+}
+
+/// Whether the bytes are UTF-8, and not just ASCII, but for a last character that is not whole.
+bool isCut(QByteArrayView bytes) {
+  constexpr qsizetype cLongest = 3;
+  for (qsizetype missing = 1; missing <= qMin(cLongest, bytes.size()); ++missing) {
+    const QByteArrayView whole = bytes.chopped(missing);
+    const bool isBegun = (static_cast<quint8>(bytes[whole.size()]) & 0xc0U) == 0xc0U;
+    if (isBegun && whole.isValidUtf8()) {
+      return !isAscii(whole);
+    }
+  }
+  return false;
+}
+
 std::optional<QString> decodeMarked(QByteArrayView bytes, QString& error) {
   if (bytes.startsWith(cUtf16LittleMark)) {
     return decodeUtf16(bytes.sliced(cUtf16LittleMark.size()), QStringDecoder::Utf16LE, error);
@@ -79,6 +96,10 @@ std::optional<QString> decodeMarked(QByteArrayView bytes, QString& error) {
   }
   if (isMarked) {
     error = tr("Die Datei ist als UTF-8 gekennzeichnet, ihre Zeichen sind es nicht.");
+    return std::nullopt;
+  }
+  if (isCut(plain)) {
+    error = tr("Die Datei ist nicht vollständig: sie endet mitten in einem Zeichen.");
     return std::nullopt;
   }
   return decodeWindows1252(plain, error);
@@ -131,13 +152,16 @@ std::optional<QString> Ets_Text::read(QIODevice& device, Ets_Collector& collecto
   const qint64 size = device.size();
   QByteArray bytes;
   while (collector.progress(bytes.size(), size, 0, cHalf)) {
-    const QByteArray chunk = device.read(cChunk);
-    bytes += chunk;
+    const qsizetype before = bytes.size();
+    bytes.resize(before + cChunk);
+    const qint64 count = device.read(bytes.data() + before, cChunk);
+    bytes.truncate(before + qMax(count, qint64(0)));
+    collector.checkRead(device, count);
     if (qMax(size, qint64(bytes.size())) > cSizeLimit) {
       collector.setError(tr("Die Datei ist für eine Ausgabe als ESF oder CSV zu groß; gelesen werden höchstens %1.")
                              .arg(QLocale().formattedDataSize(cSizeLimit, 0)));
     }
-    if (chunk.isEmpty() || !collector.isOk()) {
+    if (count <= 0 || !collector.isOk()) {
       break;
     }
   }
@@ -161,8 +185,7 @@ QString Ets_Text::permitted(const QString& text) {
 QByteArray Ets_Text::encode(const QString& text) {
   const std::optional<QByteArray> narrow = toWindows1252(text);
   if (narrow) {
-    const bool isAscii = std::all_of(narrow->cbegin(), narrow->cend(), [](char c) { return (c & 0x80) == 0; });
-    if (isAscii || !QByteArrayView(*narrow).isValidUtf8()) {
+    if (isAscii(*narrow) || !QByteArrayView(*narrow).isValidUtf8()) {
       return *narrow;
     }
   }

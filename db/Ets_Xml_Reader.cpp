@@ -32,6 +32,8 @@ public:
 
   [[nodiscard]] bool isSequential() const override { return true; }
   void onToken() { mInToken = 0; }
+  /// So many bytes are handed out.
+  [[nodiscard]] qint64 position() const { return mPosition; }
 
 protected:
   qint64 readData(char* data, qint64 size) override {
@@ -43,6 +45,7 @@ protected:
       return -1;
     }
     const qint64 count = mSource.read(data, size);
+    mCollector.checkRead(mSource, count);
     mInToken += qMax(count, qint64(0));
     mPosition += qMax(count, qint64(0));
     mCollector.checkSize(mPosition);
@@ -96,7 +99,7 @@ private:
 
   void startElement() {
     if (!mCollector.countElement() ||
-        (mElements++ % cElementsPerProgress == 0 && !mCollector.progress(mFile.pos(), mFile.size()))) {
+        (mElements++ % cElementsPerProgress == 0 && !mCollector.progress(mDevice.position(), mFile.size()))) {
       return;
     }
     const QStringView name = mXml.name();

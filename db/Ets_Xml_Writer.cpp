@@ -44,7 +44,6 @@ public:
 
   QByteArray run() {
     line(0, QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\" standalone=\"yes\"?>"));
-    const qsizetype start = mText.size();
     line(0, QStringLiteral("<GroupAddress-Export xmlns=\"http://knx.org/xml/ga-export/01\">"));
     const qsizetype body = mText.size();
     for (const auto& main : mTree.mainGroups()) {
@@ -54,14 +53,13 @@ public:
         mainGroup(*main);
       }
     }
-    close(start, body, 0, QStringLiteral("GroupAddress-Export"));
+    close(body, 0, QStringLiteral("GroupAddress-Export"));
     // ETS ends the file with the tag.
     return "\xef\xbb\xbf" + mText.chopped(2).toUtf8();
   }
 
 private:
   void mainGroup(const DB_Address_MainGroup& group) {
-    const qsizetype start = mText.size();
     open(1, group.mName, group.mDescription, group.mNumber * cMainSpan, cMainSpan);
     const qsizetype body = mText.size();
     for (const auto& middle : group.mMiddleGroups) {
@@ -71,11 +69,10 @@ private:
         middleGroup(group.mNumber, *middle);
       }
     }
-    close(start, body, 1, QStringLiteral("GroupRange"));
+    close(body, 1, QStringLiteral("GroupRange"));
   }
 
   void middleGroup(int main, const DB_Address_Middle_Group& group) {
-    const qsizetype start = mText.size();
     open(2, group.mName, group.mDescription, main * cMainSpan + group.mNumber * cMiddleSpan, cMiddleSpan);
     const qsizetype body = mText.size();
     for (const auto& sub : group.mSubGroups) {
@@ -88,7 +85,7 @@ private:
         subGroup(address, *sub);
       }
     }
-    close(start, body, 2, QStringLiteral("GroupRange"));
+    close(body, 2, QStringLiteral("GroupRange"));
   }
 
   void subGroup(const Group_Address& address, const DB_Address_Sub_Group& group) {
@@ -108,9 +105,9 @@ private:
   }
 
   /// An element without content closes in its own tag.
-  void close(qsizetype start, qsizetype body, int depth, const QString& name) {
+  void close(qsizetype body, int depth, const QString& name) {
     constexpr qsizetype cTagEnd = 3;
-    if (mText.size() == body && body > start) {
+    if (mText.size() == body) {
       mText.chop(cTagEnd);
       mText += QStringLiteral(" />\r\n");
     } else {

@@ -66,6 +66,21 @@ private:
 
 constexpr qint64 cMegabyte = qint64(1024) * 1024;
 
+/// Fails behind its beginning.
+class Failing_Device : public Large_Device {
+public:
+  explicit Failing_Device(const QByteArray& head) : Large_Device(head, "x", {}, cMegabyte) {}
+
+protected:
+  qint64 readData(char* data, qint64 wanted) override {
+    if (given() > 0) {
+      setErrorString(QStringLiteral("Datenträger entfernt"));
+      return -1;
+    }
+    return Large_Device::readData(data, wanted);
+  }
+};
+
 /// Addresses with their names, found over the raw lines or tags.
 QStringList rawAddresses(const QString& path) {
   QString text = QString::fromUtf8(Session_Rig::bytesOf(path));
@@ -160,6 +175,7 @@ private slots:
     row("marked but no UTF-8", "\xef\xbb\xbf" + cEsf + "\xe4", "als UTF-8 gekennzeichnet");
     row("half a UTF-16", utf16(cEsf, true).chopped(1), "UTF-16");
     row("half a character in UTF-16", utf16(cEsf, false) + "\x2f\xd9", "UTF-16");
+    row("cut UTF-8", QByteArray("Größe.EG.1/2/3\tKüche\t\tLow\t\nGrö").chopped(1), "mitten in einem Zeichen");
     row("cut XML", cXml.chopped(10), "nicht vollständig");
     row("XML in Windows-1252",
         QByteArray(cXml).replace("Decke", "K\xfc"
@@ -249,6 +265,17 @@ private slots:
     QVERIFY(!Ets_Reader::read(device, {}, groups, error));
     QVERIFY2(error.contains(QStringLiteral("größer als")), qPrintable(error));
     QCOMPARE(device.given(), 0);
+  }
+
+  void aFailureOfTheDeviceIsTold() {
+    for (const QByteArray& head : {cEsf, cXml, cCsv}) {
+      Failing_Device device(head);
+      Ets_Groups groups;
+      QString error;
+      QVERIFY(!Ets_Reader::read(device, {}, groups, error));
+      QVERIFY2(error.contains(QStringLiteral("Datenträger entfernt")), qPrintable(error));
+      QVERIFY(groups.mAddresses.empty());
+    }
   }
 
   void entriesWithoutEndAreRefused() {
