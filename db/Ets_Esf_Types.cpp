@@ -11,10 +11,10 @@ constexpr int cAny = Datapoint_Id::cAnySub;
 constexpr int cByte = 8;
 
 struct Eis {
-  int mNumber;
-  int mBits;
+  int mNumber = 0;
+  int mBits = 0;
   Datapoint_Id mType;
-  const char* mText;
+  const char* mText = "";
 };
 
 constexpr Eis cEis[] = {
@@ -37,9 +37,9 @@ constexpr Eis cEis[] = {
 
 /// The format of a main number: by an EIS, or with 0 for that by its size in bytes.
 struct Format {
-  int mMain;
-  int mEis;
-  int mBytes;
+  int mMain = 0;
+  int mEis = 0;
+  int mBytes = 0;
 };
 
 constexpr Format cFormats[] = {
@@ -111,11 +111,9 @@ QString Ets_Esf_Types::textOf(const Datapoint_Id& type) {
   if (format == std::end(cFormats)) {
     return QStringLiteral("Unknown");
   }
-  if (format->mEis == 0) {
-    return QStringLiteral("Uncertain (%1 Byte)").arg(format->mBytes);
-  }
   // Of one size there may be several, and one of them means just this type.
   const auto* const exact =
       std::find_if(std::begin(cEis), std::end(cEis), [&type](const Eis& eis) { return eis.mType == type; });
-  return QString::fromLatin1(exact != std::end(cEis) ? exact->mText : eisOf(format->mEis)->mText);
+  const Eis* const eis = exact != std::end(cEis) ? exact : eisOf(format->mEis);
+  return eis ? QString::fromLatin1(eis->mText) : QStringLiteral("Uncertain (%1 Byte)").arg(format->mBytes);
 }

@@ -184,10 +184,10 @@ QString Ets_Text::permitted(const QString& text) {
 
 QByteArray Ets_Text::encode(const QString& text) {
   const std::optional<QByteArray> narrow = toWindows1252(text);
-  if (narrow) {
-    if (isAscii(*narrow) || !QByteArrayView(*narrow).isValidUtf8()) {
-      return *narrow;
-    }
+  // Some texts would be taken for UTF-8, or their first letters for a mark.
+  QString error;
+  if (narrow && decode(*narrow, error) == text) {
+    return *narrow;
   }
   return cUtf8Mark.toByteArray() + text.toUtf8();
 }

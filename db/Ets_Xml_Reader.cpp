@@ -183,7 +183,7 @@ private:
   }
 
   QXmlStreamAttributes attributes() {
-    const QXmlStreamAttributes attributes = mXml.attributes();
+    QXmlStreamAttributes attributes = mXml.attributes();
     // The parser compares each with each: of many such elements reading would take for ever.
     if (attributes.size() > cAttributeLimit) {
       mCollector.setError(
