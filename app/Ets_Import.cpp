@@ -3,6 +3,7 @@
 #include "base/Decimal_Text.h"
 #include "db/Address_Import.h"
 #include "db/Ets_Reader.h"
+#include "db/Project_Session.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -17,14 +18,7 @@ QString tr(const char* text) {
 }
 
 QString report(const QString& name, const Address_Import::Result& result, const Ets_Groups& groups) {
-  QStringList lines{tr("Neue Gruppenadressen aus \"%1\": %2.").arg(name, Decimal_Text::count(result.mAdded))};
-  if (result.mExisting > 0) {
-    lines.append(tr("Schon vorhanden und unverändert: %1.").arg(Decimal_Text::count(result.mExisting)));
-  }
-  if (result.mRepeated > 0) {
-    lines.append(
-        tr("In der Datei mehrfach genannt, der erste Eintrag zählt: %1.").arg(Decimal_Text::count(result.mRepeated)));
-  }
+  QStringList lines{tr("Aus \"%1\": %2.").arg(name, result.toString())};
   if (groups.mFaultCount > 0) {
     lines.append({QString(), tr("Nicht übernommen: %1.").arg(Decimal_Text::count(groups.mFaultCount))});
     lines.append(groups.mFaults.first(qMin(groups.mFaults.size(), cShownFaults)));
@@ -52,7 +46,9 @@ Ets_Import::Outcome Ets_Import::run(Project_Session& session, const QString& pat
     return failed(error);
   }
   Address_Import::Result result;
-  if (const Edit_Result edit = Address_Import::addNew(session, groups, result); !edit) {
+  if (const Edit_Result edit =
+          Address_Import::apply(session, Address_Import::compare(session.database(), groups), result);
+      !edit) {
     return failed(edit.mError);
   }
   return {true, report(name, result, groups)};

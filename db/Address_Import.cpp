@@ -1,172 +1,201 @@
 #include "db/Address_Import.h"
 
+#include "base/Decimal_Text.h"
+#include "db/Address_Comparison.h"
 #include "db/Edit_Scope.h"
 #include "db/Project_Session.h"
 
 #include <QCoreApplication>
-#include <QHash>
-#include <QSet>
 
 namespace {
 
-constexpr int cMainSpan = 2048;
-constexpr int cMiddleSpan = 256;
+using Kind = Address_Import_Row::Kind;
+using Level = Address_Import_Row::Level;
+using Values = Address_Import_Row::Values;
 
 QString tr(const char* text) {
   return QCoreApplication::translate("Address_Import", text);
 }
 
-/// What the export calls the main groups (by number) and middle groups (by main * 8 + middle).
-struct Names {
-  struct Name {
-    QString mName;
-    QString mDescription;
-  };
-  QHash<int, Name> mMain;
-  QHash<int, Name> mMiddle;
-  QSet<int> mWantedMain; ///< named by a range of their own: made even when empty
-  QSet<int> mWantedMiddle;
-};
-
-/// Ranges come outer before inner: of those inside one group the outermost is the group's own, of those that span
-/// several groups the innermost names what has no own one.
-Names namesOf(const std::vector<Ets_Groups::Range>& ranges) {
-  Names names;
-  for (const Ets_Groups::Range& range : ranges) {
-    const Names::Name name{range.mName, range.mDescription};
-    const int firstMain = range.mStart / cMainSpan;
-    const int lastMain = range.mEnd / cMainSpan;
-    const int firstMiddle = range.mStart / cMiddleSpan;
-    const int lastMiddle = range.mEnd / cMiddleSpan;
-    if (firstMiddle == lastMiddle && range.mDepth > 0) {
-      if (!names.mWantedMiddle.contains(firstMiddle)) {
-        names.mMiddle.insert(firstMiddle, name);
-        names.mWantedMiddle.insert(firstMiddle);
-        names.mWantedMain.insert(firstMain);
-      }
-      continue;
-    }
-    for (int main = firstMain; main <= lastMain; ++main) {
-      // Inside a main group that already has a name of its own a narrower range is no main group.
-      const bool isOwn = firstMain == lastMain && names.mWantedMain.contains(main);
-      if (!isOwn) {
-        names.mMain.insert(main, name);
-      }
-    }
-    if (firstMain == lastMain) {
-      names.mWantedMain.insert(firstMain);
-    }
-  }
-  return names;
-}
-
-/// Makes what is missing in the tree, recording it.
-class Builder {
+/// Carries the ticked rows out, recording each change. The rows come groups first.
+class Applier {
 public:
-  Builder(Project_Session& session, Edit_Scope& scope, const Names& names)
-      : mSession(session),
+  Applier(Project_Session& session, Edit_Scope& scope, Address_Import::Result& result)
+      : mUndo(session.addressUndo()),
         mTree(session.database().mAddresses),
         mScope(scope),
-        mNames(names) {}
+        mResult(result) {}
+
+  void apply(const Address_Import_Plan& plan) {
+    noteGroups(plan);
+    mTree.reserve(mTree.subGroupCount() + plan.count(Kind::New));
+    mTree.beginChange();
+    for (const Address_Import_Row& row : plan.rows()) {
+      if (row.mTicked) {
+        ++(apply(row) ? counterOf(row) : mResult.mSkipped);
+      }
+    }
+    mTree.endChange();
+  }
+
+private:
+  /// What new groups are called, ticked or not: an address may need them.
+  void noteGroups(const Address_Import_Plan& plan) {
+    for (const Address_Import_Row& row : plan.rows()) {
+      if (row.mLevel != Level::Address) {
+        (row.mLevel == Level::MainGroup ? mMains : mMiddles).insert(row.mAddress, row.mIncoming);
+      }
+    }
+  }
+
+  [[nodiscard]] int& counterOf(const Address_Import_Row& row) {
+    if (row.mKind == Kind::Vanished) {
+      return mResult.mDeleted;
+    }
+    return row.mKey.isNull() ? mResult.mNew : mResult.mChanged;
+  }
+
+  [[nodiscard]] bool apply(const Address_Import_Row& row) {
+    switch (row.mLevel) {
+    case Level::MainGroup:
+      return applyGroup(row, mTree.mainGroup(row.mAddress.main()));
+    case Level::MiddleGroup:
+      return applyGroup(row, mTree.middleGroup(row.mAddress.main(), row.mAddress.middle()));
+    case Level::Address:
+      break;
+    }
+    return applyAddress(row, mTree.subGroup(row.mAddress));
+  }
+
+  template <class Group>
+  bool applyGroup(const Address_Import_Row& row, Group* present) {
+    if (row.mKey.isNull()) {
+      if (present) {
+        return false;
+      }
+      if (row.mLevel == Level::MainGroup) {
+        mainGroup(row.mAddress.main());
+      } else {
+        middleGroup(row.mAddress.main(), row.mAddress.middle());
+      }
+      return true;
+    }
+    if (!present || present->mKey != row.mKey || present->mName != row.mPresent.mName ||
+        present->mDescription != row.mPresent.mDescription) {
+      return false;
+    }
+    mScope.modified(mUndo, row.mKey);
+    return mTree.change(row.mKey, [&row](DB_Data_Base& record) {
+      auto& group = static_cast<Group&>(record);
+      group.mName = row.mIncoming.mName;
+      group.mDescription = row.mIncoming.mDescription;
+    });
+  }
+
+  bool applyAddress(const Address_Import_Row& row, const DB_Address_Sub_Group* first) {
+    if (row.mKey.isNull()) {
+      if (first) {
+        return false;
+      }
+      addAddress(row);
+      return true;
+    }
+    const DB_Address_Sub_Group* const present = mTree.subGroup(row.mKey);
+    if (!present || mTree.addressOf(*present) != row.mAddress || Values::of(*present).differenceTo(row.mPresent)) {
+      return false;
+    }
+    if (row.mKind == Kind::Vanished) {
+      mScope.deleted(mUndo, row.mKey);
+      return mTree.take(row.mKey) != nullptr;
+    }
+    mScope.modified(mUndo, row.mKey);
+    return mTree.change(
+        row.mKey, [&row](DB_Data_Base& record) { row.mIncoming.applyTo(static_cast<DB_Address_Sub_Group&>(record)); });
+  }
+
+  void addAddress(const Address_Import_Row& row) {
+    const DB_Address_Middle_Group& middle = middleGroup(row.mAddress.main(), row.mAddress.middle());
+    auto group = std::make_unique<DB_Address_Sub_Group>();
+    group->mMiddleKey = middle.mKey;
+    group->mNumber = row.mAddress.sub();
+    row.mIncoming.applyTo(*group);
+    group->mOrigin = originOf(row, *mTree.mainGroup(middle.mMainKey), middle);
+    mScope.created(mUndo, mTree.add(std::move(group))->mKey);
+  }
+
+  /// What of the export's own structure the three levels cannot show: another way of writing, further ranges.
+  [[nodiscard]] static QString originOf(const Address_Import_Row& row, const DB_Address_MainGroup& main,
+                                        const DB_Address_Middle_Group& middle) {
+    const QString path = middle.mName.isEmpty() ? main.mName : main.mName + QStringLiteral(" / ") + middle.mName;
+    QStringList origin(row.mForeignText);
+    if (row.mRangePath != path) {
+      origin.append(row.mRangePath);
+    }
+    origin.removeAll(QString());
+    return origin.join(QStringLiteral(", "));
+  }
 
   DB_Address_MainGroup& mainGroup(int main) {
     if (DB_Address_MainGroup* const present = mTree.mainGroup(main)) {
       return *present;
     }
-    auto group = std::make_unique<DB_Address_MainGroup>();
-    group->mNumber = main;
-    const Names::Name name = mNames.mMain.value(main);
-    group->mName = name.mName;
-    group->mDescription = name.mDescription;
-    DB_Address_MainGroup* const added = mTree.add(std::move(group));
-    mScope.created(mSession.addressUndo(), added->mKey);
-    return *added;
+    return add<DB_Address_MainGroup>(main, mMains.value({main, 0, 0}), {});
   }
 
   DB_Address_Middle_Group& middleGroup(int main, int middle) {
     if (DB_Address_Middle_Group* const present = mTree.middleGroup(main, middle)) {
       return *present;
     }
-    auto group = std::make_unique<DB_Address_Middle_Group>();
-    group->mMainKey = mainGroup(main).mKey;
-    group->mNumber = middle;
-    const Names::Name name = mNames.mMiddle.value(main * (Group_Address::cMiddleMax + 1) + middle);
-    group->mName = name.mName;
-    group->mDescription = name.mDescription;
-    DB_Address_Middle_Group* const added = mTree.add(std::move(group));
-    mScope.created(mSession.addressUndo(), added->mKey);
+    return add<DB_Address_Middle_Group>(middle, mMiddles.value({main, middle, 0}), mainGroup(main).mKey);
+  }
+
+  template <class Group>
+  Group& add(int number, const Values& values, const QUuid& mainKey) {
+    auto group = std::make_unique<Group>();
+    if constexpr (std::is_same_v<Group, DB_Address_Middle_Group>) {
+      group->mMainKey = mainKey;
+    }
+    group->mNumber = number;
+    group->mName = values.mName;
+    group->mDescription = values.mDescription;
+    Group* const added = mTree.add(std::move(group));
+    mScope.created(mUndo, added->mKey);
     return *added;
   }
 
-  void subGroup(const Ets_Groups::Address& from) {
-    auto group = std::make_unique<DB_Address_Sub_Group>();
-    group->mMiddleKey = middleGroup(from.mAddress.main(), from.mAddress.middle()).mKey;
-    group->mNumber = from.mAddress.sub();
-    group->mName = from.mName;
-    group->mDescription = from.mDescription;
-    group->mDpt = from.mDpt;
-    group->mDptGuessed = from.mDptGuessed;
-    group->mDptRaw = from.mDpts;
-    group->mCentral = from.mCentral;
-    group->mUnfiltered = from.mUnfiltered;
-    group->mSecurity = from.mSecurity;
-    group->mOrigin = originOf(from);
-    const DB_Address_Sub_Group* const added = mTree.add(std::move(group));
-    mScope.created(mSession.addressUndo(), added->mKey);
-  }
-
-private:
-  /// What of the export's own structure the three levels cannot show: another way of writing, further ranges.
-  [[nodiscard]] QString originOf(const Ets_Groups::Address& from) const {
-    const QString main = mTree.mainGroup(from.mAddress.main())->mName;
-    const QString middle = mTree.middleGroup(from.mAddress.main(), from.mAddress.middle())->mName;
-    QStringList origin;
-    if (from.mStyle != Ets_Groups::Style::ThreeLevel) {
-      origin.append(from.mText);
-    }
-    const QString path = middle.isEmpty() ? main : main + QStringLiteral(" / ") + middle;
-    if (!from.mRangePath.isEmpty() && from.mRangePath != path) {
-      origin.append(from.mRangePath);
-    }
-    return origin.join(QStringLiteral(", "));
-  }
-
-  Project_Session& mSession;
+  Undo_Adapter& mUndo;
   Address_Tree& mTree;
   Edit_Scope& mScope;
-  const Names& mNames;
+  Address_Import::Result& mResult;
+  QHash<Group_Address, Values> mMains;
+  QHash<Group_Address, Values> mMiddles;
 };
 
 } // namespace
 
-Edit_Result Address_Import::addNew(Project_Session& session, const Ets_Groups& groups, Result& result) {
+QString Address_Import::Result::toString() const {
+  QStringList parts;
+  for (const auto& [count, text] :
+       {std::pair(mNew, tr("%1 neu")), std::pair(mChanged, tr("%1 geändert")), std::pair(mDeleted, tr("%1 gelöscht")),
+        std::pair(mSkipped, tr("%1 ausgelassen, weil sich das Projekt inzwischen änderte"))}) {
+    if (count > 0) {
+      parts.append(text.arg(Decimal_Text::count(count)));
+    }
+  }
+  return parts.isEmpty() ? tr("nichts geändert") : parts.join(QStringLiteral(", "));
+}
+
+Address_Import_Plan Address_Import::compare(const ProjectDatabase& database, const Ets_Groups& groups,
+                                            const Options& options) {
+  return Address_Comparison(database, groups, options).plan();
+}
+
+Edit_Result Address_Import::apply(Project_Session& session, const Address_Import_Plan& plan, Result& result) {
   result = {};
   Edit_Scope scope(session.history(), tr("Adressen importieren"), Edit_Scope::Grouping::Own);
   if (!scope) {
     return Edit_Result::refused(scope.refusal());
   }
-  Address_Tree& tree = session.database().mAddresses;
-  const Names names = namesOf(groups.mRanges);
-  Builder builder(session, scope, names);
-  QSet<Group_Address> added;
-  tree.beginChange();
-  for (const int main : names.mWantedMain) {
-    builder.mainGroup(main);
-  }
-  for (const int middle : names.mWantedMiddle) {
-    builder.middleGroup(middle / (Group_Address::cMiddleMax + 1), middle % (Group_Address::cMiddleMax + 1));
-  }
-  for (const Ets_Groups::Address& address : groups.mAddresses) {
-    if (added.contains(address.mAddress)) {
-      ++result.mRepeated;
-    } else if (tree.subGroup(address.mAddress)) {
-      ++result.mExisting;
-    } else {
-      builder.subGroup(address);
-      added.insert(address.mAddress);
-      ++result.mAdded;
-    }
-  }
-  tree.endChange();
+  Applier(session, scope, result).apply(plan);
   return Edit_Result::done();
 }

@@ -1,25 +1,49 @@
 #pragma once
 
+#include "db/Address_Import_Plan.h"
 #include "db/Edit_Result.h"
 #include "db/Ets_Groups.h"
 
 class Project_Session;
+class ProjectDatabase;
 
-/// Brings the groups of an ETS export into the address tree.
+/// Brings the groups of an ETS export into the address tree: first a comparison, which changes nothing, then the rows
+/// of it that are ticked.
 ///
-/// Addresses are matched by their number. What the project already has stays as it is, key, name and attributes; new
-/// addresses and the groups they need are made. A main or middle group takes the name of the range that covers it and
-/// no more, else of the innermost range around it that is no larger group's own; ranges without addresses make their
-/// groups.
+/// Addresses are matched by their number. Keys and the attributes of the studio (read at start, read cyclically, write,
+/// active) of what the project has always stay, so what is bound to an address stays bound to it.
 namespace Address_Import {
 
-struct Result {
-  int mAdded = 0;    ///< new group addresses
-  int mExisting = 0; ///< already there, left as they were
-  int mRepeated = 0; ///< the export names the address again; its first entry counts
+/// What becomes of the addresses that an ESF names as connected to an address.
+enum class Connected {
+  Ignore = 0,
+  Describe = 1, ///< told in the description of what is new or changes anyway
 };
 
-/// One undo step. Refuses in the operating mode.
-Edit_Result addNew(Project_Session& session, const Ets_Groups& groups, Result& result);
+struct Options {
+  bool mKeepType = false;    ///< of addresses that have one
+  bool mKeepComment = false; ///< name and description of the addresses and groups that the project has
+  bool mImportNewOnly = false;
+  Connected mConnected = Connected::Ignore;
+};
+
+struct Result {
+  int mNew = 0;
+  int mChanged = 0;
+  int mDeleted = 0;
+  int mSkipped = 0; ///< ticked, but the project changed since the comparison
+
+  /// "120 neu, 3 geändert, …": German, in one line.
+  [[nodiscard]] QString toString() const;
+};
+
+/// New and changed ones are ticked, vanished ones and conflicts are not. An incoming value that the file's format
+/// cannot tell is no change, and neither is a guessed type of the size of the present one.
+[[nodiscard]] Address_Import_Plan compare(const ProjectDatabase& database, const Ets_Groups& groups,
+                                          const Options& options = {});
+
+/// One undo step. Refuses in the operating mode. New addresses get the groups they need, ticked or not. A row that does
+/// not fit any more is skipped.
+Edit_Result apply(Project_Session& session, const Address_Import_Plan& plan, Result& result);
 
 } // namespace Address_Import

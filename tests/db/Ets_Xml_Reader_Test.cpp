@@ -1,6 +1,4 @@
-#include "db/Address_Import.h"
 #include "db/Ets_Reader.h"
-#include "tests/db/Project_Dump.h"
 #include "tests/db/Session_Rig.h"
 
 #include <QBuffer>
@@ -112,41 +110,6 @@ private slots:
     }
   }
 
-  void importMakesGroupsOnceAndLeavesWhatIsThere() {
-    Session_Rig rig;
-    QVERIFY(rig.create());
-    rig.addAddress({1, 0, 5}, QStringLiteral("eigener Name"));
-    rig.mSession.history().clear();
-    Ets_Groups groups;
-    QString error;
-    const QByteArray body =
-        "<GroupRange Name='Licht' Description='alle' RangeStart='2048' RangeEnd='4095'>"
-        "<GroupRange Name='EG' RangeStart='2304' RangeEnd='2559'>"
-        "<GroupAddress Name='a' Address='1/1/0'/><GroupAddress Name='b' Address='1/1/0'/></GroupRange>"
-        "<GroupRange Name='leer' RangeStart='2560' RangeEnd='2815'/>"
-        "<GroupAddress Name='fremd' Address='1/0/5'/></GroupRange>"
-        "<GroupAddress Name='flach' Address='5/515'/>";
-    QVERIFY2(readBytes(cOpen + body + cClose, groups, error), qPrintable(error));
-    const QByteArray before = Project_Dump::project(rig.mSession.database());
-    Address_Import::Result result;
-    QVERIFY(Address_Import::addNew(rig.mSession, groups, result));
-    QVERIFY(result.mAdded == 2 && result.mExisting == 1 && result.mRepeated == 1);
-    const Address_Tree& tree = rig.mSession.database().mAddresses;
-    QCOMPARE(tree.subGroup({1, 0, 5})->mName, QStringLiteral("eigener Name"));
-    QCOMPARE(tree.subGroup({1, 1, 0})->mName, QStringLiteral("a"));
-    QCOMPARE(tree.middleGroup(1, 1)->mName, QStringLiteral("EG"));
-    QCOMPARE(tree.middleGroup(1, 2)->mName, QStringLiteral("leer"));
-    QCOMPARE(tree.subGroup({5, 2, 3})->mOrigin, QStringLiteral("5/515"));
-    const QByteArray after = Project_Dump::project(rig.mSession.database());
-    QCOMPARE(rig.mSession.history().position(), size_t(1));
-    QVERIFY(rig.mSession.history().undo());
-    QCOMPARE(Project_Dump::project(rig.mSession.database()), before);
-    QVERIFY(rig.mSession.history().redo());
-    QCOMPARE(Project_Dump::project(rig.mSession.database()), after);
-    rig.mState.setOperatingMode(true);
-    QCOMPARE(Address_Import::addNew(rig.mSession, groups, result).mError, Session_State::operatingModeRefusal());
-  }
-
   /// Real exports lie beside the project on a developer's machine; they are never copied into it.
   void realExportsArriveWhole() {
     const QString source = QFINDTESTDATA("Ets_Xml_Reader_Test.cpp");
@@ -173,13 +136,6 @@ private slots:
       };
       QCOMPARE(namesOf(groups.mAddresses), addressNames);
       QCOMPARE(namesOf(groups.mRanges), rangeNames);
-      Session_Rig rig;
-      QVERIFY(rig.create());
-      Address_Import::Result result;
-      QVERIFY(Address_Import::addNew(rig.mSession, groups, result));
-      const Address_Tree& tree = rig.mSession.database().mAddresses;
-      QCOMPARE(result.mAdded + result.mRepeated, addressNames.size());
-      QCOMPARE(tree.subGroupCount(), result.mAdded);
       qInfo("%s: %lld addresses, %lld ranges", qPrintable(name), addressNames.size(), rangeNames.size());
     }
   }

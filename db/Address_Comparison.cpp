@@ -1,0 +1,428 @@
+#include "db/Address_Comparison.h"
+
+#include "db/DB_Text.h"
+#include "db/ProjectDatabase.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+using Format = Ets_Groups::Format;
+using Kind = Address_Import_Row::Kind;
+using Level = Address_Import_Row::Level;
+
+namespace {
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("Address_Import", text);
+}
+
+/// Size of a value on the bus; 0 for no type and for one that is not known.
+int bitsOf(const Datapoint_Id& type) {
+  constexpr std::array bits{0,   1, 2, 4,  8, 8, 8,  16, 16, 16, 24, 24, 32, 32, 32, 32,
+                            112, 8, 8, 64, 8, 8, 16, 2,  0,  8,  8,  32, 0,  64, 24};
+  constexpr std::array further{std::pair(225, 24), std::pair(229, 48), std::pair(230, 64), std::pair(232, 24),
+                               std::pair(235, 48), std::pair(242, 48), std::pair(249, 48), std::pair(251, 48)};
+  if (type.isNone()) {
+    return 0;
+  }
+  if (static_cast<size_t>(type.mMain) < bits.size()) {
+    return bits[static_cast<size_t>(type.mMain)];
+  }
+  const auto isIt = [&type](const auto& entry) { return entry.first == type.mMain; };
+  const auto found = std::find_if(further.begin(), further.end(), isIt);
+  return found != further.end() ? found->second : 0;
+}
+
+bool changesSize(const Datapoint_Id& from, const Datapoint_Id& to) {
+  return bitsOf(from) > 0 && bitsOf(to) > 0 && bitsOf(from) != bitsOf(to);
+}
+
+/// How many pins and elements are bound to each address.
+QHash<QUuid, int> usesByKey(const ProjectDatabase& database) {
+  QHash<QUuid, int> uses;
+  const auto count = [&uses](const DB_Address_Binding& binding) {
+    if (binding.mKind == DB_Address_Binding::Kind::GroupAddress) {
+      ++uses[binding.mKey];
+    }
+  };
+  for (const auto& page : database.mFbPages.pages()) {
+    for (const auto& block : page->mChildren) {
+      for (const auto* const pins : {&block->mInputs, &block->mOutputs}) {
+        std::for_each(pins->begin(), pins->end(), [&count](const DB_FB_Pin& pin) { count(pin.mBinding); });
+      }
+      count(block->mDisableAddress);
+    }
+  }
+  for (const auto& page : database.mWidgetPages.pages()) {
+    for (const auto& element : page->mChildren) {
+      std::for_each(element->mAddresses.begin(), element->mAddresses.end(), count);
+    }
+  }
+  return uses;
+}
+
+QString usesNote(int uses) {
+  switch (uses) {
+  case 0:
+    return tr("Nicht verwendet.");
+  case 1:
+    return tr("In 1 Verknüpfung verwendet.");
+  default:
+    return tr("In %1 Verknüpfungen verwendet.").arg(uses);
+  }
+}
+
+void addNote(QString& note, const QString& further) {
+  note += (note.isEmpty() || further.isEmpty() ? QString() : QStringLiteral(" ")) + further;
+}
+
+/// Where else the file names the address.
+QString variantNote(const Ets_Groups::Address& entry, const std::vector<int>& lines) {
+  constexpr qsizetype cShownLines = 5;
+  QStringList others;
+  for (const int line : lines) {
+    if (line != entry.mLine) {
+      others.append(QString::number(line));
+    }
+  }
+  if (others.size() > cShownLines) {
+    others = others.first(cShownLines) + QStringList(QStringLiteral("…"));
+  }
+  return tr("Zeile %1 der Datei; anders in Zeile %2.").arg(entry.mLine).arg(others.join(QStringLiteral(", ")));
+}
+
+/// For finding what only its number tells apart.
+std::pair<QString, int> nameAndFormat(const Address_Import_Row::Values& values) {
+  return {values.mName, values.mDpt.mMain};
+}
+
+template <class Group>
+Address_Import_Row::Values valuesOf(const Group* group) {
+  Address_Import_Row::Values values;
+  if (group) {
+    values.mName = group->mName;
+    values.mDescription = group->mDescription;
+  }
+  return values;
+}
+
+bool isSameText(const QString& a, const QString& b) {
+  return a == b || DB_Text::singleLine(a) == DB_Text::singleLine(b);
+}
+
+} // namespace
+
+Address_Comparison::Address_Comparison(const ProjectDatabase& database, const Ets_Groups& groups,
+                                       const Address_Import::Options& options)
+    : mDatabase(database),
+      mGroups(groups),
+      mOptions(options),
+      mNames(groups.mRanges),
+      mUses(usesByKey(database)) {
+  // A file without a single one cannot tell that one was removed: older exports have none.
+  const auto isDescribed = [](const auto& item) { return !item.mDescription.isEmpty(); };
+  mTellsDescriptions = std::any_of(groups.mAddresses.begin(), groups.mAddresses.end(), isDescribed) ||
+                       std::any_of(groups.mRanges.begin(), groups.mRanges.end(), isDescribed);
+  const auto isFlagged = [](const Ets_Groups::Address& entry) { return entry.mCentral || entry.mUnfiltered; };
+  mTellsFlags =
+      groups.mFormat == Format::Xml || std::any_of(groups.mAddresses.begin(), groups.mAddresses.end(), isFlagged);
+}
+
+Address_Import_Plan Address_Comparison::plan() {
+  compareAddresses();
+  if (!mOptions.mImportNewOnly) {
+    addVanished();
+    noteRenumbered();
+  }
+  compareGroups();
+  return Address_Import_Plan(std::move(mRows), mUnchanged, mRepeated);
+}
+
+void Address_Comparison::compareAddresses() {
+  std::vector<const Ets_Groups::Address*> entries;
+  entries.reserve(mGroups.mAddresses.size());
+  for (const Ets_Groups::Address& entry : mGroups.mAddresses) {
+    entries.push_back(&entry);
+  }
+  const auto less = [](const auto* a, const auto* b) { return a->mAddress < b->mAddress; };
+  std::stable_sort(entries.begin(), entries.end(), less);
+  mRows.reserve(entries.size());
+  for (auto first = entries.begin(); first != entries.end();) {
+    const auto last = std::upper_bound(first, entries.end(), *first, less);
+    compareAddress({first, last});
+    first = last;
+  }
+}
+
+void Address_Comparison::compareAddress(const std::vector<const Ets_Groups::Address*>& entries) {
+  const DB_Address_Sub_Group* const present = mDatabase.mAddresses.subGroup(entries.front()->mAddress);
+  if (present && mOptions.mImportNewOnly) {
+    ++mUnchanged;
+    mRepeated += static_cast<int>(entries.size()) - 1;
+    return;
+  }
+  const Values was = present ? Values::of(*present) : Values();
+  std::vector<Variant> variants;
+  std::vector<int> lines;
+  for (const Ets_Groups::Address* const entry : entries) {
+    const Values values = incoming(*entry, present ? &was : nullptr);
+    const auto isSame = [&values](const Variant& variant) { return !variant.mValues.differenceTo(values); };
+    if (std::any_of(variants.begin(), variants.end(), isSame)) {
+      ++mRepeated;
+    } else {
+      variants.push_back({values, entry});
+      lines.push_back(entry->mLine);
+    }
+  }
+  for (const Variant& variant : variants) {
+    const QString note = variants.size() > 1 ? variantNote(*variant.mEntry, lines) : QString();
+    if (present) {
+      addPresent(variant, *present, note);
+    } else {
+      addNew(variant, note);
+    }
+  }
+}
+
+Address_Comparison::Values Address_Comparison::incoming(const Ets_Groups::Address& entry, const Values* present) const {
+  Values values{DB_Text::singleLine(entry.mName),
+                DB_Text::clean(entry.mDescription),
+                entry.mDpt,
+                entry.mDptGuessed,
+                DB_Text::singleLine(entry.mDpts),
+                entry.mCentral,
+                entry.mUnfiltered,
+                DB_Text::singleLine(entry.mSecurity)};
+  if (present) {
+    keepPresent(values, *present);
+  }
+  if (!present || (!mOptions.mKeepComment && values.differenceTo(*present))) {
+    addConnected(values.mDescription, entry.mConnected);
+  }
+  return values;
+}
+
+void Address_Comparison::keepPresent(Values& values, const Values& present) const {
+  if (mOptions.mKeepComment || values.mName.isEmpty() || isSameText(values.mName, present.mName)) {
+    values.mName = present.mName;
+  }
+  const bool tellsNone = values.mDescription.isEmpty() && !mTellsDescriptions;
+  if (mOptions.mKeepComment || tellsNone || isSameText(values.mDescription, present.mDescription)) {
+    values.mDescription = present.mDescription;
+  }
+  if (keepsType(values, present)) {
+    values.mDpt = present.mDpt;
+    values.mDptGuessed = present.mDptGuessed;
+    values.mDptRaw = present.mDptRaw;
+  }
+  if (!mTellsFlags) {
+    values.mCentral = present.mCentral;
+    values.mUnfiltered = present.mUnfiltered;
+  }
+  if (values.mSecurity.isEmpty()) {
+    values.mSecurity = present.mSecurity;
+  }
+}
+
+bool Address_Comparison::keepsType(const Values& incoming, const Values& present) const {
+  if (incoming.mDpt.isNone()) {
+    return true;
+  }
+  if (present.mDpt.isNone()) {
+    return false;
+  }
+  const bool isSame = incoming.mDpt == present.mDpt && incoming.mDptGuessed == present.mDptGuessed;
+  const bool isOnlyGuess = incoming.mDptGuessed && bitsOf(incoming.mDpt) == bitsOf(present.mDpt);
+  return mOptions.mKeepType || isSame || isOnlyGuess;
+}
+
+/// The line of an earlier import gives way.
+void Address_Comparison::addConnected(QString& description, const QStringList& connected) const {
+  if (mOptions.mConnected != Address_Import::Connected::Describe || connected.isEmpty()) {
+    return;
+  }
+  const QString title = tr("Verbunden mit: ");
+  static const QRegularExpression earlier(QStringLiteral("\n?^%1.*$").arg(QRegularExpression::escape(title)),
+                                          QRegularExpression::MultilineOption);
+  description.remove(earlier);
+  description += (description.isEmpty() ? QString() : QStringLiteral("\n")) + title +
+                 DB_Text::singleLine(connected.join(QStringLiteral(", ")));
+}
+
+void Address_Comparison::addNew(const Variant& variant, const QString& note) {
+  const Ets_Groups::Address& entry = *variant.mEntry;
+  Row row;
+  row.mKind = note.isEmpty() ? Kind::New : Kind::Conflict;
+  row.mAddress = entry.mAddress;
+  row.mIncoming = variant.mValues;
+  row.mNote = note;
+  row.mTicked = row.mKind == Kind::New;
+  row.mForeignText = entry.mStyle != Ets_Groups::Style::ThreeLevel ? DB_Text::singleLine(entry.mText) : QString();
+  row.mRangePath = DB_Text::singleLine(entry.mRangePath);
+  noteNeededGroups(row.mAddress, row.mTicked);
+  mRows.push_back(std::move(row));
+}
+
+void Address_Comparison::addPresent(const Variant& variant, const DB_Address_Sub_Group& present, const QString& note) {
+  Row row;
+  row.mAddress = variant.mEntry->mAddress;
+  row.mKey = present.mKey;
+  row.mPresent = Values::of(present);
+  row.mIncoming = variant.mValues;
+  row.mDiffering = row.mPresent.differenceTo(row.mIncoming);
+  row.mUses = mUses.value(present.mKey);
+  row.mNote = note;
+  if (!row.mDiffering && note.isEmpty()) {
+    ++mUnchanged;
+    return;
+  }
+  const bool isResized = changesSize(row.mPresent.mDpt, row.mIncoming.mDpt);
+  if (isResized) {
+    addNote(row.mNote,
+            tr("Der Typ wechselt von %1 auf %2 Bit.").arg(bitsOf(row.mPresent.mDpt)).arg(bitsOf(row.mIncoming.mDpt)));
+    addNote(row.mNote, usesNote(row.mUses));
+  } else if (row.mDiffering.testFlag(Row::Field::Type) && row.mPresent.mDpt == row.mIncoming.mDpt) {
+    addNote(row.mNote, tr("Der vermutete Typ ist bestätigt."));
+  }
+  if (!row.mDiffering) {
+    addNote(row.mNote, tr("So steht es im Projekt."));
+  }
+  row.mKind = !note.isEmpty() || (isResized && row.mUses > 0) ? Kind::Conflict : Kind::Changed;
+  row.mTicked = row.mKind == Kind::Changed;
+  mRows.push_back(std::move(row));
+}
+
+void Address_Comparison::addVanished() {
+  QSet<Group_Address> named;
+  named.reserve(static_cast<qsizetype>(mGroups.mAddresses.size()));
+  for (const Ets_Groups::Address& entry : mGroups.mAddresses) {
+    named.insert(entry.mAddress);
+  }
+  for (const auto& main : mDatabase.mAddresses.mainGroups()) {
+    for (const auto& middle : main->mMiddleGroups) {
+      for (const auto& sub : middle->mSubGroups) {
+        Row row;
+        row.mKind = Kind::Vanished;
+        row.mAddress = {main->mNumber, middle->mNumber, sub->mNumber};
+        if (!named.contains(row.mAddress)) {
+          row.mKey = sub->mKey;
+          row.mPresent = Values::of(*sub);
+          row.mUses = mUses.value(sub->mKey);
+          row.mNote = usesNote(row.mUses);
+          mRows.push_back(std::move(row));
+        }
+      }
+    }
+  }
+}
+
+/// Whoever renumbers in ETS sees here where an address went.
+void Address_Comparison::noteRenumbered() {
+  const auto firstOf = [this](Kind kind) {
+    QHash<std::pair<QString, int>, QString> first;
+    for (const Row& row : mRows) {
+      const Values& values = kind == Kind::Vanished ? row.mPresent : row.mIncoming;
+      if (row.mKind == kind && !values.mName.isEmpty() && !first.contains(nameAndFormat(values))) {
+        first.insert(nameAndFormat(values), row.addressText());
+      }
+    }
+    return first;
+  };
+  const auto added = firstOf(Kind::New);
+  const auto vanished = firstOf(Kind::Vanished);
+  for (Row& row : mRows) {
+    if (row.mKind == Kind::New && vanished.contains(nameAndFormat(row.mIncoming))) {
+      addNote(row.mNote, tr("Heißt wie %1, das in der Datei fehlt.").arg(vanished.value(nameAndFormat(row.mIncoming))));
+    } else if (row.mKind == Kind::Vanished && added.contains(nameAndFormat(row.mPresent))) {
+      addNote(row.mNote, tr("Heißt wie %1, das neu ist.").arg(added.value(nameAndFormat(row.mPresent))));
+    }
+  }
+}
+
+void Address_Comparison::noteNeededGroups(const Group_Address& address, bool isTicked) {
+  bool& isMiddleTicked = mNeededMiddle[Ets_Group_Names::middleOf(address)];
+  isMiddleTicked = isMiddleTicked || isTicked;
+  bool& isMainTicked = mNeededMain[{address.main(), 0, 0}];
+  isMainTicked = isMainTicked || isTicked;
+}
+
+void Address_Comparison::compareGroups() {
+  if (mGroups.mFormat == Format::Esf) {
+    fitEsfNames();
+  }
+  for (const Group_Address& middle : std::as_const(mNames.mOwnMiddle)) {
+    noteNeededGroups(middle, true);
+  }
+  for (const int main : std::as_const(mNames.mOwnMain)) {
+    mNeededMain[{main, 0, 0}] = true;
+  }
+  for (auto at = mNeededMain.cbegin(); at != mNeededMain.cend(); ++at) {
+    const int main = at.key().main();
+    compareGroup(Level::MainGroup, at.key(), mDatabase.mAddresses.mainGroup(main), mNames.mMain.value(main),
+                 at.value());
+  }
+  for (auto at = mNeededMiddle.cbegin(); at != mNeededMiddle.cend(); ++at) {
+    const Group_Address& middle = at.key();
+    compareGroup(Level::MiddleGroup, middle, mDatabase.mAddresses.middleGroup(middle.main(), middle.middle()),
+                 mNames.mMiddle.value(middle), at.value());
+  }
+}
+
+template <class Group>
+void Address_Comparison::compareGroup(Level level, const Group_Address& address, const Group* present,
+                                      const Ets_Group_Names::Name& name, bool isTicked) {
+  if (present && !name.mIsOwn) {
+    return; // the range around several groups tells nothing of this one
+  }
+  Row row;
+  row.mLevel = level;
+  row.mAddress = address;
+  row.mPresent = valuesOf(present);
+  row.mIncoming.mName = name.mName;
+  row.mIncoming.mDescription = name.mDescription;
+  row.mTicked = isTicked;
+  if (present) {
+    const bool isKept = mOptions.mKeepComment || mOptions.mImportNewOnly;
+    row.mKind = Kind::Changed;
+    row.mKey = present->mKey;
+    if (isKept || name.mName.isEmpty() || isSameText(name.mName, present->mName)) {
+      row.mIncoming.mName = present->mName;
+    }
+    const bool tellsNone = name.mDescription.isEmpty() && (!mTellsDescriptions || name.mName.isEmpty());
+    if (isKept || tellsNone || isSameText(name.mDescription, present->mDescription)) {
+      row.mIncoming.mDescription = present->mDescription;
+    }
+    row.mDiffering = row.mPresent.differenceTo(row.mIncoming);
+    if (!row.mDiffering) {
+      ++mUnchanged;
+      return;
+    }
+  }
+  mRows.push_back(std::move(row));
+}
+
+void Address_Comparison::fitEsfNames() {
+  const Address_Tree& tree = mDatabase.mAddresses;
+  const auto withoutBlanks = [](QString text) { return text.remove(u' '); };
+  const QHash<int, Ets_Group_Names::Name> fileMains = mNames.mMain;
+  for (auto at = mNames.mMiddle.begin(); at != mNames.mMiddle.end(); ++at) {
+    const int number = at.key().main();
+    const DB_Address_MainGroup* const main = tree.mainGroup(number);
+    if (!main || !fileMains.contains(number)) {
+      continue;
+    }
+    const QString fileName = fileMains.value(number).mName + u'.' + at.value().mName;
+    const DB_Address_Middle_Group* const middle = tree.middleGroup(number, at.key().middle());
+    const bool isSame = middle && withoutBlanks(main->mName + u'.' + middle->mName) == withoutBlanks(fileName);
+    if (isSame) {
+      at->mName = middle->mName;
+      mNames.mMain[number].mName = main->mName;
+    } else if (fileName.startsWith(main->mName + u'.')) {
+      at->mName = fileName.mid(main->mName.size() + 1).trimmed();
+      mNames.mMain[number].mName = main->mName;
+    }
+  }
+}
