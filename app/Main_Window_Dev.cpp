@@ -1,7 +1,6 @@
 #include "app/Main_Window_Dev.h"
 
 #include "app/About_Dlg.h"
-#include "app/Ets_Import.h"
 #include "app/Geo_Position_Dlg.h"
 #include "app/Project_Lifecycle.h"
 #include "app/Project_Overview.h"
@@ -16,11 +15,11 @@
 #include "db/Project_Edits.h"
 #include "db/Project_Session.h"
 #include "ui/Address_Search_Dialog.h"
+#include "ui/Address_Import_Dialog.h"
 #include "ui/Address_View.h"
 #include "ui/Invalid_Address_Dialog.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
@@ -193,19 +192,20 @@ void Main_Window_Dev::onEditGeopos() {
 
 void Main_Window_Dev::onEdit_ODBC_Import() {
   const QString folder = mImportFolder.isEmpty() ? mSettings.lastProjectDir() : mImportFolder;
-  const QString filter = tr("ETS-Export") + QStringLiteral(" (*.xml)");
-  const QString path = mDialogs->chooseOpenFile(tr("Adressen importieren"), folder, filter);
-  if (path.isEmpty() || !mSession.isOpen()) {
+  Address_Import_Dialog dialog(mSession, mSettings, folder, this);
+  const bool isImported = dialog.exec() == QDialog::Accepted;
+  mImportFolder = dialog.folder();
+  if (!isImported || !mSession.isOpen()) {
     return;
   }
-  mImportFolder = QFileInfo(path).absolutePath();
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  const Ets_Import::Outcome outcome = Ets_Import::run(mSession, path);
-  QApplication::restoreOverrideCursor();
-  if (outcome.mIsDone) {
-    showAddresses();
+  showAddresses();
+  const Address_Import::Result& result = dialog.importResult();
+  const QString text = tr("Adressen importiert: %1.").arg(result.toString());
+  if (result.mSkipped > 0) {
+    mDialogs->showMessage(text);
+  } else {
+    showInfo(text);
   }
-  mDialogs->showMessage(outcome.mText);
 }
 
 template <class Dialog>

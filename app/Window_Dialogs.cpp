@@ -1,39 +1,15 @@
 #include "app/Window_Dialogs.h"
 
-#include <QCoreApplication>
-#include <QFileDialog>
-#include <QFileInfo>
+#include "ui/File_Dialog.h"
+
 #include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QProgressBar>
-#include <QRegularExpressionValidator>
 #include <QStatusBar>
 
 namespace {
 
 constexpr int cProgressWidth = 160;
-
-QString tr(const char* text) {
-  return QCoreApplication::translate("Window_Dialogs", text);
-}
-
-/// The toolkit's own dialog speaks the system's language; the studio's labels are German all the same.
-void setLabels(QFileDialog& dialog, const QString& accept) {
-  dialog.setLabelText(QFileDialog::LookIn, tr("Ordner:"));
-  dialog.setLabelText(QFileDialog::FileName, tr("Datei&name:"));
-  dialog.setLabelText(QFileDialog::FileType, tr("Dateityp:"));
-  dialog.setLabelText(QFileDialog::Accept, accept);
-  dialog.setLabelText(QFileDialog::Reject, tr("Abbrechen"));
-  // The toolkit's dialog takes a quote for the start of a list of names and would choose another file.
-  if (auto* const name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))) {
-    name->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[^\"]*")), &dialog));
-  }
-}
-
-QString choose(QFileDialog& dialog) {
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-}
 
 } // namespace
 
@@ -60,32 +36,11 @@ void Window_Dialogs::showMessage(const QString& text) {
 }
 
 QString Window_Dialogs::chooseOpenFile(const QString& title, const QString& folder, const QString& filter) {
-  QFileDialog dialog(&mWindow, title, folder, filter);
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  setLabels(dialog, tr("Öffnen"));
-  return choose(dialog);
+  return File_Dialog::chooseOpenFile(&mWindow, title, folder, filter);
 }
 
 QString Window_Dialogs::chooseSaveFile(const QString& title, const QString& suggestion, const QString& filter) {
-  QFileDialog dialog(&mWindow, title, QFileInfo(suggestion).absolutePath(), filter);
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setFileMode(QFileDialog::AnyFile);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  dialog.selectFile(QFileInfo(suggestion).fileName());
-  setLabels(dialog, tr("Speichern"));
-  // Of several kinds of file the chosen one gives the ending to a name without one.
-  if (dialog.nameFilters().size() > 1) {
-    const auto follow = [&dialog](const QString& nameFilter) {
-      dialog.setDefaultSuffix(nameFilter.section(QStringLiteral("*."), 1).chopped(1));
-      const QString name = QFileInfo(dialog.selectedFiles().value(0)).completeBaseName();
-      if (!name.isEmpty()) {
-        dialog.selectFile(name + u'.' + dialog.defaultSuffix());
-      }
-    };
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
-    follow(dialog.selectedNameFilter());
-  }
-  return choose(dialog);
+  return File_Dialog::chooseSaveFile(&mWindow, title, suggestion, filter);
 }
 
 void Window_Dialogs::showProgress(const QString& text, int percent) {

@@ -109,6 +109,23 @@ Address_Import_Row::Values valuesOf(const Group* group) {
   return values;
 }
 
+/// What has no column of its own in the table.
+QString flagsNote(const Address_Import_Row& row) {
+  const auto word = [](bool isSet) { return isSet ? tr("ja") : tr("nein"); };
+  QString note;
+  if (row.mDiffering.testFlag(Address_Import_Row::Field::Central)) {
+    addNote(note, tr("Zentral: %1 statt %2.").arg(word(row.mIncoming.mCentral), word(row.mPresent.mCentral)));
+  }
+  if (row.mDiffering.testFlag(Address_Import_Row::Field::Unfiltered)) {
+    addNote(note, tr("Ungefiltert: %1 statt %2.").arg(word(row.mIncoming.mUnfiltered), word(row.mPresent.mUnfiltered)));
+  }
+  if (row.mDiffering.testFlag(Address_Import_Row::Field::Security)) {
+    const QString present = row.mPresent.mSecurity.isEmpty() ? tr("ohne Angabe") : row.mPresent.mSecurity;
+    addNote(note, tr("Sicherheit: %1 statt %2.").arg(row.mIncoming.mSecurity, present));
+  }
+  return note;
+}
+
 bool isSameText(const QString& a, const QString& b) {
   return a == b || DB_Text::singleLine(a) == DB_Text::singleLine(b);
 }
@@ -290,6 +307,7 @@ void Address_Comparison::addPresent(const Variant& variant, const DB_Address_Sub
   if (!row.mDiffering) {
     addNote(row.mNote, tr("So steht es im Projekt."));
   }
+  addNote(row.mNote, flagsNote(row));
   row.mKind = !note.isEmpty() || (isResized && row.mUses > 0) ? Kind::Conflict : Kind::Changed;
   row.mTicked = row.mKind == Kind::Changed;
   mRows.push_back(std::move(row));

@@ -10,27 +10,28 @@ Address_Import_Plan::Address_Import_Plan(std::vector<Address_Import_Row> rows, i
   std::stable_sort(mRows.begin(), mRows.end(), Address_Import_Row::isBefore);
   for (const Address_Import_Row& row : mRows) {
     ++mCounts[static_cast<size_t>(row.mKind)];
-    mTicked += row.mTicked ? 1 : 0;
+    mTicked[static_cast<size_t>(row.mKind)] += row.mTicked ? 1 : 0;
   }
 }
 
-qsizetype Address_Import_Plan::setTicked(qsizetype index, bool isTicked) {
-  Address_Import_Row& row = mRows[static_cast<size_t>(index)];
-  if (row.mTicked == isTicked) {
-    return -1;
-  }
+void Address_Import_Plan::tick(Address_Import_Row& row, bool isTicked) {
+  mTicked[static_cast<size_t>(row.mKind)] += (isTicked ? 1 : 0) - (row.mTicked ? 1 : 0);
   row.mTicked = isTicked;
-  mTicked += isTicked ? 1 : -1;
-  if (!isTicked) {
-    return -1;
+}
+
+qsizetype Address_Import_Plan::setTicked(qsizetype index, bool isTicked) {
+  tick(mRows[static_cast<size_t>(index)], isTicked);
+  const qsizetype rival = isTicked ? tickedRival(index) : -1;
+  if (rival >= 0) {
+    tick(mRows[static_cast<size_t>(rival)], false);
   }
-  const auto [first, last] = std::equal_range(mRows.begin(), mRows.end(), row, Address_Import_Row::isBefore);
-  for (auto other = first; other != last; ++other) {
-    if (&*other != &row && other->mTicked) {
-      other->mTicked = false;
-      --mTicked;
-      return other - mRows.begin();
-    }
-  }
-  return -1;
+  return rival;
+}
+
+qsizetype Address_Import_Plan::tickedRival(qsizetype index) const {
+  const Address_Import_Row& asked = row(index);
+  const auto [first, last] = std::equal_range(mRows.begin(), mRows.end(), asked, Address_Import_Row::isBefore);
+  const auto isRival = [&asked](const Address_Import_Row& other) { return &other != &asked && other.mTicked; };
+  const auto found = std::find_if(first, last, isRival);
+  return found != last ? found - mRows.begin() : -1;
 }

@@ -3,6 +3,7 @@
 #include "db/Address_Import_Row.h"
 
 #include <array>
+#include <numeric>
 #include <vector>
 
 /// What an import of an ETS export would change in the project, row by row, each with a tick that says whether it
@@ -18,7 +19,8 @@ public:
   [[nodiscard]] const Address_Import_Row& row(qsizetype index) const { return mRows[static_cast<size_t>(index)]; }
   [[nodiscard]] qsizetype size() const { return static_cast<qsizetype>(mRows.size()); }
   [[nodiscard]] qsizetype count(Kind kind) const { return mCounts[static_cast<size_t>(kind)]; }
-  [[nodiscard]] qsizetype tickedCount() const { return mTicked; }
+  [[nodiscard]] qsizetype tickedCount(Kind kind) const { return mTicked[static_cast<size_t>(kind)]; }
+  [[nodiscard]] qsizetype tickedCount() const { return std::accumulate(mTicked.begin(), mTicked.end(), qsizetype(0)); }
 
   /// Addresses and groups that the project has as the file tells them, or that stay as they are by choice.
   [[nodiscard]] int unchangedCount() const { return mUnchanged; }
@@ -28,11 +30,15 @@ public:
   /// Of several rows with the same address at most one is ticked: the index of the one that lost its tick to this one,
   /// -1 when none did.
   qsizetype setTicked(qsizetype index, bool isTicked);
+  /// The index of another row with the same address that is ticked; -1 when there is none.
+  [[nodiscard]] qsizetype tickedRival(qsizetype index) const;
 
 private:
+  void tick(Address_Import_Row& row, bool isTicked);
+
   std::vector<Address_Import_Row> mRows;
   std::array<qsizetype, 4> mCounts{};
-  qsizetype mTicked = 0;
+  std::array<qsizetype, 4> mTicked{};
   int mUnchanged = 0;
   int mRepeated = 0;
 };

@@ -93,13 +93,14 @@ void Project_Tree_View::currentChanged(const QModelIndex& current, const QModelI
   updateCommands();
 }
 
-QModelIndex Project_Tree_View::renameIndex() const {
-  return currentIndex().siblingAtColumn(mRenameColumn);
+void Project_Tree_View::setRenameColumn(int column) {
+  mRenameColumn = column;
+  mRename->setVisible(column >= 0);
+  updateCommands();
 }
 
-void Project_Tree_View::removeRename() {
-  setEditTriggers(NoEditTriggers);
-  removeAction(mRename);
+QModelIndex Project_Tree_View::renameIndex() const {
+  return currentIndex().siblingAtColumn(mRenameColumn);
 }
 
 void Project_Tree_View::updateCommands() {

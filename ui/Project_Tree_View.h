@@ -15,10 +15,8 @@ public:
   explicit Project_Tree_View(const Session_State& state, QWidget* parent = nullptr);
 
   void setModel(QAbstractItemModel* model) override;
-  /// The column whose items can be renamed; 0 unless set.
-  void setRenameColumn(int column) { mRenameColumn = column; }
-  /// Without the command to rename: nothing in this tree ever can be.
-  void removeRename();
+  /// The column whose items can be renamed; 0 unless set, -1 for none.
+  void setRenameColumn(int column);
   /// The selected rows as tab-separated text, one a line.
   [[nodiscard]] QString selectedText() const;
 

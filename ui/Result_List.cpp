@@ -16,7 +16,7 @@ Result_List::Result_List(QAbstractItemModel& table, int addressColumn, const Ses
     : mModel(new Address_Filter_Model(table, addressColumn, this)),
       mTree(new Project_Tree_View(state)),
       mHint(new Empty_Hint) {
-  mTree->removeRename();
+  mTree->setRenameColumn(-1);
   mTree->setRootIsDecorated(false);
   mTree->setAllColumnsShowFocus(true);
   mTree->setModel(mModel);

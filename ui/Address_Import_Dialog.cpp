@@ -1,0 +1,383 @@
+#include "ui/Address_Import_Dialog.h"
+
+#include "base/App_Settings.h"
+#include "base/Decimal_Text.h"
+#include "base/Session_State.h"
+#include "db/Project_Session.h"
+#include "ui/Address_Import_Preview.h"
+#include "ui/Address_Import_Settings.h"
+#include "ui/Ets_Reading.h"
+#include "ui/File_Dialog.h"
+#include "ui/Theme.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStackedWidget>
+
+namespace {
+
+constexpr int cGap = 8;
+constexpr int cGroupGap = 12;
+constexpr QSize cSize{1180, 720};
+constexpr int cErrorIcon = 16;
+constexpr int cFaultLines = 4;
+constexpr int cProgressWidth = 320;
+constexpr int cProgressDelayMs = 500;
+constexpr int cProgressTickMs = 100;
+
+QHBoxLayout* rowIn(QWidget* widget) {
+  auto* const layout = new QHBoxLayout(widget);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(cGap);
+  return layout;
+}
+
+QString formatText(Ets_Groups::Format format) {
+  switch (format) {
+  case Ets_Groups::Format::Esf:
+    return QStringLiteral("ESF");
+  case Ets_Groups::Format::Csv:
+    return QStringLiteral("CSV");
+  case Ets_Groups::Format::Xml:
+    break;
+  }
+  return QStringLiteral("XML");
+}
+
+/// The one local file among what is dragged; empty when there is none.
+QString fileIn(const QMimeData& data) {
+  return data.urls().size() == 1 ? data.urls().first().toLocalFile() : QString();
+}
+
+} // namespace
+
+Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Settings& settings, const QString& folder,
+                                             QWidget* parent)
+    : QDialog(parent),
+      mSession(session),
+      mSettings(settings),
+      mReading(new Ets_Reading(this)),
+      mFolder(folder),
+      mPath(new QLineEdit),
+      mFileInfo(new QLabel),
+      mError(new QWidget),
+      mErrorText(new QLabel),
+      mOptions(new Address_Import_Settings),
+      mPages(new QStackedWidget),
+      mPreview(new Address_Import_Preview(session.state())),
+      mProgress(new QProgressBar),
+      mProgressText(new QLabel),
+      mFaults(new QWidget),
+      mFaultCount(new QLabel),
+      mFaultTexts(new QPlainTextEdit),
+      mTicked(new QLabel) {
+  setWindowTitle(tr("Adressen importieren"));
+  setAcceptDrops(true);
+  mPages->addWidget(mPreview);
+  mPages->addWidget(makeProgress());
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(cGroupGap, cGroupGap, cGroupGap, cGroupGap);
+  layout->setSpacing(cGroupGap);
+  layout->addWidget(makeFileRow());
+  layout->addWidget(makeError());
+  layout->addWidget(mOptions);
+  layout->addWidget(mPages, 1);
+  layout->addWidget(makeFaults());
+  layout->addWidget(makeButtons());
+
+  connect(mOptions, &Address_Import_Settings::optionsChanged, this, &Address_Import_Dialog::compare);
+  connect(mOptions, &Address_Import_Settings::readerOptionsChanged, this, &Address_Import_Dialog::read);
+  connect(mReading, &Ets_Reading::finished, this, &Address_Import_Dialog::onRead);
+  connect(mPreview, &Address_Import_Preview::ticksChanged, this, &Address_Import_Dialog::updateButtons);
+  connect(mPreview, &Address_Import_Preview::stepRequested, this, &Address_Import_Dialog::onBrowse);
+  connect(&session, &Project_Session::aboutToClose, this, &QDialog::reject);
+  connect(&session.state(), &Session_State::operatingModeChanged, this, &Address_Import_Dialog::updateButtons);
+  mProgressDelay.setSingleShot(true);
+  mProgressDelay.setInterval(cProgressDelayMs);
+  connect(&mProgressDelay, &QTimer::timeout, this, [this] {
+    mPages->setCurrentIndex(1);
+    mStopReading->setFocus();
+  });
+  mProgressTick.setInterval(cProgressTickMs);
+  connect(&mProgressTick, &QTimer::timeout, this, [this] { mProgress->setValue(mReading->percent()); });
+
+  resize(cSize);
+  restoreGeometry(settings.viewState(QStringLiteral("ui:mImportDialog")));
+  mPreview->restoreState(settings);
+  showEmpty();
+}
+
+Address_Import_Dialog::~Address_Import_Dialog() = default;
+
+QWidget* Address_Import_Dialog::makeFileRow() {
+  auto* const row = new QWidget;
+  auto* const layout = rowIn(row);
+  auto* const label = new QLabel(tr("&Datei:"));
+  label->setBuddy(mPath);
+  mPath->setObjectName(QStringLiteral("mPath"));
+  mPath->setToolTip(tr("Export der ETS: XML (ETS 5 und 6), ESF oder CSV. Die Datei kann auch in dieses Fenster gezogen "
+                       "werden."));
+  mPath->setAcceptDrops(false); // a file dropped here is one for the dialog
+  mPath->installEventFilter(this);
+  connect(mPath, &QLineEdit::editingFinished, this, &Address_Import_Dialog::onPathEdited);
+  mBrowse = new QPushButton(tr("D&urchsuchen…"));
+  connect(mBrowse, &QPushButton::clicked, this, &Address_Import_Dialog::onBrowse);
+  Theme::setTextRole(*mFileInfo, Theme::Role::SecondaryText);
+  layout->addWidget(label);
+  layout->addWidget(mPath, 1);
+  layout->addWidget(mBrowse);
+  layout->addWidget(mFileInfo);
+  return row;
+}
+
+QWidget* Address_Import_Dialog::makeError() {
+  auto* const layout = rowIn(mError);
+  auto* const icon = new QLabel;
+  icon->setPixmap(Theme::icon(QStringLiteral("error_white")).pixmap(cErrorIcon));
+  mErrorText->setObjectName(QStringLiteral("mErrorText"));
+  mErrorText->setTextFormat(Qt::PlainText);
+  mErrorText->setWordWrap(true);
+  mErrorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  Theme::setTextRole(*mErrorText, Theme::Role::ErrorText);
+  layout->addWidget(icon, 0, Qt::AlignTop);
+  layout->addWidget(mErrorText, 1);
+  return mError;
+}
+
+QWidget* Address_Import_Dialog::makeProgress() {
+  auto* const page = new QWidget;
+  auto* const layout = new QVBoxLayout(page);
+  layout->setSpacing(cGap);
+  mProgress->setFixedWidth(cProgressWidth);
+  mStopReading = new QPushButton(tr("&Lesen abbrechen"));
+  connect(mStopReading, &QPushButton::clicked, this, &Address_Import_Dialog::onCancelReading);
+  layout->addStretch(1);
+  layout->addWidget(mProgressText, 0, Qt::AlignHCenter);
+  layout->addWidget(mProgress, 0, Qt::AlignHCenter);
+  layout->addWidget(mStopReading, 0, Qt::AlignHCenter);
+  layout->addStretch(2);
+  return page;
+}
+
+QWidget* Address_Import_Dialog::makeFaults() {
+  auto* const layout = new QVBoxLayout(mFaults);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(cGap / 2);
+  mFaultTexts->setObjectName(QStringLiteral("mFaultTexts"));
+  mFaultTexts->setAccessibleName(tr("Was in der Datei nicht zu lesen war"));
+  mFaultTexts->setReadOnly(true);
+  mFaultTexts->setTabChangesFocus(true);
+  mFaultTexts->setLineWrapMode(QPlainTextEdit::NoWrap);
+  mFaultTexts->setFixedHeight(cFaultLines * fontMetrics().lineSpacing() + 2 * cGap);
+  layout->addWidget(mFaultCount);
+  layout->addWidget(mFaultTexts);
+  return mFaults;
+}
+
+QWidget* Address_Import_Dialog::makeButtons() {
+  auto* const row = new QWidget;
+  auto* const layout = rowIn(row);
+  mTicked->setObjectName(QStringLiteral("mTicked"));
+  mImport = new QPushButton;
+  mImport->setObjectName(QStringLiteral("mImport"));
+  mCancel = new QPushButton(tr("Abbre&chen"));
+  mCancel->setDefault(true);
+  connect(mImport, &QPushButton::clicked, this, &Address_Import_Dialog::onImport);
+  connect(mCancel, &QPushButton::clicked, this, &QDialog::reject);
+  layout->addWidget(mTicked);
+  layout->addStretch(1);
+  layout->addWidget(mImport);
+  layout->addWidget(mCancel);
+  return row;
+}
+
+/// Return in the path reads the file and must not press the default button.
+bool Address_Import_Dialog::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == mPath && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      load(mPath->text());
+      return true;
+    }
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+void Address_Import_Dialog::dragEnterEvent(QDragEnterEvent* event) {
+  // A "move" would have the other program delete the file afterwards.
+  if (!fileIn(*event->mimeData()).isEmpty() && event->possibleActions().testFlag(Qt::CopyAction)) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+  }
+}
+
+void Address_Import_Dialog::dropEvent(QDropEvent* event) {
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  load(fileIn(*event->mimeData()));
+}
+
+void Address_Import_Dialog::onBrowse() {
+  const QString filter =
+      tr("ETS-Export") + QStringLiteral(" (*.xml *.esf *.csv);;") + tr("Alle Dateien") + QStringLiteral(" (*)");
+  const QString path = File_Dialog::chooseOpenFile(this, tr("Adressen importieren"), mFolder, filter);
+  if (!path.isEmpty() && isVisible()) {
+    load(path);
+  }
+}
+
+void Address_Import_Dialog::onPathEdited() {
+  if (isVisible() && !mPath->text().trimmed().isEmpty() && QFileInfo(mPath->text()) != QFileInfo(mLoaded)) {
+    load(mPath->text());
+  }
+}
+
+void Address_Import_Dialog::load(const QString& path) {
+  const QString trimmed = path.trimmed();
+  if (trimmed.isEmpty()) {
+    return;
+  }
+  mLoaded = QDir::cleanPath(QFileInfo(trimmed).absoluteFilePath());
+  mFolder = QFileInfo(mLoaded).absolutePath();
+  mPath->setText(QDir::toNativeSeparators(mLoaded));
+  read();
+}
+
+void Address_Import_Dialog::read() {
+  if (mLoaded.isEmpty()) {
+    return;
+  }
+  setError({});
+  mReading->start(mLoaded, mOptions->readerOptions());
+  mProgressText->setText(tr("\"%1\" wird gelesen …").arg(QFileInfo(mLoaded).fileName()));
+  mProgress->setValue(0);
+  mProgressDelay.start();
+  mProgressTick.start();
+  updateButtons();
+}
+
+void Address_Import_Dialog::onCancelReading() {
+  mReading->stop();
+  onRead(nullptr, tr("Das Lesen wurde abgebrochen."));
+}
+
+void Address_Import_Dialog::onRead(const std::shared_ptr<const Ets_Groups>& groups, const QString& error) {
+  mProgressDelay.stop();
+  mProgressTick.stop();
+  const bool hadFocus = mStopReading->hasFocus();
+  mPages->setCurrentIndex(0);
+  mGroups = error.isEmpty() ? groups : nullptr;
+  if (mGroups) {
+    mFileInfo->setText(formatText(mGroups->mFormat));
+    mOptions->setFormat(mGroups->mFormat);
+    compare();
+  } else {
+    mFileInfo->clear();
+    showEmpty();
+    setError(tr("Aus \"%1\" kann nichts importiert werden. %2").arg(QFileInfo(mLoaded).fileName(), error));
+  }
+  if (hadFocus) {
+    (mGroups ? static_cast<QWidget*>(mPreview) : mPath)->setFocus();
+  }
+  updateFaults();
+  updateButtons();
+}
+
+void Address_Import_Dialog::compare() {
+  if (!mGroups || !mSession.isOpen()) {
+    return;
+  }
+  setError({});
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  mPreview->setPlan(Address_Import::compare(mSession.database(), *mGroups, mOptions->options()));
+  QApplication::restoreOverrideCursor();
+}
+
+void Address_Import_Dialog::onImport() {
+  if (!mSession.isOpen() || mReading->isRunning()) {
+    return;
+  }
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  const Edit_Result edit = Address_Import::apply(mSession, mPreview->plan(), mResult);
+  QApplication::restoreOverrideCursor();
+  if (edit) {
+    accept();
+  } else {
+    setError(tr("Nichts wurde importiert. %1").arg(edit.mError));
+  }
+}
+
+void Address_Import_Dialog::setError(const QString& text) {
+  mErrorText->setText(text);
+  mError->setVisible(!text.isEmpty());
+}
+
+void Address_Import_Dialog::showEmpty() {
+  mGroups = nullptr;
+  setError({});
+  mPreview->setEmpty(tr("Hier steht, was ein Export der ETS am Projekt ändern würde, bevor etwas geschieht: neue, "
+                        "geänderte und entfallene Gruppenadressen."),
+                     tr("Datei &wählen…"));
+  updateFaults();
+  updateButtons();
+}
+
+void Address_Import_Dialog::updateFaults() {
+  const qsizetype count = mGroups ? mGroups->mFaultCount : 0;
+  mFaults->setVisible(count > 0);
+  if (count == 0) {
+    return;
+  }
+  const qsizetype told = mGroups->mFaults.size();
+  QString text = count == 1
+                     ? tr("1 Eintrag der Datei ist nicht zu lesen und bleibt weg:")
+                     : tr("%1 Einträge der Datei sind nicht zu lesen und bleiben weg:").arg(Decimal_Text::count(count));
+  if (told < count) {
+    text += u' ' + tr("Die ersten %1 stehen hier.").arg(Decimal_Text::count(told));
+  }
+  mFaultCount->setText(text);
+  mFaultTexts->setPlainText(mGroups->mFaults.join(u'\n'));
+}
+
+void Address_Import_Dialog::updateButtons() {
+  const Address_Import_Plan& plan = mPreview->plan();
+  const qsizetype ticked = plan.tickedCount();
+  QString reason;
+  if (mSession.state().operatingMode()) {
+    reason = Session_State::operatingModeRefusal();
+  } else if (mReading->isRunning()) {
+    reason = tr("Die Datei wird noch gelesen.");
+  } else if (!mGroups) {
+    reason = tr("Zuerst eine Datei wählen.");
+  } else if (ticked == 0) {
+    reason = plan.size() == 0 ? tr("Es gibt nichts zu importieren.") : tr("Keine Zeile ist angehakt.");
+  }
+  mImport->setEnabled(reason.isEmpty());
+  mImport->setToolTip(reason);
+  mImport->setText(ticked > 0 ? tr("%1 überneh&men").arg(Decimal_Text::count(ticked)) : tr("I&mportieren"));
+
+  const qsizetype deleted = plan.tickedCount(Address_Import_Row::Kind::Vanished);
+  Theme::setTextRole(*mTicked, deleted > 0 ? Theme::Role::Warning : Theme::Role::SecondaryText);
+  mTicked->setText(deleted == 1  ? tr("1 Adresse wird gelöscht.")
+                   : deleted > 1 ? tr("%1 Adressen werden gelöscht.").arg(Decimal_Text::count(deleted))
+                                 : QString());
+}
+
+void Address_Import_Dialog::done(int result) {
+  mReading->stop();
+  mProgressDelay.stop();
+  mProgressTick.stop();
+  mPreview->saveState(mSettings);
+  mSettings.setViewState(QStringLiteral("ui:mImportDialog"), saveGeometry());
+  QDialog::done(result);
+}
