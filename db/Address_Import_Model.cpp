@@ -165,10 +165,9 @@ void Address_Import_Model::order() {
   default: {
     QCollator collator;
     collator.setNumericMode(true);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
     std::vector<std::optional<QCollatorSortKey>> keys(static_cast<size_t>(mPlan.size()));
     for (const qsizetype i : mShown) {
-      keys[static_cast<size_t>(i)] = collator.sortKey(textOf(mPlan.row(i), mSortColumn));
+      keys[static_cast<size_t>(i)] = collator.sortKey(textOf(mPlan.row(i), mSortColumn).toCaseFolded());
     }
     sortBy([&keys](qsizetype a, qsizetype b) {
       return keys[static_cast<size_t>(a)]->compare(*keys[static_cast<size_t>(b)]) < 0;

@@ -16,7 +16,7 @@ Theme::Role roleOf(Address_Import_Row::Kind kind) {
   case Address_Import_Row::Kind::Changed:
     break;
   }
-  return Theme::Role::Link;
+  return Theme::Role::Changed;
 }
 
 bool isIncoming(int column) {

@@ -28,7 +28,7 @@ namespace {
 
 constexpr int cGap = 8;
 constexpr int cGroupGap = 12;
-constexpr QSize cSize{1180, 720};
+constexpr QSize cSize{1240, 720};
 constexpr int cErrorIcon = 16;
 constexpr int cFaultLines = 4;
 constexpr int cProgressWidth = 320;
@@ -94,6 +94,7 @@ Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Setti
   layout->addWidget(mPages, 1);
   layout->addWidget(makeFaults());
   layout->addWidget(makeButtons());
+  mCancel->setDefault(true); // it has to stand in the dialog for that
 
   connect(mOptions, &Address_Import_Settings::optionsChanged, this, &Address_Import_Dialog::compare);
   connect(mOptions, &Address_Import_Settings::readerOptionsChanged, this, &Address_Import_Dialog::read);
@@ -117,7 +118,9 @@ Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Setti
   showEmpty();
 }
 
-Address_Import_Dialog::~Address_Import_Dialog() = default;
+Address_Import_Dialog::~Address_Import_Dialog() {
+  mPath->disconnect(this); // it tells that it lost the focus when it goes
+}
 
 QWidget* Address_Import_Dialog::makeFileRow() {
   auto* const row = new QWidget;
@@ -133,10 +136,11 @@ QWidget* Address_Import_Dialog::makeFileRow() {
   mBrowse = new QPushButton(tr("D&urchsuchen…"));
   connect(mBrowse, &QPushButton::clicked, this, &Address_Import_Dialog::onBrowse);
   Theme::setTextRole(*mFileInfo, Theme::Role::SecondaryText);
+  mFileInfo->hide();
   layout->addWidget(label);
   layout->addWidget(mPath, 1);
-  layout->addWidget(mBrowse);
   layout->addWidget(mFileInfo);
+  layout->addWidget(mBrowse);
   return row;
 }
 
@@ -191,7 +195,6 @@ QWidget* Address_Import_Dialog::makeButtons() {
   mImport = new QPushButton;
   mImport->setObjectName(QStringLiteral("mImport"));
   mCancel = new QPushButton(tr("Abbre&chen"));
-  mCancel->setDefault(true);
   connect(mImport, &QPushButton::clicked, this, &Address_Import_Dialog::onImport);
   connect(mCancel, &QPushButton::clicked, this, &QDialog::reject);
   layout->addWidget(mTicked);
@@ -279,10 +282,11 @@ void Address_Import_Dialog::onRead(const std::shared_ptr<const Ets_Groups>& grou
   mGroups = error.isEmpty() ? groups : nullptr;
   if (mGroups) {
     mFileInfo->setText(formatText(mGroups->mFormat));
+    mFileInfo->show();
     mOptions->setFormat(mGroups->mFormat);
     compare();
   } else {
-    mFileInfo->clear();
+    mFileInfo->hide();
     showEmpty();
     setError(tr("Aus \"%1\" kann nichts importiert werden. %2").arg(QFileInfo(mLoaded).fileName(), error));
   }

@@ -49,19 +49,23 @@ Address_Import_Preview::Address_Import_Preview(const Session_State& state, QWidg
     : QWidget(parent),
       mModel(new Address_Import_Model(this)),
       mView(new Address_Import_View(*mModel, state)),
+      mHead(new QWidget),
+      mFoot(new QWidget),
       mTableOrHint(new QStackedWidget),
       mHint(new Empty_Hint),
       mUnchanged(new QLabel),
       mFilter(new QLineEdit),
       mCount(new QLabel) {
+  fillHead();
+  fillFoot();
   mTableOrHint->addWidget(mView);
   mTableOrHint->addWidget(mHint);
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(cGap);
-  layout->addWidget(makeHead());
+  layout->addWidget(mHead);
   layout->addWidget(mTableOrHint, 1);
-  layout->addWidget(makeFoot());
+  layout->addWidget(mFoot);
 
   connect(mHint, &Empty_Hint::stepRequested, this, &Address_Import_Preview::stepRequested);
   connect(mModel, &Address_Import_Model::ticksChanged, this, &Address_Import_Preview::ticksChanged);
@@ -69,9 +73,8 @@ Address_Import_Preview::Address_Import_Preview(const Session_State& state, QWidg
   updateTexts();
 }
 
-QWidget* Address_Import_Preview::makeHead() {
-  auto* const head = new QWidget;
-  auto* const layout = new QHBoxLayout(head);
+void Address_Import_Preview::fillHead() {
+  auto* const layout = new QHBoxLayout(mHead);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(cGap);
   for (const Kind_Row& row : cKinds) {
@@ -105,12 +108,10 @@ QWidget* Address_Import_Preview::makeHead() {
   connect(mFilter, &QLineEdit::textChanged, &mFilterDelay, qOverload<>(&QTimer::start));
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, mFilter,
           [this] { mFilter->setFocus(Qt::ShortcutFocusReason); });
-  return head;
 }
 
-QWidget* Address_Import_Preview::makeFoot() {
-  auto* const foot = new QWidget;
-  auto* const layout = new QHBoxLayout(foot);
+void Address_Import_Preview::fillFoot() {
+  auto* const layout = new QHBoxLayout(mFoot);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(cGap);
   mAll = new QPushButton(tr("&Alle anhaken"));
@@ -125,7 +126,6 @@ QWidget* Address_Import_Preview::makeFoot() {
   }
   layout->addWidget(mCount);
   layout->addStretch(1);
-  return foot;
 }
 
 bool Address_Import_Preview::eventFilter(QObject* watched, QEvent* event) {
@@ -184,14 +184,14 @@ void Address_Import_Preview::updateTexts() {
   for (const Kind_Row& row : cKinds) {
     QToolButton* const button = mKinds[static_cast<size_t>(row.mKind)];
     button->setText(tr(row.mText).arg(Decimal_Text::count(plan.count(row.mKind))));
-    button->setEnabled(isCompared);
   }
   QString unchanged = tr("Unverändert %1").arg(Decimal_Text::count(plan.unchangedCount()));
   if (plan.repeatedCount() > 0) {
     unchanged += tr(", gleich wiederholt %1").arg(Decimal_Text::count(plan.repeatedCount()));
   }
   mUnchanged->setText(unchanged);
-  mUnchanged->setVisible(isCompared);
+  mHead->setVisible(isCompared);
+  mFoot->setVisible(isCompared);
   const bool hasRows = mModel->rowCount() > 0;
   for (QWidget* const widget : {static_cast<QWidget*>(mAll), static_cast<QWidget*>(mNone)}) {
     widget->setEnabled(hasRows);

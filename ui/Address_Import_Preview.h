@@ -47,14 +47,16 @@ protected:
 private:
   using Kind = Address_Import_Row::Kind;
 
-  [[nodiscard]] QWidget* makeHead();
-  [[nodiscard]] QWidget* makeFoot();
+  void fillHead();
+  void fillFoot();
   void applyFilter();
   void enterTable();
   void updateTexts();
 
   Address_Import_Model* mModel;
   Address_Import_View* mView;
+  QWidget* mHead;
+  QWidget* mFoot;
   QStackedWidget* mTableOrHint;
   Empty_Hint* mHint;
   std::array<QToolButton*, 4> mKinds{};

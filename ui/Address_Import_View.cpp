@@ -12,9 +12,9 @@
 namespace {
 
 constexpr int cGap = 4;
-constexpr int cNameWidth = 170;
-constexpr int cDescriptionWidth = 140;
-constexpr int cNoteWidth = 240;
+constexpr int cNameWidth = 150;
+constexpr int cDescriptionWidth = 142;
+constexpr int cNoteWidth = 160;
 
 } // namespace
 
@@ -40,7 +40,7 @@ Address_Import_View::Address_Import_View(Address_Import_Model& model, const Sess
   header()->resizeSection(Address_Import_Model::cAddress, widthOf(QStringLiteral("31/7/255")) + icon + tick);
   header()->resizeSection(Address_Import_Model::cKind, widthOf(tr("Geändert")));
   for (const int column : {Address_Import_Model::cTypePresent, Address_Import_Model::cTypeIncoming}) {
-    header()->resizeSection(column, widthOf(tr("20.102 (vermutet)")));
+    header()->resizeSection(column, widthOf(tr("9.001 (vermutet)")));
   }
   for (const int column : {Address_Import_Model::cNamePresent, Address_Import_Model::cNameIncoming}) {
     header()->resizeSection(column, cNameWidth);

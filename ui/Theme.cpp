@@ -113,6 +113,7 @@ QColor Theme::color(Role role) {
   case Role::Link:
     return {0x5a, 0xa5, 0xec};
   case Role::WireAddress:
+  case Role::Changed:
     return {0x7f, 0xb4, 0xe0};
   case Role::WireVariable:
     return {0x9a, 0xa8, 0x8a};

@@ -44,6 +44,7 @@ enum class Role {
   ErrorText,    ///< text on panels
   Warning,
   Ok,
+  Changed, ///< what differs from what is there
 };
 Q_ENUM_NS(Role)
 

@@ -1,4 +1,5 @@
 #include "db/Address_Import.h"
+#include "db/Ets_Reader.h"
 #include "tests/db/Project_Dump.h"
 #include "tests/db/Session_Rig.h"
 
@@ -258,6 +259,35 @@ private slots:
     QCOMPARE(rig.mSession.database().mFbPages.pages().at(0).mChildren.at(0).mInputs[0].mBinding.mKey, rig.mBound);
     QVERIFY(rig.mSession.history().undo());
     QCOMPARE(rig.dump(), before);
+  }
+
+  /// Real exports lie beside the project on a developer's machine; they are never copied into it.
+  void realExportsAreTheSameTheSecondTime() {
+    const QDir folder(QFileInfo(QFINDTESTDATA("Address_Import_Test.cpp")).path() + u"/../../../shared/data/ets"_s);
+    const QStringList files = folder.entryList({u"*.xml"_s, u"*.esf"_s, u"*.csv"_s}, QDir::Files);
+    if (files.isEmpty()) {
+      QSKIP("no real exports on this machine");
+    }
+    for (const QString& name : files) {
+      QFile file(folder.filePath(name));
+      QVERIFY(file.open(QIODevice::ReadOnly));
+      Ets_Groups groups;
+      QString error;
+      QVERIFY2(Ets_Reader::read(file, {}, groups, error), qPrintable(name + u": "_s + error));
+      Session_Rig rig;
+      QVERIFY(rig.create());
+      Address_Import::Result result;
+      const Address_Import_Plan first = Address_Import::compare(rig.mSession.database(), groups);
+      QVERIFY(Address_Import::apply(rig.mSession, first, result));
+      const Address_Tree& tree = rig.mSession.database().mAddresses;
+      const qsizetype conflicts = first.count(Kind::Conflict);
+      QVERIFY2(tree.subGroupCount() > 0 || conflicts > 0, qPrintable(name));
+      const qsizetype named = tree.subGroupCount() + conflicts + first.repeatedCount();
+      QCOMPARE(named, qsizetype(groups.mAddresses.size()));
+      const Address_Import_Plan second = Address_Import::compare(rig.mSession.database(), groups);
+      QVERIFY2(second.size() == conflicts, qPrintable(name + u": "_s + summary(second)));
+      QVERIFY(second.unchangedCount() >= tree.subGroupCount());
+    }
   }
 
   void whatChangedSinceTheComparisonIsSkipped() {
