@@ -1,5 +1,6 @@
 #include "db/Address_Comparison.h"
 
+#include "db/Address_Import_Notes.h"
 #include "db/DB_Text.h"
 #include "db/ProjectDatabase.h"
 
@@ -9,9 +10,8 @@
 #include <algorithm>
 #include <array>
 
-using Format = Ets_Groups::Format;
 using Kind = Address_Import_Row::Kind;
-using Level = Address_Import_Row::Level;
+namespace Notes = Address_Import_Notes;
 
 namespace {
 
@@ -64,70 +64,23 @@ QHash<QUuid, int> usesByKey(const ProjectDatabase& database) {
   return uses;
 }
 
-QString usesNote(int uses) {
-  switch (uses) {
-  case 0:
-    return tr("Nicht verwendet.");
-  case 1:
-    return tr("In 1 Verknüpfung verwendet.");
-  default:
-    return tr("In %1 Verknüpfungen verwendet.").arg(uses);
-  }
+/// A file without a single one cannot tell that one was removed: older exports have none.
+bool tellsDescriptions(const Ets_Groups& groups) {
+  const auto isDescribed = [](const auto& item) { return !item.mDescription.isEmpty(); };
+  return std::any_of(groups.mAddresses.begin(), groups.mAddresses.end(), isDescribed) ||
+         std::any_of(groups.mRanges.begin(), groups.mRanges.end(), isDescribed);
 }
 
-void addNote(QString& note, const QString& further) {
-  note += (note.isEmpty() || further.isEmpty() ? QString() : QStringLiteral(" ")) + further;
-}
-
-/// Where else the file names the address.
-QString variantNote(const Ets_Groups::Address& entry, const std::vector<int>& lines) {
-  constexpr qsizetype cShownLines = 5;
-  QStringList others;
-  for (const int line : lines) {
-    if (line != entry.mLine) {
-      others.append(QString::number(line));
-    }
-  }
-  if (others.size() > cShownLines) {
-    others = others.first(cShownLines) + QStringList(QStringLiteral("…"));
-  }
-  return tr("Zeile %1 der Datei; anders in Zeile %2.").arg(entry.mLine).arg(others.join(QStringLiteral(", ")));
+/// Central and unfiltered: XML leaves them out where they are not set.
+bool tellsFlags(const Ets_Groups& groups) {
+  const auto isFlagged = [](const Ets_Groups::Address& entry) { return entry.mCentral || entry.mUnfiltered; };
+  return groups.mFormat == Ets_Groups::Format::Xml ||
+         std::any_of(groups.mAddresses.begin(), groups.mAddresses.end(), isFlagged);
 }
 
 /// For finding what only its number tells apart.
 std::pair<QString, int> nameAndFormat(const Address_Import_Row::Values& values) {
   return {values.mName, values.mDpt.mMain};
-}
-
-template <class Group>
-Address_Import_Row::Values valuesOf(const Group* group) {
-  Address_Import_Row::Values values;
-  if (group) {
-    values.mName = group->mName;
-    values.mDescription = group->mDescription;
-  }
-  return values;
-}
-
-/// What has no column of its own in the table.
-QString flagsNote(const Address_Import_Row& row) {
-  const auto word = [](bool isSet) { return isSet ? tr("ja") : tr("nein"); };
-  QString note;
-  if (row.mDiffering.testFlag(Address_Import_Row::Field::Central)) {
-    addNote(note, tr("Zentral: %1 statt %2.").arg(word(row.mIncoming.mCentral), word(row.mPresent.mCentral)));
-  }
-  if (row.mDiffering.testFlag(Address_Import_Row::Field::Unfiltered)) {
-    addNote(note, tr("Ungefiltert: %1 statt %2.").arg(word(row.mIncoming.mUnfiltered), word(row.mPresent.mUnfiltered)));
-  }
-  if (row.mDiffering.testFlag(Address_Import_Row::Field::Security)) {
-    const QString present = row.mPresent.mSecurity.isEmpty() ? tr("ohne Angabe") : row.mPresent.mSecurity;
-    addNote(note, tr("Sicherheit: %1 statt %2.").arg(row.mIncoming.mSecurity, present));
-  }
-  return note;
-}
-
-bool isSameText(const QString& a, const QString& b) {
-  return a == b || DB_Text::singleLine(a) == DB_Text::singleLine(b);
 }
 
 } // namespace
@@ -137,16 +90,10 @@ Address_Comparison::Address_Comparison(const ProjectDatabase& database, const Et
     : mDatabase(database),
       mGroups(groups),
       mOptions(options),
-      mNames(groups.mRanges),
-      mUses(usesByKey(database)) {
-  // A file without a single one cannot tell that one was removed: older exports have none.
-  const auto isDescribed = [](const auto& item) { return !item.mDescription.isEmpty(); };
-  mTellsDescriptions = std::any_of(groups.mAddresses.begin(), groups.mAddresses.end(), isDescribed) ||
-                       std::any_of(groups.mRanges.begin(), groups.mRanges.end(), isDescribed);
-  const auto isFlagged = [](const Ets_Groups::Address& entry) { return entry.mCentral || entry.mUnfiltered; };
-  mTellsFlags =
-      groups.mFormat == Format::Xml || std::any_of(groups.mAddresses.begin(), groups.mAddresses.end(), isFlagged);
-}
+      mTellsDescriptions(tellsDescriptions(groups)),
+      mTellsFlags(tellsFlags(groups)),
+      mGroupComparison(database, groups, options, mTellsDescriptions),
+      mUses(usesByKey(database)) {}
 
 Address_Import_Plan Address_Comparison::plan() {
   compareAddresses();
@@ -154,7 +101,7 @@ Address_Import_Plan Address_Comparison::plan() {
     addVanished();
     noteRenumbered();
   }
-  compareGroups();
+  mGroupComparison.addRows(mRows, mUnchanged);
   return Address_Import_Plan(std::move(mRows), mUnchanged, mRepeated);
 }
 
@@ -195,7 +142,7 @@ void Address_Comparison::compareAddress(const std::vector<const Ets_Groups::Addr
     }
   }
   for (const Variant& variant : variants) {
-    const QString note = variants.size() > 1 ? variantNote(*variant.mEntry, lines) : QString();
+    const QString note = variants.size() > 1 ? Notes::variant(*variant.mEntry, lines) : QString();
     if (present) {
       addPresent(variant, *present, note);
     } else {
@@ -223,11 +170,11 @@ Address_Comparison::Values Address_Comparison::incoming(const Ets_Groups::Addres
 }
 
 void Address_Comparison::keepPresent(Values& values, const Values& present) const {
-  if (mOptions.mKeepComment || values.mName.isEmpty() || isSameText(values.mName, present.mName)) {
+  if (mOptions.mKeepComment || values.mName.isEmpty() || DB_Text::isSameLine(values.mName, present.mName)) {
     values.mName = present.mName;
   }
   const bool tellsNone = values.mDescription.isEmpty() && !mTellsDescriptions;
-  if (mOptions.mKeepComment || tellsNone || isSameText(values.mDescription, present.mDescription)) {
+  if (mOptions.mKeepComment || tellsNone || DB_Text::isSameLine(values.mDescription, present.mDescription)) {
     values.mDescription = present.mDescription;
   }
   if (keepsType(values, present)) {
@@ -279,7 +226,7 @@ void Address_Comparison::addNew(const Variant& variant, const QString& note) {
   row.mTicked = row.mKind == Kind::New;
   row.mForeignText = entry.mStyle != Ets_Groups::Style::ThreeLevel ? DB_Text::singleLine(entry.mText) : QString();
   row.mRangePath = DB_Text::singleLine(entry.mRangePath);
-  noteNeededGroups(row.mAddress, row.mTicked);
+  mGroupComparison.need(row.mAddress, row.mTicked);
   mRows.push_back(std::move(row));
 }
 
@@ -298,16 +245,17 @@ void Address_Comparison::addPresent(const Variant& variant, const DB_Address_Sub
   }
   const bool isResized = changesSize(row.mPresent.mDpt, row.mIncoming.mDpt);
   if (isResized) {
-    addNote(row.mNote,
-            tr("Der Typ wechselt von %1 auf %2 Bit.").arg(bitsOf(row.mPresent.mDpt)).arg(bitsOf(row.mIncoming.mDpt)));
-    addNote(row.mNote, usesNote(row.mUses));
+    Notes::add(
+        row.mNote,
+        tr("Der Typ wechselt von %1 auf %2 Bit.").arg(bitsOf(row.mPresent.mDpt)).arg(bitsOf(row.mIncoming.mDpt)));
+    Notes::add(row.mNote, Notes::uses(row.mUses));
   } else if (row.mDiffering.testFlag(Row::Field::Type) && row.mPresent.mDpt == row.mIncoming.mDpt) {
-    addNote(row.mNote, tr("Der vermutete Typ ist bestätigt."));
+    Notes::add(row.mNote, tr("Der vermutete Typ ist bestätigt."));
   }
   if (!row.mDiffering) {
-    addNote(row.mNote, tr("So steht es im Projekt."));
+    Notes::add(row.mNote, tr("So steht es im Projekt."));
   }
-  addNote(row.mNote, flagsNote(row));
+  Notes::add(row.mNote, Notes::flags(row));
   row.mKind = !note.isEmpty() || (isResized && row.mUses > 0) ? Kind::Conflict : Kind::Changed;
   row.mTicked = row.mKind == Kind::Changed;
   mRows.push_back(std::move(row));
@@ -329,7 +277,7 @@ void Address_Comparison::addVanished() {
           row.mKey = sub->mKey;
           row.mPresent = Values::of(*sub);
           row.mUses = mUses.value(sub->mKey);
-          row.mNote = usesNote(row.mUses);
+          row.mNote = Notes::uses(row.mUses);
           mRows.push_back(std::move(row));
         }
       }
@@ -353,94 +301,10 @@ void Address_Comparison::noteRenumbered() {
   const auto vanished = firstOf(Kind::Vanished);
   for (Row& row : mRows) {
     if (row.mKind == Kind::New && vanished.contains(nameAndFormat(row.mIncoming))) {
-      addNote(row.mNote, tr("Heißt wie %1, das in der Datei fehlt.").arg(vanished.value(nameAndFormat(row.mIncoming))));
+      Notes::add(row.mNote,
+                 tr("Heißt wie %1, das in der Datei fehlt.").arg(vanished.value(nameAndFormat(row.mIncoming))));
     } else if (row.mKind == Kind::Vanished && added.contains(nameAndFormat(row.mPresent))) {
-      addNote(row.mNote, tr("Heißt wie %1, das neu ist.").arg(added.value(nameAndFormat(row.mPresent))));
-    }
-  }
-}
-
-void Address_Comparison::noteNeededGroups(const Group_Address& address, bool isTicked) {
-  bool& isMiddleTicked = mNeededMiddle[Ets_Group_Names::middleOf(address)];
-  isMiddleTicked = isMiddleTicked || isTicked;
-  bool& isMainTicked = mNeededMain[{address.main(), 0, 0}];
-  isMainTicked = isMainTicked || isTicked;
-}
-
-void Address_Comparison::compareGroups() {
-  if (mGroups.mFormat == Format::Esf) {
-    fitEsfNames();
-  }
-  for (const Group_Address& middle : std::as_const(mNames.mOwnMiddle)) {
-    noteNeededGroups(middle, true);
-  }
-  for (const int main : std::as_const(mNames.mOwnMain)) {
-    mNeededMain[{main, 0, 0}] = true;
-  }
-  for (auto at = mNeededMain.cbegin(); at != mNeededMain.cend(); ++at) {
-    const int main = at.key().main();
-    compareGroup(Level::MainGroup, at.key(), mDatabase.mAddresses.mainGroup(main), mNames.mMain.value(main),
-                 at.value());
-  }
-  for (auto at = mNeededMiddle.cbegin(); at != mNeededMiddle.cend(); ++at) {
-    const Group_Address& middle = at.key();
-    compareGroup(Level::MiddleGroup, middle, mDatabase.mAddresses.middleGroup(middle.main(), middle.middle()),
-                 mNames.mMiddle.value(middle), at.value());
-  }
-}
-
-template <class Group>
-void Address_Comparison::compareGroup(Level level, const Group_Address& address, const Group* present,
-                                      const Ets_Group_Names::Name& name, bool isTicked) {
-  if (present && !name.mIsOwn) {
-    return; // the range around several groups tells nothing of this one
-  }
-  Row row;
-  row.mLevel = level;
-  row.mAddress = address;
-  row.mPresent = valuesOf(present);
-  row.mIncoming.mName = name.mName;
-  row.mIncoming.mDescription = name.mDescription;
-  row.mTicked = isTicked;
-  if (present) {
-    const bool isKept = mOptions.mKeepComment || mOptions.mImportNewOnly;
-    row.mKind = Kind::Changed;
-    row.mKey = present->mKey;
-    if (isKept || name.mName.isEmpty() || isSameText(name.mName, present->mName)) {
-      row.mIncoming.mName = present->mName;
-    }
-    const bool tellsNone = name.mDescription.isEmpty() && (!mTellsDescriptions || name.mName.isEmpty());
-    if (isKept || tellsNone || isSameText(name.mDescription, present->mDescription)) {
-      row.mIncoming.mDescription = present->mDescription;
-    }
-    row.mDiffering = row.mPresent.differenceTo(row.mIncoming);
-    if (!row.mDiffering) {
-      ++mUnchanged;
-      return;
-    }
-  }
-  mRows.push_back(std::move(row));
-}
-
-void Address_Comparison::fitEsfNames() {
-  const Address_Tree& tree = mDatabase.mAddresses;
-  const auto withoutBlanks = [](QString text) { return text.remove(u' '); };
-  const QHash<int, Ets_Group_Names::Name> fileMains = mNames.mMain;
-  for (auto at = mNames.mMiddle.begin(); at != mNames.mMiddle.end(); ++at) {
-    const int number = at.key().main();
-    const DB_Address_MainGroup* const main = tree.mainGroup(number);
-    if (!main || !fileMains.contains(number)) {
-      continue;
-    }
-    const QString fileName = fileMains.value(number).mName + u'.' + at.value().mName;
-    const DB_Address_Middle_Group* const middle = tree.middleGroup(number, at.key().middle());
-    const bool isSame = middle && withoutBlanks(main->mName + u'.' + middle->mName) == withoutBlanks(fileName);
-    if (isSame) {
-      at->mName = middle->mName;
-      mNames.mMain[number].mName = main->mName;
-    } else if (fileName.startsWith(main->mName + u'.')) {
-      at->mName = fileName.mid(main->mName.size() + 1).trimmed();
-      mNames.mMain[number].mName = main->mName;
+      Notes::add(row.mNote, tr("Heißt wie %1, das neu ist.").arg(added.value(nameAndFormat(row.mPresent))));
     }
   }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "db/Address_Group_Comparison.h"
 #include "db/Address_Import.h"
-#include "db/Ets_Group_Names.h"
 
 #include <QHash>
 #include <QStringList>
@@ -25,7 +25,7 @@ private:
   /// What the file says of one address, entries of the same content taken together.
   struct Variant {
     Values mValues;
-    const Ets_Groups::Address* mEntry;
+    const Ets_Groups::Address* mEntry = nullptr;
   };
 
   void compareAddresses();
@@ -41,24 +41,13 @@ private:
   void addVanished();
   void noteRenumbered();
 
-  void compareGroups();
-  /// Names of ESF files are divided anew so that they fit the project's main groups.
-  void fitEsfNames();
-  template <class Group>
-  void compareGroup(Row::Level level, const Group_Address& address, const Group* present,
-                    const Ets_Group_Names::Name& name, bool isTicked);
-  /// Groups that addresses of the file stand in and the project does not have; ticked where a new address needs it.
-  void noteNeededGroups(const Group_Address& address, bool isTicked);
-
   const ProjectDatabase& mDatabase;
   const Ets_Groups& mGroups;
   const Address_Import::Options& mOptions;
-  Ets_Group_Names mNames;
+  bool mTellsDescriptions;
+  bool mTellsFlags;
+  Address_Group_Comparison mGroupComparison;
   QHash<QUuid, int> mUses;
-  bool mTellsDescriptions = false;
-  bool mTellsFlags = false;
-  QHash<Group_Address, bool> mNeededMain; ///< and whether it is ticked
-  QHash<Group_Address, bool> mNeededMiddle;
   std::vector<Row> mRows;
   int mUnchanged = 0;
   int mRepeated = 0;

@@ -119,15 +119,14 @@ bool Address_Import_Model::passes(const Address_Import_Row& row) const {
   if (mHidden.contains(row.mKind)) {
     return false;
   }
-  if (mWords.isEmpty()) {
-    return true;
-  }
-  QString all;
-  for (int column = 0; column < cColumnCount; ++column) {
-    all += textOf(row, column) + u'\n';
-  }
-  return std::all_of(mWords.begin(), mWords.end(),
-                     [&all](const QString& word) { return all.contains(word, Qt::CaseInsensitive); });
+  return std::all_of(mWords.begin(), mWords.end(), [&row](const QString& word) {
+    for (int column = 0; column < cColumnCount; ++column) {
+      if (textOf(row, column).contains(word, Qt::CaseInsensitive)) {
+        return true;
+      }
+    }
+    return false;
+  });
 }
 
 void Address_Import_Model::rebuild() {

@@ -9,3 +9,7 @@ QString DB_Text::clean(const QString& text) {
 QString DB_Text::singleLine(const QString& text) {
   return clean(text).simplified();
 }
+
+bool DB_Text::isSameLine(const QString& a, const QString& b) {
+  return a == b || singleLine(a) == singleLine(b);
+}

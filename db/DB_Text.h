@@ -11,4 +11,7 @@ namespace DB_Text {
 /// As `clean`, with every run of white space as one blank and none at the ends.
 [[nodiscard]] QString singleLine(const QString& text);
 
+/// True when both are the same as single lines.
+[[nodiscard]] bool isSameLine(const QString& a, const QString& b);
+
 } // namespace DB_Text

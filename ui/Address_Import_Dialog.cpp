@@ -290,8 +290,10 @@ void Address_Import_Dialog::onRead(const std::shared_ptr<const Ets_Groups>& grou
     showEmpty();
     setError(tr("Aus \"%1\" kann nichts importiert werden. %2").arg(QFileInfo(mLoaded).fileName(), error));
   }
-  if (hadFocus) {
-    (mGroups ? static_cast<QWidget*>(mPreview) : mPath)->setFocus();
+  if (hadFocus && mGroups) {
+    mPreview->enterRows();
+  } else if (hadFocus) {
+    mPath->setFocus();
   }
   updateFaults();
   updateButtons();

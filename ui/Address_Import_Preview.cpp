@@ -15,7 +15,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QToolButton>
 
 namespace {
 
@@ -78,12 +77,12 @@ void Address_Import_Preview::fillHead() {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(cGap);
   for (const Kind_Row& row : cKinds) {
-    auto* const button = new QToolButton;
+    auto* const button = new QPushButton;
     button->setCheckable(true);
     button->setChecked(true);
-    button->setFocusPolicy(Qt::StrongFocus);
+    button->setAutoDefault(false);
     button->setToolTip(tr(row.mToolTip) + u'\n' + tr("Ein Druck blendet diese Zeilen aus und wieder ein."));
-    connect(button, &QToolButton::toggled, this,
+    connect(button, &QPushButton::toggled, this,
             [this, kind = row.mKind](bool isOn) { mModel->setKindShown(kind, isOn); });
     mKinds[static_cast<size_t>(row.mKind)] = button;
     layout->addWidget(button);
@@ -140,7 +139,7 @@ bool Address_Import_Preview::eventFilter(QObject* watched, QEvent* event) {
     case Qt::Key_Down:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      enterTable();
+      enterRows();
       return true;
     default:
       break;
@@ -149,12 +148,12 @@ bool Address_Import_Preview::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-void Address_Import_Preview::enterTable() {
+void Address_Import_Preview::enterRows() {
   applyFilter();
   if (!mView->currentIndex().isValid()) {
     mView->setCurrentIndex(mModel->index(0, 0));
   }
-  mView->setFocus(Qt::ShortcutFocusReason);
+  mView->setFocus(Qt::OtherFocusReason);
 }
 
 void Address_Import_Preview::applyFilter() {
@@ -182,7 +181,7 @@ void Address_Import_Preview::updateTexts() {
   const Address_Import_Plan& plan = mModel->plan();
   const bool isCompared = mEmptyText.isEmpty();
   for (const Kind_Row& row : cKinds) {
-    QToolButton* const button = mKinds[static_cast<size_t>(row.mKind)];
+    QPushButton* const button = mKinds[static_cast<size_t>(row.mKind)];
     button->setText(tr(row.mText).arg(Decimal_Text::count(plan.count(row.mKind))));
   }
   QString unchanged = tr("Unverändert %1").arg(Decimal_Text::count(plan.unchangedCount()));

@@ -15,7 +15,6 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QStackedWidget;
-class QToolButton;
 class Session_State;
 
 /// The comparison of an export with the project: how many rows there are of each kind, a filter, the table, and buttons
@@ -31,6 +30,8 @@ public:
   /// There is nothing to show; a text for why, a first step where there is one.
   void setEmpty(const QString& text, const QString& step = {});
   [[nodiscard]] const Address_Import_Plan& plan() const;
+  /// Leads the keyboard into the table.
+  void enterRows();
 
   /// Width and order of the columns.
   void saveState(App_Settings& settings) const;
@@ -50,7 +51,6 @@ private:
   void fillHead();
   void fillFoot();
   void applyFilter();
-  void enterTable();
   void updateTexts();
 
   Address_Import_Model* mModel;
@@ -59,7 +59,7 @@ private:
   QWidget* mFoot;
   QStackedWidget* mTableOrHint;
   Empty_Hint* mHint;
-  std::array<QToolButton*, 4> mKinds{};
+  std::array<QPushButton*, 4> mKinds{};
   QLabel* mUnchanged;
   QLineEdit* mFilter;
   QPushButton* mAll = nullptr;

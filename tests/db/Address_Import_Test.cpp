@@ -156,6 +156,7 @@ private slots:
     };
     row("ESF names", {}, esf(u"Haus"_s, u"EG"_s));
     row("ESF name of the middle group", u"C+ 1/1/* n"_s, esf(u"Haus.1"_s, u"OG"_s));
+    row("ESF name of the main group, longer", u"C+ 1/* n"_s, esf(u"Haus.alt"_s, u"EG"_s));
     row("ESF name of the main group", u"C+ 1/* n"_s, esf(u"Hof"_s, u"EG"_s));
     row("connected alone is no change", {}, [](Ets_Groups& groups) { groups.mAddresses[0].mConnected = {u"1/0/1"_s}; },
         {.mConnected = Connected::Describe});

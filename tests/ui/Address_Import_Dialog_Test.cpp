@@ -3,11 +3,15 @@
 #include "ui/Address_Import_Dialog.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QCheckBox>
+#include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -145,6 +149,23 @@ private slots:
     QCoreApplication::sendEvent(mDialog.get(), &drop);
     QTRY_VERIFY(import()->isEnabled());
     QCOMPARE(mDialog->folder(), mRig->folder());
+  }
+
+  void tabGoesAsOneReads() {
+    choose(exportOf(address("1/1/3", "neu")));
+    QTRY_VERIFY(import()->isEnabled());
+    QWidget* const first = mDialog->findChild<QLineEdit*>(u"mPath"_s);
+    first->setFocus();
+    std::vector<QPoint> places;
+    do {
+      places.push_back(QApplication::focusWidget()->mapTo(mDialog.get(), QPoint(0, 0)));
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (QApplication::focusWidget() != first && places.size() < 30);
+    QVERIFY(places.size() > 10 && places.size() < 30);
+    constexpr int cRowHeight = 20;
+    QVERIFY(std::is_sorted(places.begin(), places.end(), [](const QPoint& a, const QPoint& b) {
+      return std::pair(a.y() / cRowHeight, a.x()) < std::pair(b.y() / cRowHeight, b.x());
+    }));
   }
 
   void accessKeysAreUnique() {
