@@ -186,7 +186,8 @@ void Address_Comparison::keepPresent(Values& values, const Values& present) cons
     values.mCentral = present.mCentral;
     values.mUnfiltered = present.mUnfiltered;
   }
-  if (values.mSecurity.isEmpty()) {
+  // Without a setting of its own an address is "Auto".
+  if (values.mSecurity.isEmpty() || (present.mSecurity.isEmpty() && values.mSecurity == u"Auto")) {
     values.mSecurity = present.mSecurity;
   }
 }

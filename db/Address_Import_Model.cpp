@@ -18,8 +18,11 @@ QString typeText(const Address_Import_Row::Values& values) {
   return values.mDptGuessed && !type.isEmpty() ? Address_Import_Model::tr("%1 (vermutet)").arg(type) : type;
 }
 
-/// A cell is one line high; descriptions may hold line breaks.
-QString inOneLine(const QString& text) {
+/// A cell is one line high; descriptions may hold line breaks. What would be emptied must not be overlooked.
+QString cellText(const QString& text, bool isEmptied) {
+  if (isEmptied) {
+    return Address_Import_Model::tr("(leer)");
+  }
   return text.contains(u'\n') ? text.simplified() : text;
 }
 
@@ -37,6 +40,11 @@ std::optional<Field> fieldOf(int column) {
   default:
     return std::nullopt;
   }
+}
+
+bool isEmptied(const Address_Import_Row& row, int column) {
+  return column == Address_Import_Model::cDescriptionIncoming && row.mDiffering.testFlag(Field::Description) &&
+         row.mIncoming.mDescription.isEmpty();
 }
 
 QString iconName(Level level) {
@@ -238,7 +246,7 @@ QVariant Address_Import_Model::data(const QModelIndex& index, int role) const {
   const int column = index.column();
   switch (role) {
   case Qt::DisplayRole:
-    return inOneLine(textOf(row, column));
+    return cellText(textOf(row, column), isEmptied(row, column));
   case Qt::ToolTipRole:
     return Model_Roles::toolTip(textOf(row, column));
   case Qt::CheckStateRole:

@@ -132,6 +132,8 @@ private slots:
     row("a description vanishes where the file tells others", u"C+ 1/1/1 d, C+ 1/1/2 d"_s,
         [](Ets_Groups& groups) { groups.mAddresses[0].mDescription = u"Flur"_s; });
     row("central", u"C+ 1/1/1 c"_s, [](Ets_Groups& groups) { groups.mAddresses[0].mCentral = true; });
+    row("security that every address has", {}, [](Ets_Groups& groups) { groups.mAddresses[0].mSecurity = u"Auto"_s; });
+    row("security", u"C+ 1/1/1"_s, [](Ets_Groups& groups) { groups.mAddresses[0].mSecurity = u"On"_s; });
     row("vanished", u"V- 1/1/4"_s, [](Ets_Groups& groups) { groups.mAddresses.pop_back(); });
     row("vanished, new only", {}, [](Ets_Groups& groups) { groups.mAddresses.pop_back(); }, {.mImportNewOnly = true});
     row("named again, the same", {}, [](Ets_Groups& groups) { groups.mAddresses.push_back(groups.mAddresses[0]); });
