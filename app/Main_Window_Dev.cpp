@@ -14,8 +14,8 @@
 #include "db/Ets_Export.h"
 #include "db/Project_Edits.h"
 #include "db/Project_Session.h"
-#include "ui/Address_Search_Dialog.h"
 #include "ui/Address_Import_Dialog.h"
+#include "ui/Address_Search_Dialog.h"
 #include "ui/Address_View.h"
 #include "ui/Invalid_Address_Dialog.h"
 
