@@ -20,7 +20,7 @@ constexpr double cPreviewLimit = 3000.0; // ms, as the four below
 constexpr double cApplyLimit = 500.0;
 constexpr double cUndoLimit = 1000.0;
 constexpr double cSortLimit = 500.0;
-constexpr double cFilterLimit = 200.0;
+constexpr double cFilterLimit = 300.0;
 
 [[noreturn]] void stop(const QString& reason) {
   std::fprintf(stderr, "Address_Import_Bench: %s\n", qPrintable(reason));
