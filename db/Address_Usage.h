@@ -83,7 +83,7 @@ private:
     size_t mCount = 0;
   };
   struct Found {
-    size_t mRange;
+    size_t mRange = 0;
     Address_Use mUse;
   };
 

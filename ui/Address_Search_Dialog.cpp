@@ -124,7 +124,8 @@ void Address_Search_Dialog::updateTexts() {
   setCountText(countText() + shown);
   mainList().setHint(emptyText());
   if (search() == Search::Used) {
-    mUseList->setHint(tr("Eine Adresse wählen; hier stehen ihre Verwendungen."));
+    const bool isChoice = mAddressList->shownCount() > 0;
+    mUseList->setHint(isChoice ? tr("Eine Adresse wählen; hier stehen ihre Verwendungen.") : QString());
   }
 }
 

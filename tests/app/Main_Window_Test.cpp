@@ -8,6 +8,7 @@
 #include "ui/Page_Details_View.h"
 #include "ui/Page_View.h"
 #include "ui/Project_Tree_View.h"
+#include "ui/Result_Dialog.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -17,6 +18,7 @@
 #include <QMenuBar>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTabWidget>
 
 namespace {
 
@@ -104,6 +106,28 @@ private slots:
       QCoreApplication::processEvents();
       QVERIFY2(isDialogSeen || signature() != before, row.mSlot);
     }
+  }
+
+  void resultsLeadToTheirTab() {
+    Window_Rig rig;
+    rig.show();
+    QVERIFY(rig.create());
+    rig.addAddress({1, 2, 3}, u"Licht"_s);
+    rig.action("onEdit_Search_Unused")->trigger();
+    auto* const results = rig.mWindow.findChild<Result_Dialog*>();
+    auto* const tabs = rig.mWindow.findChild<QTabWidget*>();
+    const auto current = [tabs] {
+      return tabs->currentWidget()->findChild<QTreeView*>()->currentIndex().data().toString();
+    };
+    const ProjectDatabase& database = rig.mSession.database();
+    emit results->addressChosen(database.mAddresses.subGroup({1, 2, 3})->mKey);
+    QCOMPARE(current(), u"1/2/3"_s);
+    emit results->pageChosen(database.mFbPages.pages().at(0).mGuid);
+    QCOMPARE(current(), database.mFbPages.pages().at(0).mCaption);
+    emit results->pageChosen(QUuid::createUuid());
+    QCOMPARE(current(), database.mFbPages.pages().at(0).mCaption);
+    rig.mSession.close();
+    QVERIFY(!results->isVisible());
   }
 
   void theTitleFollowsTheUndoPosition() {

@@ -45,7 +45,7 @@ private slots:
     QTest::newRow("unused, but it is used")
         << 0 << "1/2/3" << QStringList{"Adresse 1/2/3 \"Licht\" ist verwendet."} << "1 von 3 Adressen nicht verwendet";
     QTest::newRow("used") << 1 << "" << QStringList{light, wind, choose} << "2 von 3 Adressen verwendet";
-    QTest::newRow("used, no hit") << 1 << "garage" << QStringList{"Keine Zeile enthält \"garage\".", choose}
+    QTest::newRow("used, no hit") << 1 << "garage" << QStringList{"Keine Zeile enthält \"garage\"."}
                                   << "2 von 3 Adressen verwendet";
     QTest::newRow("uses of one") << 2 << "4/0/0" << QStringList{"Programm 1|Flur|Ausgang 1|4/0/0|Wind"}
                                  << "5 Verwendungen, 1 gezeigt";
@@ -202,7 +202,7 @@ private:
         rows += cells.join('|');
       }
       for (const QLabel* const hint : list->findChildren<QLabel*>()) {
-        if (hint->isVisible()) {
+        if (hint->isVisible() && !hint->text().isEmpty()) {
           rows += hint->text();
         }
       }
