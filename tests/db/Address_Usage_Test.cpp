@@ -41,7 +41,7 @@ private slots:
     QCOMPARE(usage.variables().size(), size_t(1));
     QCOMPARE(usage.variables()[0].mKey, mSample->mVariable);
     QCOMPARE(usage.variables()[0].mName, QStringLiteral("Merker"));
-    QCOMPARE(usage.variables()[0].mDpt, Datapoint_Id(1, 1));
+    QCOMPARE(usage.variables()[0].mDpt, (Datapoint_Id{1, 1}));
   }
 
   void textsOfWhatIsGoneOrNameless() {
