@@ -1,5 +1,6 @@
 #include "db/Address_Comparison.h"
 
+#include "base/Datapoint_Types.h"
 #include "db/Address_Import_Notes.h"
 #include "db/DB_Text.h"
 #include "db/ProjectDatabase.h"
@@ -19,49 +20,10 @@ QString tr(const char* text) {
   return QCoreApplication::translate("Address_Import", text);
 }
 
-/// Size of a value on the bus; 0 for no type and for one that is not known.
-int bitsOf(const Datapoint_Id& type) {
-  constexpr std::array bits{0,   1, 2, 4,  8, 8, 8,  16, 16, 16, 24, 24, 32, 32, 32, 32,
-                            112, 8, 8, 64, 8, 8, 16, 2,  0,  8,  8,  32, 0,  64, 24};
-  constexpr std::array further{std::pair(225, 24), std::pair(229, 48), std::pair(230, 64), std::pair(232, 24),
-                               std::pair(235, 48), std::pair(242, 48), std::pair(249, 48), std::pair(251, 48)};
-  if (type.isNone()) {
-    return 0;
-  }
-  if (static_cast<size_t>(type.mMain) < bits.size()) {
-    return bits[static_cast<size_t>(type.mMain)];
-  }
-  const auto isIt = [&type](const auto& entry) { return entry.first == type.mMain; };
-  const auto found = std::find_if(further.begin(), further.end(), isIt);
-  return found != further.end() ? found->second : 0;
-}
+using Datapoint_Types::bitsOf;
 
 bool changesSize(const Datapoint_Id& from, const Datapoint_Id& to) {
   return bitsOf(from) > 0 && bitsOf(to) > 0 && bitsOf(from) != bitsOf(to);
-}
-
-/// How many pins and elements are bound to each address.
-QHash<QUuid, int> usesByKey(const ProjectDatabase& database) {
-  QHash<QUuid, int> uses;
-  const auto count = [&uses](const DB_Address_Binding& binding) {
-    if (binding.mKind == DB_Address_Binding::Kind::GroupAddress) {
-      ++uses[binding.mKey];
-    }
-  };
-  for (const auto& page : database.mFbPages.pages()) {
-    for (const auto& block : page->mChildren) {
-      for (const auto* const pins : {&block->mInputs, &block->mOutputs}) {
-        std::for_each(pins->begin(), pins->end(), [&count](const DB_FB_Pin& pin) { count(pin.mBinding); });
-      }
-      count(block->mDisableAddress);
-    }
-  }
-  for (const auto& page : database.mWidgetPages.pages()) {
-    for (const auto& element : page->mChildren) {
-      std::for_each(element->mAddresses.begin(), element->mAddresses.end(), count);
-    }
-  }
-  return uses;
 }
 
 /// A file without a single one cannot tell that one was removed: older exports have none.
@@ -93,7 +55,7 @@ Address_Comparison::Address_Comparison(const ProjectDatabase& database, const Et
       mTellsDescriptions(tellsDescriptions(groups)),
       mTellsFlags(tellsFlags(groups)),
       mGroupComparison(database, groups, options, mTellsDescriptions),
-      mUses(usesByKey(database)) {}
+      mUsage(database) {}
 
 Address_Import_Plan Address_Comparison::plan() {
   compareAddresses();
@@ -238,7 +200,7 @@ void Address_Comparison::addPresent(const Variant& variant, const DB_Address_Sub
   row.mPresent = Values::of(present);
   row.mIncoming = variant.mValues;
   row.mDiffering = row.mPresent.differenceTo(row.mIncoming);
-  row.mUses = mUses.value(present.mKey);
+  row.mUses = static_cast<int>(mUsage.count(present.mKey));
   row.mNote = note;
   if (!row.mDiffering && note.isEmpty()) {
     ++mUnchanged;
@@ -277,7 +239,7 @@ void Address_Comparison::addVanished() {
         if (!named.contains(row.mAddress)) {
           row.mKey = sub->mKey;
           row.mPresent = Values::of(*sub);
-          row.mUses = mUses.value(sub->mKey);
+          row.mUses = static_cast<int>(mUsage.count(sub->mKey));
           row.mNote = Notes::uses(row.mUses);
           mRows.push_back(std::move(row));
         }

@@ -2,6 +2,7 @@
 
 #include "db/Address_Group_Comparison.h"
 #include "db/Address_Import.h"
+#include "db/Address_Usage.h"
 
 #include <QHash>
 #include <QStringList>
@@ -47,7 +48,7 @@ private:
   bool mTellsDescriptions;
   bool mTellsFlags;
   Address_Group_Comparison mGroupComparison;
-  QHash<QUuid, int> mUses;
+  Address_Usage mUsage;
   std::vector<Row> mRows;
   int mUnchanged = 0;
   int mRepeated = 0;

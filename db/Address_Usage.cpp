@@ -1,6 +1,6 @@
 #include "db/Address_Usage.h"
 
-#include "db/ProjectDatabase.h"
+#include "db/DB_Bindings.h"
 
 #include <QCoreApplication>
 
@@ -34,42 +34,12 @@ QString firstOf(const QString& first, const QString& second, const QString& thir
 
 } // namespace
 
-template <class Visitor>
-void Address_Usage::visit(const ProjectDatabase& database, const Visitor& onBinding) {
-  using Place = Address_Use::Place;
-  for (const auto& page : database.mFbPages.pages()) {
-    for (const auto& block : page->mChildren) {
-      Address_Use use{Place::Input, 0, page->mGuid, block->mGuid};
-      for (const auto& [place, pins] : {std::pair(Place::Input, &block->mInputs), {Place::Output, &block->mOutputs}}) {
-        use.mPlace = place;
-        use.mIndex = 0;
-        for (const DB_FB_Pin& pin : *pins) {
-          onBinding(pin.mBinding, use);
-          ++use.mIndex;
-        }
-      }
-      use.mPlace = Place::Disable;
-      use.mIndex = 0;
-      onBinding(block->mDisableAddress, use);
-    }
-  }
-  for (const auto& page : database.mWidgetPages.pages()) {
-    for (const auto& element : page->mChildren) {
-      Address_Use use{Place::Element, 0, page->mGuid, element->mGuid};
-      for (const DB_Address_Binding& binding : element->mAddresses) {
-        onBinding(binding, use);
-        ++use.mIndex;
-      }
-    }
-  }
-}
-
 Address_Usage::Address_Usage(const ProjectDatabase& database) {
   std::vector<Found> found;
   const qsizetype owners = database.mFbPages.childCount() + database.mWidgetPages.childCount();
   mRangeByKey.reserve(owners);
   found.reserve(static_cast<size_t>(2 * owners));
-  visit(database, [this, &database, &found](const DB_Address_Binding& binding, const Address_Use& use) {
+  DB_Bindings::visit(database, [this, &database, &found](const DB_Address_Binding& binding, const Address_Use& use) {
     if (binding.mKind != DB_Address_Binding::Kind::None) {
       add(database, binding, use, found);
     }

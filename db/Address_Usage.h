@@ -2,6 +2,7 @@
 
 #include "base/Datapoint_Id.h"
 #include "base/Group_Address.h"
+#include "db/Address_Use.h"
 
 #include <QHash>
 #include <QString>
@@ -13,18 +14,6 @@
 
 class ProjectDatabase;
 struct DB_Address_Binding;
-
-/// One place in the project that is bound to a group address or an internal variable.
-struct Address_Use {
-  enum class Place { Input, Output, Disable, Element };
-
-  Place mPlace = Place::Input;
-  int mIndex = 0; ///< of the pin, or of the element's binding; 0 for `Disable`
-  QUuid mPageGuid;
-  QUuid mOwnerGuid; ///< the block or element
-
-  friend bool operator==(const Address_Use&, const Address_Use&) = default;
-};
 
 /// Where the group addresses and internal variables of a project are used: a picture of the moment in which it was
 /// made, by one walk over all bindings of the logic pages and then of the visualisation pages, in their order.
@@ -87,8 +76,6 @@ private:
     Address_Use mUse;
   };
 
-  template <class Visitor>
-  static void visit(const ProjectDatabase& database, const Visitor& onBinding);
   void add(const ProjectDatabase& database, const DB_Address_Binding& binding, const Address_Use& use,
            std::vector<Found>& found);
   void sort(const std::vector<Found>& found);

@@ -15,11 +15,13 @@ void refresh(const Address_Tree& tree, DB_Address_Binding& binding) {
 } // namespace
 
 void Binding_Refresh::all(ProjectDatabase& database) {
-  DB_Bindings::visit(database, [&tree = database.mAddresses](DB_Address_Binding& binding) { refresh(tree, binding); });
+  DB_Bindings::visit(database, [&tree = database.mAddresses](DB_Address_Binding& binding, const Address_Use&) {
+    refresh(tree, binding);
+  });
 }
 
 void Binding_Refresh::one(ProjectDatabase& database, const QUuid& key) {
-  DB_Bindings::visit(database, [&tree = database.mAddresses, &key](DB_Address_Binding& binding) {
+  DB_Bindings::visit(database, [&tree = database.mAddresses, &key](DB_Address_Binding& binding, const Address_Use&) {
     if (binding.mKey == key) {
       refresh(tree, binding);
     }

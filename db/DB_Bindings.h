@@ -1,35 +1,40 @@
 #pragma once
 
+#include "db/Address_Use.h"
 #include "db/ProjectDatabase.h"
+
+#include <utility>
 
 /// The one walk over every binding of a project: of logic blocks inputs, outputs and the address that disables the
 /// block, then of visualisation elements; page by page, in their order.
 namespace DB_Bindings {
 
-/// Calls `onBinding` with each binding of a block.
-template <class Block, class On_Binding>
-void visitBlock(Block& block, On_Binding&& onBinding) {
-  for (auto& pin : block.mInputs) {
-    onBinding(pin.mBinding);
-  }
-  for (auto& pin : block.mOutputs) {
-    onBinding(pin.mBinding);
-  }
-  onBinding(block.mDisableAddress);
-}
-
-/// Calls `onBinding` with each binding of the project.
+/// Calls `onBinding` with each binding of the project and its place.
 template <class On_Binding>
-void visit(ProjectDatabase& database, On_Binding&& onBinding) {
+void visit(const ProjectDatabase& database, On_Binding&& onBinding) {
+  using Place = Address_Use::Place;
   for (const auto& page : database.mFbPages.pages()) {
     for (const auto& block : page->mChildren) {
-      visitBlock(*block, onBinding);
+      Address_Use use{Place::Input, 0, page->mGuid, block->mGuid};
+      for (const auto& [place, pins] : {std::pair(Place::Input, &block->mInputs), {Place::Output, &block->mOutputs}}) {
+        use.mPlace = place;
+        use.mIndex = 0;
+        for (DB_FB_Pin& pin : *pins) {
+          onBinding(pin.mBinding, use);
+          ++use.mIndex;
+        }
+      }
+      use.mPlace = Place::Disable;
+      use.mIndex = 0;
+      onBinding(block->mDisableAddress, use);
     }
   }
   for (const auto& page : database.mWidgetPages.pages()) {
     for (const auto& element : page->mChildren) {
+      Address_Use use{Place::Element, 0, page->mGuid, element->mGuid};
       for (DB_Address_Binding& binding : element->mAddresses) {
-        onBinding(binding);
+        onBinding(binding, use);
+        ++use.mIndex;
       }
     }
   }
