@@ -37,20 +37,19 @@ QStringList joined(const Address_Tree& tree) {
   return result;
 }
 
-/// A tree from lines as `Ets_Esf_Reader` reads them, "main|middle|1/2/3|name|type".
+/// Makes a group of each line, "main|middle|1/2/3|name|type", or "main|middle|1/2" for a group without addresses.
 void build(Address_Tree& tree, const QStringList& lines) {
   for (const QString& line : lines) {
     const QStringList cells = line.split(u'|');
-    Ets_Groups groups;
     const QStringList numbers = cells[2].split(u'/');
-    auto main = tree.mainGroup(numbers[0].toInt());
+    DB_Address_MainGroup* main = tree.mainGroup(numbers[0].toInt());
     if (!main) {
       auto group = std::make_unique<DB_Address_MainGroup>();
       group->mNumber = numbers[0].toInt();
       group->mName = cells[0];
       main = tree.add(std::move(group));
     }
-    auto middle = tree.middleGroup(main->mNumber, numbers[1].toInt());
+    DB_Address_Middle_Group* middle = tree.middleGroup(main->mNumber, numbers[1].toInt());
     if (!middle) {
       auto group = std::make_unique<DB_Address_Middle_Group>();
       group->mMainKey = main->mKey;
