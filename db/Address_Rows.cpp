@@ -142,6 +142,7 @@ public:
         branch.mChildren.pop_back();
         continue;
       }
+      mRows.mVariableByKey.insert(variables[i].mKey, variable.mIndex);
       const auto uses = static_cast<int>(mRows.mUsage->count(variables[i].mKey));
       variable.mChildren.reserve(static_cast<size_t>(uses));
       for (int use = 0; use < uses; ++use) {
@@ -276,6 +277,7 @@ void Address_Rows::build(const ProjectDatabase& database, const Address_Usage& u
 void Address_Rows::clear() {
   mTop = {};
   mSubCount = 0;
+  mVariableByKey.clear();
 }
 
 QString Address_Rows::text(const Row& row, int column) const {
@@ -350,12 +352,8 @@ const Row* Address_Rows::find(const QUuid& key) const {
   if (const DB_Address_MainGroup* const main = tree.mainGroup(key)) {
     return find(mTop, main->mNumber, main);
   }
-  if (mTop.empty() || mTop.back().mKind != Kind::Variables) {
-    return nullptr;
-  }
-  const std::vector<Row>& variables = mTop.back().mChildren;
-  const auto at = std::find_if(variables.begin(), variables.end(), [&](const Row& row) { return keyOf(row) == key; });
-  return at == variables.end() ? nullptr : &*at;
+  const auto variable = mVariableByKey.constFind(key);
+  return variable == mVariableByKey.cend() ? nullptr : &mTop.back().mChildren[static_cast<size_t>(*variable)];
 }
 
 QUuid Address_Rows::keyOf(const Row& row) const {

@@ -3,6 +3,7 @@
 #include "db/Address_Tree.h"
 #include "db/Address_Usage.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QUuid>
@@ -76,5 +77,6 @@ private:
   Address_Usage::Type_Name mBlockType;
   Order mOrder;
   qsizetype mSubCount = 0;
+  QHash<QUuid, int> mVariableByKey; ///< index in the branch of variables
   std::vector<Row> mTop;
 };

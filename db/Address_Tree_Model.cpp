@@ -4,6 +4,7 @@
 #include "db/Address_Clipboard.h"
 #include "db/Model_Roles.h"
 #include "db/Project_Session.h"
+#include "db/Variable_Edits.h"
 
 #include <QMimeData>
 #include <QRegularExpression>
@@ -62,6 +63,8 @@ Address_Tree_Model::Address_Tree_Model(Project_Session& session, QObject* parent
   const auto later = [this] { mPagesTimer.start(); };
   connect(&database.mFbPages, &DB_Page_List_Signals::structureChanged, this, later);
   connect(&database.mWidgetPages, &DB_Page_List_Signals::structureChanged, this, later);
+  connect(&database.mFbPages, &DB_Page_List_Signals::childChanged, this, later);
+  connect(&database.mWidgetPages, &DB_Page_List_Signals::childChanged, this, later);
   connect(&session, &Project_Session::opened, this, &Address_Tree_Model::onPagesChanged);
   connect(&session, &Project_Session::closed, this, &Address_Tree_Model::onPagesChanged);
   mUsage = Address_Usage(database);
@@ -99,8 +102,12 @@ void Address_Tree_Model::onRecordChanged(const QUuid& key) {
 
 void Address_Tree_Model::onPagesChanged() {
   mPagesTimer.stop();
+  Address_Usage usage(mSession.database());
+  if (usage == mUsage) {
+    return;
+  }
   beginResetModel();
-  mUsage = Address_Usage(mSession.database());
+  mUsage = std::move(usage);
   rebuild();
   endResetModel();
 }
@@ -258,10 +265,13 @@ Qt::ItemFlags Address_Tree_Model::flags(const QModelIndex& index) const {
   }
   Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
   flags.setFlag(Qt::ItemNeverHasChildren, row->mKind == Kind::Sub || row->mKind == Kind::Use);
+  const int column = index.column();
+  if (mayEdit && row->mKind == Kind::Variable) {
+    flags.setFlag(Qt::ItemIsEditable, column == Address_Rows::cName || column == Address_Rows::cType);
+  }
   if (!mayEdit || !row->mRecord) {
     return flags;
   }
-  const int column = index.column();
   const bool isSub = row->mKind == Kind::Sub;
   const bool isOwnText = column <= Address_Rows::cDescription;
   flags.setFlag(Qt::ItemIsEditable, isOwnText || (isSub && column == Address_Rows::cType));
@@ -276,6 +286,9 @@ QString Address_Tree_Model::whyNot(const QModelIndex& index, const QString& text
     return Address_Edits::checkNumber(mSession, keyOf(index), text).mError;
   }
   const std::optional<Field> field = columnOf(index.column()).mField;
+  if (field == Field::Name && kindOf(index) == Kind::Variable) {
+    return Variable_Edits::checkName(text).mError;
+  }
   return field ? Address_Edits::check(*field, text).mError : QString();
 }
 
@@ -292,7 +305,8 @@ bool Address_Tree_Model::tell(const Edit_Result& result) {
 
 bool Address_Tree_Model::setData(const QModelIndex& index, const QVariant& value, int role) {
   const Row* const row = rowOf(index);
-  if (!row || !row->mRecord) {
+  const bool isVariable = row && row->mKind == Kind::Variable;
+  if (!row || (!row->mRecord && !isVariable)) {
     return false;
   }
   const QUuid key = mRows.keyOf(*row);
@@ -307,6 +321,10 @@ bool Address_Tree_Model::setData(const QModelIndex& index, const QVariant& value
   const QString present = mRows.text(*row, index.column());
   if (text == present || text == inOneLine(present)) {
     return true; // an editor that was only looked into
+  }
+  if (isVariable) {
+    return tell(index.column() == Address_Rows::cType ? Variable_Edits::setType(mSession, key, text)
+                                                      : Variable_Edits::rename(mSession, key, text));
   }
   if (index.column() == Address_Rows::cAddress) {
     return tell(Address_Edits::renumber(mSession, key, text));

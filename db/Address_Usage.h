@@ -24,6 +24,7 @@ public:
     QUuid mKey;
     QString mName;
     Datapoint_Id mDpt;
+    friend bool operator==(const Variable&, const Variable&) = default;
   };
 
   /// A binding to a group address that the project does not have (any more), with what is cached in it.
@@ -32,6 +33,7 @@ public:
     QUuid mKey; ///< may be null
     Group_Address mAddress;
     QString mName;
+    friend bool operator==(const Invalid&, const Invalid&) = default;
   };
 
   /// What a use is called, in the words of the user.
@@ -50,6 +52,9 @@ public:
 
   Address_Usage() = default;
   explicit Address_Usage(const ProjectDatabase& database);
+
+  /// True when the same is used at the same places, and the variables have the same names and types.
+  friend bool operator==(const Address_Usage&, const Address_Usage&) = default;
 
   /// In the order of pages, blocks and pins; empty for what is nowhere used. Valid as long as this object.
   [[nodiscard]] std::span<const Address_Use> uses(const QUuid& key) const;
@@ -70,6 +75,7 @@ private:
   struct Range {
     size_t mFirst = 0;
     size_t mCount = 0;
+    friend bool operator==(const Range&, const Range&) = default;
   };
   struct Found {
     size_t mRange = 0;

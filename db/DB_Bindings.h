@@ -9,6 +9,24 @@
 /// block, then of visualisation elements; page by page, in their order.
 namespace DB_Bindings {
 
+/// Calls `onBinding` with each binding of a block, or of an element.
+template <class On_Binding>
+void visitOwner(DB_FB_Control& block, On_Binding&& onBinding) {
+  for (auto* const pins : {&block.mInputs, &block.mOutputs}) {
+    for (DB_FB_Pin& pin : *pins) {
+      onBinding(pin.mBinding);
+    }
+  }
+  onBinding(block.mDisableAddress);
+}
+
+template <class On_Binding>
+void visitOwner(DB_Widget& element, On_Binding&& onBinding) {
+  for (DB_Address_Binding& binding : element.mAddresses) {
+    onBinding(binding);
+  }
+}
+
 /// Calls `onBinding` with each binding of the project and its place.
 template <class On_Binding>
 void visit(const ProjectDatabase& database, On_Binding&& onBinding) {

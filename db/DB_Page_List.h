@@ -20,6 +20,8 @@ signals:
   void structureChanged();
   /// The page's own record changed, not its children.
   void pageChanged(const QUuid& guid);
+  /// A child's record changed, came, went or has another place on its page.
+  void childChanged(const QUuid& guid);
 };
 
 /// An ordered list of pages, each with its ordered children (blocks or elements). Pages and children are found by GUID
@@ -86,7 +88,33 @@ public:
     }
     Child& added = parent->mChildren.insert(index, std::move(child));
     indexChild(added);
+    emit childChanged(added.mGuid);
     return &added;
+  }
+
+  /// Null when there is none.
+  std::unique_ptr<Child> takeChild(const QUuid& guid) {
+    Child* const found = child(guid);
+    if (!found) {
+      return nullptr;
+    }
+    auto& siblings = page(found->mPageGuid)->mChildren;
+    std::unique_ptr<Child> taken = siblings.take(siblings.indexOf(found));
+    mChildByGuid.remove(guid);
+    emit childChanged(guid);
+    return taken;
+  }
+
+  /// Applies `change` to the child's record, which must keep its GUID and its page, and tells.
+  template <class Change>
+  bool changeChild(const QUuid& guid, Change&& change) {
+    Child* const found = child(guid);
+    if (!found) {
+      return false;
+    }
+    change(*found);
+    emit childChanged(guid);
+    return true;
   }
 
   Child* appendChild(std::unique_ptr<Child> child) { return insertChild(-1, std::move(child)); }

@@ -14,6 +14,8 @@ Project_Session::Project_Session(Session_State& state, QObject* parent)
       mAddressUndo(mDatabase.mAddresses),
       mFbPageUndo(mDatabase.mFbPages),
       mWidgetPageUndo(mDatabase.mWidgetPages),
+      mBlockUndo(mDatabase.mFbPages),
+      mElementUndo(mDatabase.mWidgetPages),
       mProjectUndo(mDatabase, DB_Table::Project) {
   connect(&mDatabase, &ProjectDatabase::resourcesChanged, &mHistory, &History::setChangedOutside);
   const Address_Tree& tree = mDatabase.mAddresses;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/Address_Undo.h"
+#include "db/Child_Undo.h"
 #include "db/History.h"
 #include "db/New_Project.h"
 #include "db/Page_Undo.h"
@@ -56,6 +57,9 @@ public:
   [[nodiscard]] Undo_Adapter& addressUndo() { return mAddressUndo; }
   [[nodiscard]] Undo_Adapter& fbPageUndo() { return mFbPageUndo; }
   [[nodiscard]] Undo_Adapter& widgetPageUndo() { return mWidgetPageUndo; }
+  /// Of the blocks of all logic pages, and of the elements of all visualisation pages.
+  [[nodiscard]] Undo_Adapter& blockUndo() { return mBlockUndo; }
+  [[nodiscard]] Undo_Adapter& elementUndo() { return mElementUndo; }
   [[nodiscard]] Undo_Adapter& projectUndo() { return mProjectUndo; }
 
 signals:
@@ -88,6 +92,8 @@ private:
   Address_Undo mAddressUndo;
   Page_Undo<DB_FB_Page> mFbPageUndo;
   Page_Undo<DB_Widget_Page> mWidgetPageUndo;
+  Child_Undo<DB_FB_Page> mBlockUndo;
+  Child_Undo<DB_Widget_Page> mElementUndo;
   Single_Record_Undo mProjectUndo;
   Working_Copy mWorkingCopy;
   QString mPath;

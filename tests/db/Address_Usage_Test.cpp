@@ -2,6 +2,9 @@
 #include "db/Address_Usage_Model.h"
 #include "db/Address_Usage_Watch.h"
 #include "db/Address_Use_Model.h"
+#include "db/DB_Bindings.h"
+#include "db/Variable_Edits.h"
+#include "tests/db/Project_Dump.h"
 #include "tests/db/Usage_Sample.h"
 
 #include <QSignalSpy>
@@ -137,6 +140,34 @@ private slots:
     mRig->mSession.close();
     QVERIFY(watch.usage().variables().empty());
     QTRY_COMPARE(changed.size(), 2);
+  }
+
+  void aVariableIsEditedInAllItsBindings() {
+    Project_Session& session = mRig->mSession;
+    const auto variable = [this] { return Address_Usage(database()).variables().at(0); };
+    const QByteArray before = Project_Dump::project(database(), false);
+    QVERIFY(Variable_Edits::rename(session, mSample->mVariable, QStringLiteral(" Nacht\n")));
+    QVERIFY(Variable_Edits::setType(session, mSample->mVariable, QStringLiteral("5.010")));
+    session.history().commit();
+    for (const auto& block : database().mFbPages.pages().at(0).mChildren) {
+      DB_Bindings::visitOwner(*block, [](const DB_Address_Binding& binding) {
+        const bool isVariable = binding.mKind == DB_Address_Binding::Kind::Internal;
+        QCOMPARE(binding.mName == QStringLiteral("Nacht") && binding.mDpt == Datapoint_Id(5, 10), isVariable);
+      });
+    }
+    QVERIFY(session.history().undo());
+    QCOMPARE(Project_Dump::project(database(), false), before);
+    QVERIFY(session.history().redo());
+    QCOMPARE(variable().mName, QStringLiteral("Nacht"));
+    const QByteArray after = Project_Dump::project(database(), false);
+    const auto refused = [&](const Edit_Result& result) { return !result && !result.mError.isEmpty(); };
+    QVERIFY(refused(Variable_Edits::rename(session, mSample->mVariable, QStringLiteral(" "))));
+    QVERIFY(refused(Variable_Edits::rename(session, mSample->mLight, QStringLiteral("Nacht")))); // no variable
+    QVERIFY(refused(Variable_Edits::rename(session, QUuid::createUuid(), QStringLiteral("Nacht"))));
+    QVERIFY(refused(Variable_Edits::setType(session, mSample->mVariable, QStringLiteral("warm"))));
+    mRig->mState.setOperatingMode(true);
+    QVERIFY(refused(Variable_Edits::rename(session, mSample->mVariable, QStringLiteral("Tag"))));
+    QCOMPARE(Project_Dump::project(database(), false), after);
   }
 
 private:

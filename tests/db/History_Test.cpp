@@ -167,7 +167,8 @@ private:
         [&] { Project_Edits::renamePage(session(), database.mWidgetPages.pages().at(1).mGuid, text); },
         [&] { Project_Edits::setGeoposition(session(), salt, -salt); },
         [&] { makeAndDelete(salt); },
-        [&] { renumberAndMove(salt); }};
+        [&] { renumberAndMove(salt); },
+        [&] { blocksComeAndGo(salt); }};
     edits[edit]();
   }
 
@@ -199,7 +200,29 @@ private:
     database.mWidgetPages.movePage(0, 1);
   }
 
-  static constexpr int cEdits = 7;
+  /// One block goes, another comes, a third goes to the end of its page.
+  void blocksComeAndGo(int salt) {
+    DB_Page_List<DB_FB_Page>& list = session().database().mFbPages;
+    const DB_FB_Page& page = *list.pages().begin()->get();
+    Edit_Scope scope(history(), QStringLiteral("Bausteine"), Grouping::Own);
+    Undo_Adapter& undo = session().blockUndo();
+    if (page.mChildren.size() > 2) {
+      const QUuid gone = page.mChildren.at(1).mGuid;
+      scope.deleted(undo, gone);
+      list.takeChild(gone);
+      const QUuid moved = page.mChildren.at(0).mGuid;
+      scope.moved(undo, moved);
+      undo.move(moved, page.mChildren.size() - 1);
+    }
+    for (int i = 0; i < 2; ++i) {
+      auto block = std::make_unique<DB_FB_Control>();
+      block->mPageGuid = page.mGuid;
+      block->mTitle = QStringLiteral("Baustein %1").arg(salt);
+      scope.created(undo, list.appendChild(std::move(block))->mGuid);
+    }
+  }
+
+  static constexpr int cEdits = 8;
   std::unique_ptr<Session_Rig> mRig;
   QUuid mLight;
   QUuid mBlind;

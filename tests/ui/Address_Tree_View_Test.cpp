@@ -192,6 +192,11 @@ private slots:
     mTree->setCurrentIndex(use);
     QTest::keyClick(mTree, Qt::Key_Return);
     QCOMPARE(chosen.value(0).value(0).toUuid(), mRig->mSession.database().mFbPages.pages().at(0).mGuid);
+    QVERIFY(mTree->model()->setData(variable.siblingAtColumn(Address_Rows::cName), QStringLiteral("Nacht")));
+    const auto shownName = [&model] {
+      return model.index(0, Address_Rows::cName, model.index(model.rowCount() - 1, 0)).data().toString();
+    };
+    QTRY_COMPARE(shownName(), QStringLiteral("Nacht"));
     mRig->mSession.close();
     QCOMPARE(model.rowCount(), 0);
   }
