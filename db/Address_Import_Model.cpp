@@ -1,5 +1,6 @@
 #include "db/Address_Import_Model.h"
 
+#include "db/Address_Type_Text.h"
 #include "db/Model_Roles.h"
 
 #include <QCollator>
@@ -14,8 +15,7 @@ using Level = Address_Import_Row::Level;
 namespace {
 
 QString typeText(const Address_Import_Row::Values& values) {
-  const QString type = values.mDpt.toString();
-  return values.mDptGuessed && !type.isEmpty() ? Address_Import_Model::tr("%1 (vermutet)").arg(type) : type;
+  return Address_Type_Text::shown(values.mDpt, values.mDptGuessed, values.mDptRaw);
 }
 
 /// A cell is one line high; descriptions may hold line breaks. What would be emptied must not be overlooked.

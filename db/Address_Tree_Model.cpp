@@ -2,6 +2,7 @@
 
 #include "base/Session_State.h"
 #include "db/Address_Clipboard.h"
+#include "db/Address_Type_Text.h"
 #include "db/Model_Roles.h"
 #include "db/Project_Session.h"
 #include "db/Variable_Edits.h"
@@ -185,12 +186,11 @@ int Address_Tree_Model::columnCount(const QModelIndex&) const {
 }
 
 QVariant Address_Tree_Model::displayText(const Row& row, int column) const {
-  QString text = mRows.text(row, column);
-  if (column == Address_Rows::cType && row.mKind == Kind::Sub && !text.isEmpty() &&
-      static_cast<const DB_Address_Sub_Group*>(row.mRecord)->mDptGuessed) {
-    return tr("%1 (vermutet)").arg(text);
+  if (column == Address_Rows::cType && row.mKind == Kind::Sub) {
+    const auto& sub = static_cast<const DB_Address_Sub_Group&>(*row.mRecord);
+    return Address_Type_Text::shown(sub.mDpt, sub.mDptGuessed, sub.mDptRaw);
   }
-  return inOneLine(text);
+  return inOneLine(mRows.text(row, column));
 }
 
 QString Address_Tree_Model::toolTip(const Row& row, int column) const {
@@ -202,8 +202,8 @@ QString Address_Tree_Model::toolTip(const Row& row, int column) const {
   if (sub && column == Address_Rows::cAddress && !sub->mOrigin.isEmpty()) {
     return tr("%1, im Import: %2").arg(mRows.text(row, column), sub->mOrigin);
   }
-  if (sub && column == Address_Rows::cType && sub->mDptGuessed) {
-    return tr("%1: vermutet, denn der Import nennt nur \"%2\".").arg(sub->mDpt.toString(), sub->mDptRaw);
+  if (sub && column == Address_Rows::cType) {
+    return Address_Type_Text::toolTip(sub->mDpt, sub->mDptGuessed, sub->mDptRaw);
   }
   return columnOf(column).mFlag ? tr(columnOf(column).mTip) : mRows.text(row, column);
 }
