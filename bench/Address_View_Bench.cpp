@@ -21,6 +21,7 @@
 namespace {
 
 constexpr int cRuns = 9;
+constexpr int cSteps = 200; // of scrolling
 constexpr QSize cViewSize(640, 900);
 constexpr double cFilterLimit = 100; // ms
 constexpr double cScrollLimit = 16;  // ms
@@ -71,6 +72,7 @@ void measureFilter(Rig& rig, Bench_Table& table) {
                                    {"filter: an address", "12/3/45"},
                                    {"filter: all 65,536 hits", "e"}}) {
     std::vector<double> times;
+    times.reserve(cRuns);
     for (int run = 0; run < cRuns; ++run) {
       times.push_back(rig.filter(QString::fromUtf8(text)));
       rig.filter({});
@@ -78,6 +80,7 @@ void measureFilter(Rig& rig, Bench_Table& table) {
     table.add(name, Bench_Table::median(times), cFilterLimit, "ms");
   }
   std::vector<double> times;
+  times.reserve(cRuns);
   for (int run = 0; run < cRuns; ++run) {
     rig.filter(QStringLiteral("jalousie"));
     times.push_back(rig.filter({}));
@@ -91,7 +94,8 @@ void measureScroll(Rig& rig, Bench_Table& table) {
   QScrollBar& bar = *rig.mTree->verticalScrollBar();
   QImage image(cViewSize, QImage::Format_RGB32);
   std::vector<double> times;
-  for (int step = 0; step < 200; ++step) {
+  times.reserve(cSteps);
+  for (int step = 0; step < cSteps; ++step) {
     times.push_back(Bench_Table::milliseconds([&] {
       bar.setValue(bar.value() + (step % 50 == 0 ? bar.maximum() / 5 : 3));
       rig.mView.render(&image);
@@ -107,6 +111,7 @@ void measureEdits(Rig& rig, Bench_Table& table) {
   const QUuid key = tree.subGroup(Group_Address(12, 3, 45))->mKey;
   const auto measure = [&](const char* name, double limit, const std::function<void(int)>& edit) {
     std::vector<double> times;
+    times.reserve(cRuns);
     for (int run = 0; run < cRuns; ++run) {
       times.push_back(Bench_Table::milliseconds([&] {
         edit(run);

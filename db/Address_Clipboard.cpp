@@ -191,34 +191,6 @@ Edit_Result noPlace(int level) {
                                             : tr("Mittelgruppen gehören in eine Hauptgruppe: zuerst eine auswählen."));
 }
 
-/// Whether the items find free numbers; what lies below them fits, as it did where it comes from.
-bool hasRoom(const Address_Tree& tree, const Unpacked& unpacked, const QUuid& parent) {
-  const DB_Address_Middle_Group* const middle = tree.middleGroup(parent);
-  const DB_Address_MainGroup* const main = tree.mainGroup(middle ? middle->mMainKey : parent);
-  int first = 0;
-  int last = unpacked.mLevel == cSub ? Group_Address::cSubMax : Group_Address::cMiddleMax;
-  const auto isTaken = [&](int number) {
-    switch (unpacked.mLevel) {
-    case cSub:
-      return tree.subGroup({main->mNumber, middle->mNumber, number}) != nullptr;
-    case cMiddle:
-      return tree.middleGroup(main->mNumber, number) != nullptr;
-    default:
-      return tree.mainGroup(number) != nullptr;
-    }
-  };
-  if (unpacked.mLevel == cMain) {
-    last = Group_Address::cMainMax;
-  } else if (unpacked.mLevel == cSub && main->mNumber == 0 && middle->mNumber == 0) {
-    first = 1; // 0/0/0 is the bus's own
-  }
-  qsizetype room = 0;
-  for (int number = first; number <= last; ++number) {
-    room += isTaken(number) ? 0 : 1;
-  }
-  return unpacked.mItems.size() <= room;
-}
-
 } // namespace
 
 QString Address_Clipboard::mimeType() {
@@ -260,7 +232,7 @@ Edit_Result Address_Clipboard::paste(Project_Session& session, const QByteArray&
     return Edit_Result::refused(tr("Einfügen lassen sich Adressen, Mittelgruppen oder Hauptgruppen, aber nicht "
                                    "gemischt."));
   }
-  const QUuid parent = parentFor(tree, unpacked->mLevel, target);
+  const QUuid parent = unpacked->mLevel == cMain ? QUuid() : parentFor(tree, unpacked->mLevel, target);
   if (unpacked->mLevel != cMain && parent.isNull()) {
     return noPlace(unpacked->mLevel);
   }
@@ -269,7 +241,8 @@ Edit_Result Address_Clipboard::paste(Project_Session& session, const QByteArray&
     result.mMoved = result.mKeys.size();
     return Address_Edits::move(session, result.mKeys, parent);
   }
-  if (!hasRoom(tree, *unpacked, parent)) {
+  // What lies below the items fits, as it did where it comes from.
+  if (unpacked->mItems.size() > Address_Edits::freeCount(session, parent)) {
     return Edit_Result::refused(
         tr("In der Gruppe sind nicht genug Nummern frei für %1 Einträge.").arg(unpacked->mItems.size()));
   }

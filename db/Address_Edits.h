@@ -57,6 +57,10 @@ Edit_Result addMiddleGroup(Project_Session& session, int main, int middle, const
 [[nodiscard]] int freeMiddle(Project_Session& session, int main, int from = 0);
 [[nodiscard]] int freeSub(Project_Session& session, int main, int middle, int from = 0);
 
+/// How many numbers are free: of addresses in a middle group (without 0/0/0), of middle groups in a main group, of main
+/// groups for a null key.
+[[nodiscard]] int freeCount(Project_Session& session, const QUuid& group);
+
 /// What `remove` would delete.
 struct Deletion {
   qsizetype mAddresses = 0;

@@ -98,29 +98,17 @@ void changeNumber(DB_Data_Base& record, const Group_Address& number, const QUuid
 }
 
 /// Whether so many more fit into a group.
-Edit_Result checkRoom(const Address_Tree& tree, const QUuid& target, qsizetype count) {
+Edit_Result checkRoom(Project_Session& session, const QUuid& target, qsizetype count) {
+  const Address_Tree& tree = session.database().mAddresses;
+  if (count <= Address_Edits::freeCount(session, target)) {
+    return Edit_Result::done();
+  }
   if (const DB_Address_Middle_Group* const middle = tree.middleGroup(target)) {
     const int main = tree.mainGroup(middle->mMainKey)->mNumber;
-    const int first = firstSub(main, middle->mNumber);
-    int taken = 0;
-    for (int sub = first; sub <= Group_Address::cSubMax; ++sub) {
-      taken += tree.subGroup({main, middle->mNumber, sub}) ? 1 : 0;
-    }
-    return count <= Group_Address::cSubMax + 1 - first - taken
-               ? Edit_Result::done()
-               : full(Group_Address::middleGroupText(main, middle->mNumber), QStringLiteral("%1..255").arg(first));
+    return full(Group_Address::middleGroupText(main, middle->mNumber),
+                QStringLiteral("%1..255").arg(firstSub(main, middle->mNumber)));
   }
-  const DB_Address_MainGroup* const main = tree.mainGroup(target);
-  if (!main) {
-    return gone();
-  }
-  int taken = 0;
-  for (int middle = 0; middle <= Group_Address::cMiddleMax; ++middle) {
-    taken += tree.middleGroup(main->mNumber, middle) ? 1 : 0;
-  }
-  return count <= Group_Address::cMiddleMax + 1 - taken
-             ? Edit_Result::done()
-             : full(Group_Address::mainGroupText(main->mNumber), QStringLiteral("0..7"));
+  return full(Group_Address::mainGroupText(tree.mainGroup(target)->mNumber), QStringLiteral("0..7"));
 }
 
 /// Where one of the moved groups goes; empty when the target has no room.
@@ -154,6 +142,28 @@ int Address_Edits::freeSub(Project_Session& session, int main, int middle, int f
   return firstFree(firstSub(main, middle), Group_Address::cSubMax, from, [&](int sub) {
     return tree.subGroup({main, middle, sub}) != nullptr;
   });
+}
+
+int Address_Edits::freeCount(Project_Session& session, const QUuid& group) {
+  const Address_Tree& tree = session.database().mAddresses;
+  const auto count = [](int first, int last, auto&& isTaken) {
+    int free = 0;
+    for (int number = first; number <= last; ++number) {
+      free += isTaken(number) ? 0 : 1;
+    }
+    return free;
+  };
+  if (const DB_Address_Middle_Group* const middle = tree.middleGroup(group)) {
+    const int main = tree.mainGroup(middle->mMainKey)->mNumber;
+    return count(firstSub(main, middle->mNumber), Group_Address::cSubMax, [&](int sub) {
+      return tree.subGroup({main, middle->mNumber, sub}) != nullptr;
+    });
+  }
+  if (const DB_Address_MainGroup* const main = tree.mainGroup(group)) {
+    return count(0, Group_Address::cMiddleMax,
+                 [&](int middle) { return tree.middleGroup(main->mNumber, middle) != nullptr; });
+  }
+  return count(0, Group_Address::cMainMax, [&](int main) { return tree.mainGroup(main) != nullptr; });
 }
 
 Address_Edits::Deletion Address_Edits::whatRemoves(Project_Session& session, const QList<QUuid>& keys,
@@ -251,7 +261,10 @@ Edit_Result Address_Edits::move(Project_Session& session, const QList<QUuid>& ke
           tr("Adressen lassen sich nur in eine Mittelgruppe verschieben, Mittelgruppen nur in eine Hauptgruppe."));
     }
   }
-  if (Edit_Result result = checkRoom(tree, target, moved.size()); !result) {
+  if (!middle && !main) {
+    return gone();
+  }
+  if (Edit_Result result = checkRoom(session, target, moved.size()); !result) {
     return result;
   }
   Edit_Scope scope(session.history(), tr("Verschieben"));
