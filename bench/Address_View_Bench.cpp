@@ -135,6 +135,11 @@ void measureEdits(Rig& rig, Bench_Table& table) {
   measure("edit: a flag of all 65,536", 1000,
           [&](int run) { Address_Edits::set(rig.mSession, mains, Field::Active, run % 2 == 1); });
   measure("edit: undo of that", 1000, [&](int) { rig.mSession.history().undo(); });
+  measure("edit: all deleted and back", 2000, [&](int) {
+    Address_Edits::remove(rig.mSession, mains);
+    rig.mSession.history().commit();
+    rig.mSession.history().undo();
+  });
   measure("sort by name", 300, [&](int run) {
     rig.mTree->sortByColumn(Address_Rows::cName, run % 2 == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
   });

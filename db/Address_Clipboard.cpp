@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMimeData>
 #include <QSet>
 
 #include <optional>
@@ -29,6 +30,10 @@ constexpr int cSub = 2;
 
 QString tr(const char* text) {
   return QCoreApplication::translate("Address_Clipboard", text);
+}
+
+QString levelType() {
+  return Address_Clipboard::mimeType() + QStringLiteral("-level");
 }
 
 /// So that what one studio dragged is not taken for its own by another that has a copy of the project open.
@@ -217,10 +222,18 @@ QByteArray Address_Clipboard::pack(Project_Session& session, const QList<QUuid>&
       .toJson(QJsonDocument::Compact);
 }
 
-bool Address_Clipboard::fits(Project_Session& session, const QByteArray& packed, const QUuid& target) {
+void Address_Clipboard::fill(QMimeData& data, Project_Session& session, const QList<QUuid>& keys, Use use) {
+  const QByteArray packed = pack(session, keys, use);
   const std::optional<Unpacked> unpacked = unpack(session, packed);
-  return unpacked &&
-         (unpacked->mLevel == cMain || !parentFor(session.database().mAddresses, unpacked->mLevel, target).isNull());
+  data.setData(mimeType(), packed);
+  data.setData(levelType(), unpacked ? QByteArray::number(unpacked->mLevel) : QByteArray());
+}
+
+bool Address_Clipboard::fits(Project_Session& session, const QMimeData& data, const QUuid& target) {
+  bool isLevel = false;
+  const int level = data.data(levelType()).toInt(&isLevel);
+  const bool isMovable = isLevel && (level == cMiddle || level == cSub);
+  return isMovable && !parentFor(session.database().mAddresses, level, target).isNull();
 }
 
 Edit_Result Address_Clipboard::paste(Project_Session& session, const QByteArray& packed, const QUuid& target,
@@ -236,7 +249,11 @@ Edit_Result Address_Clipboard::paste(Project_Session& session, const QByteArray&
   if (unpacked->mLevel != cMain && parent.isNull()) {
     return noPlace(unpacked->mLevel);
   }
-  if (unpacked->mIsMove && unpacked->mLevel != cMain) {
+  if (unpacked->mIsMove && unpacked->mLevel == cMain) {
+    return Edit_Result::refused(
+        tr("Eine Hauptgruppe steht für sich; eine andere Nummer bekommt sie in der Spalte \"Adresse\"."));
+  }
+  if (unpacked->mIsMove) {
     result.mKeys = keysOf(unpacked->mItems);
     result.mMoved = result.mKeys.size();
     return Address_Edits::move(session, result.mKeys, parent);
@@ -244,7 +261,7 @@ Edit_Result Address_Clipboard::paste(Project_Session& session, const QByteArray&
   // What lies below the items fits, as it did where it comes from.
   if (unpacked->mItems.size() > Address_Edits::freeCount(session, parent)) {
     return Edit_Result::refused(
-        tr("In der Gruppe sind nicht genug Nummern frei für %1 Einträge.").arg(unpacked->mItems.size()));
+        tr("In der Gruppe sind nicht genug Nummern frei; eingefügt werden sollten %1.").arg(unpacked->mItems.size()));
   }
   Edit_Scope scope(session.history(), tr("Einfügen"));
   if (!scope) {

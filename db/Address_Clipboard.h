@@ -9,6 +9,7 @@
 #include <QUuid>
 
 class Project_Session;
+class QMimeData;
 
 /// Group addresses on the clipboard and while they are dragged: packed with all their fields, and with everything below
 /// them. What is read comes from outside and is checked.
@@ -18,7 +19,7 @@ namespace Address_Clipboard {
 
 enum class Use {
   Copy, ///< pasting makes new addresses with keys of their own
-  Move, ///< pasting in the same project moves the addresses, so bindings follow; elsewhere it copies
+  Move, ///< pasting in the same project moves the addresses, so bindings follow; elsewhere it copies. No main groups.
 };
 
 struct Result {
@@ -30,9 +31,11 @@ struct Result {
 };
 
 [[nodiscard]] QByteArray pack(Project_Session& session, const QList<QUuid>& keys, Use use);
+/// The same as data of the clipboard and of dragging.
+void fill(QMimeData& data, Project_Session& session, const QList<QUuid>& keys, Use use);
 
-/// Whether `paste` would find a place for it.
-[[nodiscard]] bool fits(Project_Session& session, const QByteArray& packed, const QUuid& target);
+/// Whether `paste` would find a place for the data; quick, for it is asked with every move of the mouse.
+[[nodiscard]] bool fits(Project_Session& session, const QMimeData& data, const QUuid& target);
 
 /// Brings what was packed into the group of that key, or beside the group or address of that key: addresses into its
 /// middle group, middle groups into its main group; main groups need no target. They keep their number where it is

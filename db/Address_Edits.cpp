@@ -6,7 +6,6 @@
 #include "db/Project_Session.h"
 
 #include <QCoreApplication>
-#include <QSet>
 
 #include <optional>
 
@@ -22,7 +21,7 @@ QString tr(const char* text) {
 constexpr qsizetype cManyRecords = 50;
 
 struct Field_Row {
-  Field mField;
+  Field mField = Field::Name;
   const char* mStep;                 ///< how the undo step is called
   bool DB_Address_Sub_Group::*mFlag; ///< none for texts
 };
@@ -107,7 +106,7 @@ std::function<void(DB_Data_Base&)> changeFor(Field field, const QVariant& value)
   return [field, text = cleaned(field, value)](DB_Data_Base& record) { setText(record, field, text); };
 }
 
-/// Name, description and type of something new.
+/// The texts of something new.
 Edit_Result checkContents(const Address_Edits::Contents& contents) {
   const Edit_Result name = Address_Edits::check(Field::Name, contents.mName);
   return name ? Address_Edits::check(Field::Description, contents.mDescription) : name;

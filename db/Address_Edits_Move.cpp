@@ -192,7 +192,7 @@ Edit_Result Address_Edits::remove(Project_Session& session, const QList<QUuid>& 
   if (whole.isEmpty()) {
     return gone();
   }
-  Edit_Scope scope(session.history(), whole.size() == 1 ? tr("Adresse löschen") : tr("Adressen löschen"));
+  Edit_Scope scope(session.history(), tr("Löschen"));
   if (!scope) {
     return Edit_Result::refused(scope.refusal());
   }
@@ -222,7 +222,7 @@ Edit_Result Address_Edits::renumber(Project_Session& session, const QUuid& key, 
   Address_Tree& tree = session.database().mAddresses;
   QString error;
   const Group_Address number = *wanted(tree, key, text, error);
-  Edit_Scope scope(session.history(), tr("Adresse ändern"));
+  Edit_Scope scope(session.history(), tr("Nummer ändern"));
   if (!scope) {
     return Edit_Result::refused(scope.refusal());
   }
@@ -253,6 +253,9 @@ Edit_Result Address_Edits::move(Project_Session& session, const QList<QUuid>& ke
   for (const QUuid& key : keys) {
     const DB_Address_Sub_Group* const sub = tree.subGroup(key);
     const DB_Address_Middle_Group* const group = tree.middleGroup(key);
+    if (!tree.record(key)) {
+      return gone();
+    }
     const bool isThere = (sub && sub->mMiddleKey == target) || (group && group->mMainKey == target);
     if (!isThere && ((middle && sub) || (main && group))) {
       moved.append(key);

@@ -1,8 +1,8 @@
 #include "db/Address_Filter_Model.h"
 
+#include "base/Text_Order.h"
 #include "db/Model_Roles.h"
 
-#include <QCollator>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -109,9 +109,7 @@ void Address_Filter_Model::rank() const {
     mRanks = ranksOf(numbers, std::less<>());
     return;
   }
-  QCollator collator;
-  collator.setNumericMode(true);
-  collator.setCaseSensitivity(Qt::CaseInsensitive);
+  const QCollator collator = Text_Order::collator();
   std::vector<QCollatorSortKey> texts;
   texts.reserve(static_cast<size_t>(count));
   for (int row = 0; row < count; ++row) {

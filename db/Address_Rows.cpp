@@ -1,5 +1,7 @@
 #include "db/Address_Rows.h"
 
+#include "base/Text_Order.h"
+#include "db/Address_Type_Text.h"
 #include "db/ProjectDatabase.h"
 
 #include <QCoreApplication>
@@ -72,29 +74,29 @@ Short_Text typeText(const Datapoint_Id& type) {
   return text;
 }
 
-/// So that umlauts stand with their vowels, whatever the case.
-QString sortKey(const QString& text) {
-  QString key = text.toLower();
-  for (QChar& c : key) {
-    switch (c.unicode()) {
-    case u'ä':
-      c = u'a';
-      break;
-    case u'ö':
-      c = u'o';
-      break;
-    case u'ü':
-      c = u'u';
-      break;
-    case u'ß':
-      c = u's';
-      break;
-    default:
-      break;
+/// Whether the cell says more than the number of the type.
+bool hasDoubtfulType(const DB_Address_Sub_Group& group) {
+  return group.mDptGuessed || (group.mDpt.isNone() && !group.mDptRaw.isEmpty());
+}
+
+/// One word of the filter. With a slash it is looked for at the start of an address: "1/2/3" is not in "11/2/3", and
+/// "1/2/*" is the whole group.
+class Word {
+public:
+  explicit Word(const QString& text) : mMatcher(text, Qt::CaseInsensitive) {
+    if (text.contains(u'/')) {
+      mAddress = text.endsWith(QLatin1String("/*")) ? text.chopped(1) : text;
     }
   }
-  return key;
-}
+  [[nodiscard]] bool isIn(QStringView text) const { return mMatcher.indexIn(text) >= 0; }
+  [[nodiscard]] bool isInAddress(QStringView address) const {
+    return mAddress.isEmpty() ? isIn(address) : address.startsWith(mAddress);
+  }
+
+private:
+  QStringMatcher mMatcher;
+  QString mAddress; ///< empty when the word is none
+};
 
 } // namespace
 
@@ -104,7 +106,7 @@ public:
   Builder(Address_Rows& rows, const QStringList& words) : mRows(rows) {
     mWords.reserve(static_cast<size_t>(words.size()));
     for (const QString& word : words) {
-      mWords.emplace_back(word, Qt::CaseInsensitive);
+      mWords.emplace_back(word);
     }
   }
 
@@ -177,7 +179,7 @@ private:
     }
     const Order& order = mRows.mOrder;
     if (order.mColumn != cAddress) {
-      sortByText(list);
+      sortByColumn(list);
     }
     if (order.mIsDescending) {
       std::reverse(list.begin(), list.end());
@@ -186,8 +188,32 @@ private:
   }
 
   template <class Group>
-  void sortByText(std::vector<const Group*>& list) {
-    std::vector<std::pair<QString, const Group*>> keyed;
+  void sortByColumn(std::vector<const Group*>& list) {
+    if constexpr (std::is_same_v<Group, DB_Address_Sub_Group>) {
+      switch (mRows.mOrder.mColumn) {
+      case cType:
+        return sortBy(list, [](const Group& group) { return group.mDpt; });
+      case cReadAtStart:
+        return sortBy(list, [](const Group& group) { return !group.mReadAtStart; });
+      case cReadCyclic:
+        return sortBy(list, [](const Group& group) { return !group.mReadCyclic; });
+      case cWrite:
+        return sortBy(list, [](const Group& group) { return !group.mWrite; });
+      case cActive:
+        return sortBy(list, [](const Group& group) { return !group.mActive; });
+      case cOrigin:
+        return sortBy(list, [this](const Group& group) { return mCollator.sortKey(group.mOrigin); });
+      default:
+        break;
+      }
+    }
+    sortBy(list, [this](const Group& group) { return mCollator.sortKey(ownText(group, mRows.mOrder.mColumn)); });
+  }
+
+  template <class Group, class Key_Of>
+  static void sortBy(std::vector<const Group*>& list, Key_Of&& keyOf) {
+    using Key = decltype(keyOf(*list.front()));
+    std::vector<std::pair<Key, const Group*>> keyed;
     keyed.reserve(list.size());
     for (const Group* const group : list) {
       keyed.emplace_back(keyOf(*group), group);
@@ -196,38 +222,12 @@ private:
     std::transform(keyed.begin(), keyed.end(), list.begin(), [](const auto& pair) { return pair.second; });
   }
 
-  template <class Group>
-  [[nodiscard]] QString keyOf(const Group& group) const {
-    if constexpr (std::is_same_v<Group, DB_Address_Sub_Group>) {
-      const auto flag = [](bool isOn) { return isOn ? QStringLiteral("0") : QStringLiteral("1"); };
-      switch (mRows.mOrder.mColumn) {
-      case cType:
-        return QStringLiteral("%1.%2")
-            .arg(group.mDpt.mMain, 5, 10, QLatin1Char('0'))
-            .arg(group.mDpt.mSub + 1, 5, 10, QLatin1Char('0'));
-      case cReadAtStart:
-        return flag(group.mReadAtStart);
-      case cReadCyclic:
-        return flag(group.mReadCyclic);
-      case cWrite:
-        return flag(group.mWrite);
-      case cActive:
-        return flag(group.mActive);
-      case cOrigin:
-        return sortKey(group.mOrigin);
-      default:
-        break;
-      }
-    }
-    return sortKey(ownText(group, mRows.mOrder.mColumn));
-  }
-
   [[nodiscard]] bool passes(const Row& row) const {
-    return std::all_of(mWords.cbegin(), mWords.cend(), [&](const QStringMatcher& word) { return contains(row, word); });
+    return std::all_of(mWords.cbegin(), mWords.cend(), [&](const Word& word) { return contains(row, word); });
   }
 
-  [[nodiscard]] bool contains(const Row& row, const QStringMatcher& word) const {
-    const auto in = [&word](QStringView text) { return word.indexIn(text) >= 0; };
+  [[nodiscard]] bool contains(const Row& row, const Word& word) const {
+    const auto in = [&word](QStringView text) { return word.isIn(text); };
     const auto inOwn = [&in](const auto& group) { return in(group.mName) || in(group.mDescription); };
     Short_Text address;
     switch (row.mKind) {
@@ -235,14 +235,14 @@ private:
       address.add(row.mNumber);
       address.add(u'/');
       address.add(u'*');
-      return inOwn(recordOf<DB_Address_MainGroup>(row)) || in(address.view());
+      return inOwn(recordOf<DB_Address_MainGroup>(row)) || word.isInAddress(address.view());
     case Kind::Middle:
       address.add(row.mParent->mNumber);
       address.add(u'/');
       address.add(row.mNumber);
       address.add(u'/');
       address.add(u'*');
-      return inOwn(recordOf<DB_Address_Middle_Group>(row)) || in(address.view());
+      return inOwn(recordOf<DB_Address_Middle_Group>(row)) || word.isInAddress(address.view());
     case Kind::Sub: {
       const DB_Address_Sub_Group& sub = subOf(row);
       address.add(row.mParent->mParent->mNumber);
@@ -250,7 +250,8 @@ private:
       address.add(row.mParent->mNumber);
       address.add(u'/');
       address.add(row.mNumber);
-      return inOwn(sub) || in(address.view()) || in(typeText(sub.mDpt).view()) || in(sub.mOrigin);
+      return inOwn(sub) || word.isInAddress(address.view()) || in(typeText(sub.mDpt).view()) || in(sub.mOrigin) ||
+             (hasDoubtfulType(sub) && in(Address_Type_Text::shown(sub.mDpt, sub.mDptGuessed, sub.mDptRaw)));
     }
     default: {
       const Address_Usage::Variable& variable = mRows.mUsage->variables()[static_cast<size_t>(row.mNumber)];
@@ -260,7 +261,8 @@ private:
   }
 
   Address_Rows& mRows;
-  std::vector<QStringMatcher> mWords;
+  std::vector<Word> mWords;
+  QCollator mCollator = Text_Order::collator();
 };
 
 void Address_Rows::build(const ProjectDatabase& database, const Address_Usage& usage, const QStringList& words,

@@ -24,8 +24,8 @@ QString inOneLine(const QString& text) {
 
 /// What is told of a column, and the field that is edited in it.
 struct Column_Row {
-  const char* mTitle;
-  const char* mTip;
+  const char* mTitle = "";
+  const char* mTip = "";
   std::optional<Field> mField;
   bool DB_Address_Sub_Group::*mFlag = nullptr;
 };
@@ -282,6 +282,9 @@ Qt::ItemFlags Address_Tree_Model::flags(const QModelIndex& index) const {
 }
 
 QString Address_Tree_Model::whyNot(const QModelIndex& index, const QString& text) const {
+  if (!index.isValid()) {
+    return {}; // the row is gone under its editor
+  }
   if (index.column() == Address_Rows::cAddress) {
     return Address_Edits::checkNumber(mSession, keyOf(index), text).mError;
   }
@@ -345,15 +348,14 @@ QMimeData* Address_Tree_Model::mimeData(const QModelIndexList& indexes) const {
     }
   }
   auto* const data = new QMimeData;
-  data->setData(Address_Clipboard::mimeType(), Address_Clipboard::pack(mSession, keys, Address_Clipboard::Use::Move));
+  Address_Clipboard::fill(*data, mSession, keys, Address_Clipboard::Use::Move);
   return data;
 }
 
 bool Address_Tree_Model::canDropMimeData(const QMimeData* data, Qt::DropAction action, int, int,
                                          const QModelIndex& parent) const {
   const Row* const row = rowOf(parent);
-  return action == Qt::MoveAction && data->hasFormat(Address_Clipboard::mimeType()) && row && row->mRecord &&
-         Address_Clipboard::fits(mSession, data->data(Address_Clipboard::mimeType()), mRows.keyOf(*row));
+  return action == Qt::MoveAction && row && row->mRecord && Address_Clipboard::fits(mSession, *data, mRows.keyOf(*row));
 }
 
 bool Address_Tree_Model::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,

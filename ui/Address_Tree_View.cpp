@@ -9,6 +9,7 @@
 #include "ui/Address_Field_Dialog.h"
 #include "ui/Message_Box.h"
 #include "ui/Theme.h"
+#include "ui/Wait_Cursor.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -18,13 +19,12 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
 
 namespace {
 
 using Kind = Address_Rows::Kind;
-using Field = Address_Edits::Field;
-
-constexpr int cMostFaults = 10;
 
 struct Flag_Row {
   int mColumn;
@@ -38,23 +38,13 @@ constexpr Flag_Row cFlags[] = {
     {Address_Rows::cActive, QT_TRANSLATE_NOOP("Address_Tree_View", "&Aktiv")},
 };
 
-Field fieldOf(int column) {
-  switch (column) {
-  case Address_Rows::cDescription:
-    return Field::Description;
-  case Address_Rows::cType:
-    return Field::Type;
-  case Address_Rows::cReadAtStart:
-    return Field::ReadAtStart;
-  case Address_Rows::cReadCyclic:
-    return Field::ReadCyclic;
-  case Address_Rows::cWrite:
-    return Field::Write;
-  case Address_Rows::cActive:
-    return Field::Active;
-  default:
-    return Field::Name;
+/// Rows from the top level down: comparing them compares what stands higher in the tree.
+std::vector<int> placeOf(QModelIndex index) {
+  std::vector<int> place;
+  for (; index.isValid(); index = index.parent()) {
+    place.insert(place.begin(), index.row());
   }
+  return place;
 }
 
 } // namespace
@@ -129,7 +119,7 @@ void Address_Tree_View::updateCommands() {
                           });
   mAddMain->setEnabled(mayEdit);
   mAddMiddle->setEnabled(mayEdit && at.main() >= 0);
-  mAddSub->setEnabled(mayEdit && at.middle() >= 0);
+  mAddSub->setEnabled(mayEdit && at.main() >= 0);
   mPaste->setEnabled(mayEdit);
   for (QAction* const action : {mCut, mDelete, mSet}) {
     action->setEnabled(isEditable);
@@ -140,30 +130,35 @@ void Address_Tree_View::updateCommands() {
 void Address_Tree_View::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
   if (!editor->isHidden()) {
     Project_Tree_View::closeEditor(editor, hint);
+  } else if (hint != QAbstractItemDelegate::NoHint) {
+    setFocus(); // which the editor has lost to whatever came next
   }
 }
 
-// --- what is selected ---
-
-QList<QUuid> Address_Tree_View::selectedKeys() const {
-  const auto placeOf = [](QModelIndex index) {
-    std::vector<int> place;
-    for (; index.isValid(); index = index.parent()) {
-      place.insert(place.begin(), index.row());
-    }
-    return place;
-  };
-  std::vector<std::pair<std::vector<int>, QUuid>> placed;
-  for (const QModelIndex& index : selectionModel()->selectedRows()) {
-    if (const QUuid key = mModel.keyOf(index); !key.isNull()) {
-      placed.emplace_back(placeOf(index), key);
+/// In the order of the rows. Of thousands of rows there are few ranges.
+std::vector<QItemSelectionRange> Address_Tree_View::selectedRanges() const {
+  std::vector<std::pair<std::vector<int>, QItemSelectionRange>> placed;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    if (range.left() == 0) {
+      placed.emplace_back(placeOf(range.topLeft()), range);
     }
   }
   std::sort(placed.begin(), placed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::vector<QItemSelectionRange> ranges;
+  ranges.reserve(placed.size());
+  std::transform(placed.begin(), placed.end(), std::back_inserter(ranges),
+                 [](const auto& pair) { return pair.second; });
+  return ranges;
+}
+
+QList<QUuid> Address_Tree_View::selectedKeys() const {
   QList<QUuid> keys;
-  keys.reserve(static_cast<qsizetype>(placed.size()));
-  for (const auto& [place, key] : placed) {
-    keys.append(key);
+  for (const QItemSelectionRange& range : selectedRanges()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) {
+      if (const QUuid key = mModel.keyOf(mModel.index(row, 0, range.parent())); !key.isNull()) {
+        keys.append(key);
+      }
+    }
   }
   return keys;
 }
@@ -222,131 +217,6 @@ void Address_Tree_View::selectKeys(const QList<QUuid>& keys) {
   selectionModel()->select(selection, QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
-// --- commands ---
-
-bool Address_Tree_View::tell(const Edit_Result& result) {
-  if (!result) {
-    emit mModel.refused(result.mError);
-  }
-  return static_cast<bool>(result);
-}
-
-void Address_Tree_View::tellAdded(const Edit_Result& result, const QUuid& key) {
-  if (!tell(result)) {
-    return;
-  }
-  emit added(key);
-  showKey(key);
-  edit(mModel.indexOf(key).siblingAtColumn(Address_Rows::cName));
-}
-
-void Address_Tree_View::onAddMainGroup() {
-  QUuid key;
-  const int main = Address_Edits::freeMain(mSession, std::max(0, currentAddress().main() + 1));
-  tellAdded(main < 0 ? Edit_Result::refused(tr("Alle Hauptgruppen (0..31) sind vergeben."))
-                     : Address_Edits::addMainGroup(mSession, main, {}, &key),
-            key);
-}
-
-void Address_Tree_View::onAddMiddleGroup() {
-  QUuid key;
-  const Group_Address at = currentAddress();
-  const int middle = Address_Edits::freeMiddle(mSession, at.main(), std::max(0, at.middle() + 1));
-  tellAdded(middle < 0 ? Edit_Result::refused(tr("In der Hauptgruppe %1 sind alle Mittelgruppen (0..7) vergeben.")
-                                                  .arg(Group_Address::mainGroupText(at.main())))
-                       : Address_Edits::addMiddleGroup(mSession, at.main(), middle, {}, &key),
-            key);
-}
-
-void Address_Tree_View::onAddAddress() {
-  QUuid key;
-  const Group_Address at = currentAddress();
-  const int sub = Address_Edits::freeSub(mSession, at.main(), at.middle(), std::max(0, at.sub() + 1));
-  tellAdded(sub < 0 ? Edit_Result::refused(tr("In der Mittelgruppe %1 sind alle Adressen (0..255) vergeben.")
-                                               .arg(Group_Address::middleGroupText(at.main(), at.middle())))
-                    : Address_Edits::add(mSession, {at.main(), at.middle(), sub}, {}, &key),
-            key);
-}
-
-void Address_Tree_View::toClipboard(Address_Clipboard::Use use) {
-  auto* const data = new QMimeData;
-  data->setText(selectedText());
-  data->setData(Address_Clipboard::mimeType(), Address_Clipboard::pack(mSession, editedKeys(), use));
-  QGuiApplication::clipboard()->setMimeData(data);
-}
-
-void Address_Tree_View::onCopy() {
-  toClipboard(Address_Clipboard::Use::Copy);
-}
-
-void Address_Tree_View::onCut() {
-  toClipboard(Address_Clipboard::Use::Move);
-  emit info(tr("Ausgeschnitten: beim Einfügen werden die Adressen verschoben, Verknüpfungen folgen."));
-}
-
-void Address_Tree_View::onPaste() {
-  const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
-  const QUuid target = mModel.keyOf(currentIndex());
-  Address_Clipboard::Result result;
-  const bool isPacked = data && data->hasFormat(Address_Clipboard::mimeType());
-  const Edit_Result edit =
-      isPacked ? Address_Clipboard::paste(mSession, data->data(Address_Clipboard::mimeType()), target, result)
-               : Address_Table_Paste::paste(mSession, data ? data->text() : QString(), target, result);
-  if (!tell(edit)) {
-    return;
-  }
-  if (!result.mKeys.isEmpty()) {
-    emit added(result.mKeys.constFirst());
-    showKey(result.mKeys.constFirst());
-  }
-  emit info(tr("Eingefügt: %1 neu, %2 geändert, %3 verschoben.")
-                .arg(Decimal_Text::count(result.mAdded), Decimal_Text::count(result.mChanged),
-                     Decimal_Text::count(result.mMoved)));
-  if (!result.mFaults.isEmpty()) {
-    QStringList lines = result.mFaults.first(qMin(result.mFaults.size(), qsizetype(cMostFaults)));
-    if (result.mFaults.size() > cMostFaults) {
-      lines.append(tr("… und %1 weitere.").arg(Decimal_Text::count(result.mFaults.size() - cMostFaults)));
-    }
-    Message_Box::showMessage(this, tr("Nicht eingefügt: %1.").arg(Decimal_Text::count(result.mFaults.size())) +
-                                       QStringLiteral("\n\n") + lines.join(u'\n'));
-  }
-}
-
-void Address_Tree_View::onDelete() {
-  const QList<QUuid> keys = editedKeys();
-  const Address_Edits::Deletion deletion = Address_Edits::whatRemoves(mSession, keys, mModel.usage());
-  if (deletion.mUses > 0 &&
-      !Message_Box::askYesNo(this,
-                             tr("Zu löschende Adressen: %1. Auf sie zeigen Verknüpfungen: %2. Diese bleiben und "
-                                "zeigen dann auf keine Adresse mehr.\n\nTrotzdem löschen?")
-                                 .arg(Decimal_Text::count(deletion.mAddresses), Decimal_Text::count(deletion.mUses)))) {
-    return;
-  }
-  QModelIndex next = currentIndex();
-  const QItemSelectionModel* const selection = selectionModel();
-  while (next.isValid() && selection->isSelected(next)) {
-    next = indexBelow(next);
-  }
-  const QUuid nextKey = mModel.keyOf(next);
-  if (tell(Address_Edits::remove(mSession, keys))) {
-    showKey(nextKey);
-    emit info(tr("Gelöschte Adressen: %1.").arg(Decimal_Text::count(deletion.mAddresses)));
-  }
-}
-
-void Address_Tree_View::onSetText(int column) {
-  Address_Field_Dialog dialog(fieldOf(column), this);
-  const QString present = currentIndex().siblingAtColumn(column).data(Qt::EditRole).toString();
-  dialog.setText(present);
-  if (dialog.exec() == QDialog::Accepted && mSession.isOpen()) {
-    tell(Address_Edits::set(mSession, editedKeys(), fieldOf(column), dialog.text()));
-  }
-}
-
-void Address_Tree_View::onSetFlag(int column, bool isOn) {
-  tell(Address_Edits::set(mSession, editedKeys(), fieldOf(column), isOn));
-}
-
 void Address_Tree_View::onActivated(const QModelIndex& index) {
   if (mModel.kindOf(index) == Kind::Use) {
     emit pageChosen(mModel.useOf(index).mPageGuid);
@@ -355,7 +225,6 @@ void Address_Tree_View::onActivated(const QModelIndex& index) {
 
 void Address_Tree_View::onHeaderMenu(const QPoint& at) {
   QMenu menu(this);
-  menu.addSection(tr("Spalten"));
   for (int column = Address_Rows::cName; column < Address_Rows::cColumnCount; ++column) {
     const QString title = mModel.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
     QAction* const action = menu.addAction(title);
@@ -365,8 +234,6 @@ void Address_Tree_View::onHeaderMenu(const QPoint& at) {
   }
   menu.exec(header()->mapToGlobal(at));
 }
-
-// --- a new building of the rows ---
 
 void Address_Tree_View::onAboutToBeReset() {
   const QUuid current = mModel.keyOf(currentIndex());

@@ -4,9 +4,12 @@
 #include "db/Address_Clipboard.h"
 #include "ui/Project_Tree_View.h"
 
+#include <QItemSelection>
 #include <QList>
 #include <QSet>
 #include <QUuid>
+
+#include <vector>
 
 class Address_Tree_Model;
 class Project_Session;
@@ -23,8 +26,8 @@ public:
   /// Session and model outlive the view.
   Address_Tree_View(Project_Session& session, Address_Tree_Model& model, QWidget* parent = nullptr);
 
-  /// The commands that make something new.
-  [[nodiscard]] QList<QAction*> newCommands() const { return {mAddSub, mAddMiddle, mAddMain}; }
+  /// The commands that bring something new, which work in an empty tree, too.
+  [[nodiscard]] QList<QAction*> newCommands() const { return {mAddSub, mAddMiddle, mAddMain, mPaste}; }
 
   /// Selects the address or group and brings it into view; nothing when it is filtered out.
   void showKey(const QUuid& key);
@@ -32,6 +35,8 @@ public:
   [[nodiscard]] QList<QUuid> selectedKeys() const;
 
 signals:
+  /// A command was not done; the German text tells why.
+  void refused(const QString& text);
   /// Something was made and may be filtered out.
   void added(const QUuid& key);
   /// What a command did, in a sentence.
@@ -47,6 +52,8 @@ protected:
 private:
   /// In the order of the rows; those that are not shown are left out.
   void selectKeys(const QList<QUuid>& keys);
+  [[nodiscard]] std::vector<QItemSelectionRange> selectedRanges() const;
+  [[nodiscard]] QModelIndex besideSelection() const;
   void selectOnly(const QModelIndex& index);
   void addCommands();
   [[nodiscard]] QMenu* makeSetMenu();
@@ -70,6 +77,7 @@ private:
   void onDelete();
   void onSetText(int column);
   void onSetFlag(int column, bool isOn);
+  void setForSelected(int column, const QVariant& value);
 
   Project_Session& mSession;
   Address_Tree_Model& mModel;

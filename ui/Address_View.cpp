@@ -46,6 +46,7 @@ Address_View::Address_View(Project_Session& session, QWidget* parent)
       mTreeOrHint(new QStackedWidget),
       mTree(new Address_Tree_View(session, *mModel)),
       mNoHit(new Empty_Hint),
+      mNoAddress(new Empty_Hint),
       mCount(new QLabel) {
   mPages->setContentsMargins(0, 0, 0, 0);
   mPages->addWidget(mEmpty);
@@ -56,12 +57,13 @@ Address_View::Address_View(Project_Session& session, QWidget* parent)
   connect(&mFilterDelay, &QTimer::timeout, this, &Address_View::applyFilter);
   connect(mFilter, &QLineEdit::textChanged, &mFilterDelay, qOverload<>(&QTimer::start));
   connect(mFilter, &QLineEdit::returnPressed, this, &Address_View::enterTree);
-  connect(mEmpty, &Empty_Hint::stepRequested, this, &Address_View::importRequested);
+  connect(mNoAddress, &Empty_Hint::stepRequested, this, &Address_View::importRequested);
   connect(mModel, &QAbstractItemModel::modelReset, this, &Address_View::updateState);
   // A box in the middle of committing an editor would take its focus and commit it again.
   connect(mModel, &Address_Tree_Model::refused, this, &Address_View::refused, Qt::QueuedConnection);
   connect(mTree, &Address_Tree_View::added, this, &Address_View::showAddress);
   connect(mTree, &Address_Tree_View::info, this, &Address_View::info);
+  connect(mTree, &Address_Tree_View::refused, this, &Address_View::refused, Qt::QueuedConnection);
   connect(mTree, &Address_Tree_View::pageChosen, this, &Address_View::pageChosen);
   mModel->setBlockTypeName(FB_Types::name);
   connect(&session, &Project_Session::opened, this, &Address_View::updateState);
@@ -95,8 +97,13 @@ QWidget* Address_View::makeListPage() {
           [escape](const QString& text) { escape->setEnabled(!text.isEmpty()); });
 
   setUpColumns();
+  mEmpty->setText(tr("Kein Projekt ist geöffnet. Hier stehen die Gruppenadressen des Projekts."));
+  mNoAddress->setText(tr("Hier stehen die Gruppenadressen des Projekts. Sie kommen aus dem Export der ETS, aus einer "
+                         "Tabelle (mit + einfügen) oder werden mit + einzeln angelegt."));
+  mNoAddress->setStep(tr("Adressen &importieren…"));
   mTreeOrHint->addWidget(mTree);
   mTreeOrHint->addWidget(mNoHit);
+  mTreeOrHint->addWidget(mNoAddress);
 
   Theme::setTextRole(*mCount, Theme::Role::SecondaryText);
   mCount->setTextFormat(Qt::PlainText);
@@ -185,21 +192,17 @@ void Address_View::updateState() {
   const Address_Tree& tree = mSession.database().mAddresses;
   const qsizetype mains = tree.mainGroups().size();
   const qsizetype subs = tree.subGroupCount();
-  const bool isEmpty = mains == 0 && mModel->variableCount() == 0;
-  if (!mSession.isOpen()) {
-    mEmpty->setText(tr("Kein Projekt ist geöffnet. Hier stehen die Gruppenadressen des Projekts."));
-    mEmpty->setStep({});
-  } else if (isEmpty) {
+  mPages->setCurrentIndex(mSession.isOpen() ? 1 : 0);
+  if (mModel->rowCount() > 0) {
+    mTreeOrHint->setCurrentWidget(mTree);
+  } else if (mModel->isFiltered()) {
+    mNoHit->setText(tr("Keine Zeile enthält \"%1\".").arg(mFilter->text().simplified()));
+    mTreeOrHint->setCurrentWidget(mNoHit);
+  } else {
     const bool isLocked = mSession.state().operatingMode();
-    mEmpty->setText(tr("Hier stehen die Gruppenadressen des Projekts. Sie kommen aus dem Export der ETS."));
-    mEmpty->setStep(tr("Adressen &importieren…"));
-    mEmpty->setStepEnabled(!isLocked, isLocked ? Session_State::operatingModeRefusal() : QString());
+    mNoAddress->setStepEnabled(!isLocked, isLocked ? Session_State::operatingModeRefusal() : QString());
+    mTreeOrHint->setCurrentWidget(mNoAddress);
   }
-  mPages->setCurrentIndex(mSession.isOpen() && !isEmpty ? 1 : 0);
-
-  const bool isWithoutHit = mModel->isFiltered() && mModel->rowCount() == 0;
-  mNoHit->setText(tr("Keine Zeile enthält \"%1\".").arg(mFilter->text().simplified()));
-  mTreeOrHint->setCurrentIndex(isWithoutHit ? 1 : 0);
 
   if (mModel->isFiltered()) {
     mCount->setText(

@@ -60,6 +60,7 @@ private:
   QStackedWidget* mTreeOrHint;
   Address_Tree_View* mTree;
   Empty_Hint* mNoHit;
+  Empty_Hint* mNoAddress;
   QLabel* mCount;
   QTimer mFilterDelay;
 };

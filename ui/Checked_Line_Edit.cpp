@@ -1,6 +1,5 @@
 #include "ui/Checked_Line_Edit.h"
 
-#include <QCompleter>
 #include <QEvent>
 #include <QLabel>
 #include <QStyle>

@@ -7,9 +7,6 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QScreen>
-#include <QStringListModel>
-
-#include <algorithm>
 
 namespace {
 
@@ -18,7 +15,8 @@ constexpr int cListWidth = 320;
 
 /// Of "9.001 Temperatur (°C)" the number.
 QString numberIn(const QString& text) {
-  return text.trimmed().section(QLatin1Char(' '), 0, 0);
+  const QString first = text.trimmed().section(QLatin1Char(' '), 0, 0);
+  return Datapoint_Id::parse(first) ? first : text;
 }
 
 QStringList allTypes() {
@@ -57,10 +55,13 @@ bool Datapoint_Edit::mayShowReason() const {
 
 bool Datapoint_Edit::eventFilter(QObject* watched, QEvent* event) {
   QWidget* const list = completer()->popup();
-  if (watched == list && event->type() == QEvent::Show) {
+  if (watched == list &&
+      (event->type() == QEvent::Show || event->type() == QEvent::Resize || event->type() == QEvent::Move)) {
     // The toolkit places a list that is wider than its field beyond the screen.
     const int beyond = list->geometry().right() - screen()->availableGeometry().right();
-    list->move(list->x() - std::max(0, beyond), list->y());
+    if (beyond > 0) {
+      list->move(list->x() - beyond, list->y());
+    }
   }
   if (watched == list && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
     showReason();

@@ -4,6 +4,7 @@
 #include "ui/Named_Icon_Delegate.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -26,6 +27,10 @@ std::vector<int> placeOf(QModelIndex index) {
 }
 
 QString cellText(const QModelIndex& index) {
+  if (const QVariant check = index.data(Qt::CheckStateRole); check.isValid()) {
+    return check.toInt() == Qt::Checked ? QCoreApplication::translate("Project_Tree_View", "ja")
+                                        : QCoreApplication::translate("Project_Tree_View", "nein");
+  }
   static const QRegularExpression breaks(QStringLiteral("[\\t\\r\\n]+"));
   return index.data().toString().replace(breaks, QStringLiteral(" "));
 }

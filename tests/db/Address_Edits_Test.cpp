@@ -140,6 +140,8 @@ private slots:
         "cut", [](T& t) { return t.paste("1/2/3", Use::Move, "5/0/*"); },
         "0/0/1 Eins|1/2/4 Jalousie|1/3/3 Wind|5/0/0 Regen|5/0/3 Licht");
     refused(
+        "cut a main group", [](T& t) { return t.paste("5/*", Use::Move, ""); }, "steht für sich");
+    refused(
         "copy addresses into a main group", [](T& t) { return t.paste("1/2/3", Use::Copy, "5/*"); }, "Mittelgruppe");
     refused(
         "copy different levels", [](T& t) { return t.paste("1/2/3,1/3/*", Use::Copy, "5/*"); }, "nicht gemischt");

@@ -55,6 +55,28 @@ private slots:
     QVERIFY(!tree().subGroup(Group_Address(1, 2, 5)));
   }
 
+  void anEmptyProjectIsFilledByHand() {
+    cleanup();
+    mRig = std::make_unique<Session_Rig>();
+    QVERIFY(mRig->create());
+    mView = std::make_unique<Address_View>(mRig->mSession);
+    mView->resize(900, 500);
+    mView->show();
+    QVERIFY(QTest::qWaitForWindowActive(mView.get()));
+    mTree = mView->findChild<Address_Tree_View*>();
+    const auto command = [this](int index) { return mTree->newCommands().at(index); };
+    QVERIFY(!command(0)->isEnabled() && command(2)->isEnabled() && command(3)->isEnabled() && !mTree->isVisible());
+    QGuiApplication::clipboard()->setText(QStringLiteral("5/0/0\tRegen\n"));
+    command(3)->trigger(); // paste
+    QVERIFY(mTree->isVisible() && tree().subGroup(Group_Address(5, 0, 0)));
+    QVERIFY(mRig->mSession.history().undo());
+    QVERIFY(!mTree->isVisible());
+    command(2)->trigger(); // a main group, then an address in it
+    QVERIFY(mTree->isVisible() && tree().mainGroup(0));
+    command(0)->trigger();
+    QVERIFY(tree().subGroup(Group_Address(0, 0, 1)));
+  }
+
   void whatMayNotBeIsToldInPlaceAndNotTakenOver() {
     select({1, 2, 4});
     mTree->edit(mTree->currentIndex().siblingAtColumn(Address_Rows::cAddress));
@@ -72,6 +94,7 @@ private slots:
     editor()->selectAll();
     QTest::keyClicks(editor(), QStringLiteral("6/1/9"));
     QTest::keyClick(editor(), Qt::Key_Return);
+    QTRY_VERIFY(mTree->hasFocus());
     QTRY_VERIFY(tree().subGroup(Group_Address(6, 1, 9)) && !tree().subGroup(Group_Address(1, 2, 4)));
     QTRY_VERIFY(!mView->findChild<QLabel*>(QStringLiteral("ui:mReason")));
   }
@@ -154,15 +177,16 @@ private slots:
   }
 
   void everyLevelIsSorted() {
-    mRig->addAddress({1, 2, 9}, QStringLiteral("Äpfel"));
-    const std::pair<int, QStringList> cases[] = {{Address_Rows::cName, {"Äpfel", "Licht", "Reserve"}},
-                                                 {Address_Rows::cAddress, {"Licht", "Reserve", "Äpfel"}}};
+    mRig->addAddress({1, 2, 9}, QStringLiteral("Äpfel 10"));
+    mRig->addAddress({1, 2, 10}, QStringLiteral("äpfel 2"));
+    const std::pair<int, QStringList> cases[] = {{Address_Rows::cName, {"äpfel 2", "Äpfel 10", "Licht", "Reserve"}},
+                                                 {Address_Rows::cAddress, {"Licht", "Reserve", "Äpfel 10", "äpfel 2"}}};
     for (const auto& [column, names] : cases) {
       for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
         mTree->sortByColumn(column, order);
         QStringList shown;
         const QModelIndex group = indexOf({1, 2, 3}).parent();
-        for (int row = 0; row < 3; ++row) {
+        for (int row = 0; row < 4; ++row) {
           shown.append(group.model()->index(row, Address_Rows::cName, group).data().toString());
         }
         if (order == Qt::DescendingOrder) {
