@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -39,6 +40,21 @@ bool tellsFlags(const Ets_Groups& groups) {
   return groups.mFormat == Ets_Groups::Format::Xml ||
          std::any_of(groups.mAddresses.begin(), groups.mAddresses.end(), isFlagged);
 }
+
+/// Of an address that a broken file names over and over; nobody decides between more.
+constexpr size_t cVariantLimit = 20;
+
+/// For finding what an earlier entry told already.
+struct Content {
+  Address_Import_Row::Values mValues;
+
+  friend bool operator==(const Content& a, const Content& b) { return !a.mValues.differenceTo(b.mValues); }
+  friend size_t qHash(const Content& content, size_t seed = 0) {
+    const Address_Import_Row::Values& values = content.mValues;
+    return qHashMulti(seed, values.mName, values.mDescription, values.mDpt.mMain, values.mDpt.mSub, values.mDptGuessed,
+                      values.mCentral, values.mUnfiltered, values.mSecurity);
+  }
+};
 
 /// For finding what only its number tells apart.
 std::pair<QString, int> nameAndFormat(const Address_Import_Row::Values& values) {
@@ -93,18 +109,28 @@ void Address_Comparison::compareAddress(const std::vector<const Ets_Groups::Addr
   const Values was = present ? Values::of(*present) : Values();
   std::vector<Variant> variants;
   std::vector<int> lines;
+  QSet<Content> told;
   for (const Ets_Groups::Address* const entry : entries) {
-    const Values values = incoming(*entry, present ? &was : nullptr);
-    const auto isSame = [&values](const Variant& variant) { return !variant.mValues.differenceTo(values); };
-    if (std::any_of(variants.begin(), variants.end(), isSame)) {
-      ++mRepeated;
-    } else {
-      variants.push_back({values, entry});
+    Variant variant{incoming(*entry, present ? &was : nullptr), entry};
+    if (entries.size() > 1) {
+      const qsizetype before = told.size();
+      told.insert({variant.mValues});
+      if (told.size() == before) {
+        ++mRepeated;
+        continue;
+      }
+    }
+    if (variants.size() < cVariantLimit) {
+      variants.push_back(std::move(variant));
       lines.push_back(entry->mLine);
     }
   }
+  const qsizetype further = told.size() - static_cast<qsizetype>(variants.size());
   for (const Variant& variant : variants) {
-    const QString note = variants.size() > 1 ? Notes::variant(*variant.mEntry, lines) : QString();
+    QString note = variants.size() > 1 ? Notes::variant(*variant.mEntry, lines) : QString();
+    if (further > 0 && &variant == &variants.back()) {
+      Notes::add(note, Notes::further(further));
+    }
     if (present) {
       addPresent(variant, *present, note);
     } else {

@@ -1,5 +1,7 @@
 #include "db/Address_Import_Notes.h"
 
+#include "base/Decimal_Text.h"
+
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -30,14 +32,21 @@ QString Address_Import_Notes::variant(const Ets_Groups::Address& entry, const st
   constexpr qsizetype cShownLines = 5;
   QStringList others;
   for (const int line : lines) {
-    if (line != entry.mLine) {
-      others.append(QString::number(line));
+    if (line == entry.mLine) {
+      continue;
     }
-  }
-  if (others.size() > cShownLines) {
-    others = others.first(cShownLines) + QStringList(QStringLiteral("…"));
+    if (others.size() == cShownLines) {
+      others.append(QStringLiteral("…"));
+      break;
+    }
+    others.append(QString::number(line));
   }
   return tr("Zeile %1, anders in Zeile %2.").arg(entry.mLine).arg(others.join(QStringLiteral(", ")));
+}
+
+QString Address_Import_Notes::further(qsizetype count) {
+  return count == 1 ? tr("… und 1 weiterer verschiedener Eintrag.")
+                    : tr("… und %1 weitere verschiedene Einträge.").arg(Decimal_Text::count(count));
 }
 
 QString Address_Import_Notes::flags(const Address_Import_Row& row) {

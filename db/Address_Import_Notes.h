@@ -17,6 +17,8 @@ void add(QString& note, const QString& further);
 [[nodiscard]] QString uses(int uses);
 /// Where else the file names the address, with another content; `lines` are those of all of them.
 [[nodiscard]] QString variant(const Ets_Groups::Address& entry, const std::vector<int>& lines);
+/// Behind the last variant that is shown: how many there are beyond it.
+[[nodiscard]] QString further(qsizetype count);
 /// What differs and has no column of its own in the table.
 [[nodiscard]] QString flags(const Address_Import_Row& row);
 

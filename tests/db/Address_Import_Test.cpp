@@ -1,7 +1,10 @@
+#include "base/Decimal_Text.h"
 #include "db/Address_Import.h"
 #include "db/Ets_Reader.h"
 #include "tests/db/Project_Dump.h"
 #include "tests/db/Session_Rig.h"
+
+#include <QElapsedTimer>
 
 using namespace Qt::StringLiterals;
 using Connected = Address_Import::Connected;
@@ -224,6 +227,32 @@ private slots:
     Address_Import::Result result;
     QVERIFY(Address_Import::apply(rig.mSession, plan, result));
     QCOMPARE(rig.tree().subGroup(rig.mBound)->mName, u"B"_s);
+  }
+
+  /// Broken exports name one address over and over; the window must not stand still for them.
+  void manyVariantsAreCountedNotShown() {
+    Import_Rig rig;
+    Ets_Groups groups = same();
+    for (int i = 0; i < 100'000; ++i) {
+      groups.mAddresses.push_back(entry(u"1/1/1"_s, u"L"_s + QString::number(i % 50'000), u"1.001"_s));
+      groups.mAddresses.back().mLine = 10 + i;
+    }
+    QElapsedTimer timer;
+    timer.start();
+    Address_Import_Plan plan = rig.compare(groups);
+    for (qsizetype i = 0; i < plan.size(); ++i) {
+      plan.setTicked(i, true);
+    }
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(plan.size(), 20);
+    QCOMPARE(plan.count(Kind::Conflict), 20);
+    QCOMPARE(plan.repeatedCount(), 50'000);
+    QCOMPARE(plan.tickedCount(), 1);
+    QVERIFY2(plan.row(1).mNote.startsWith(u"Zeile 10, anders in Zeile 0, 11, 12, 13, 14, …."),
+             qPrintable(plan.row(1).mNote));
+    QVERIFY(!plan.row(18).mNote.contains(u"weitere"));
+    QVERIFY2(plan.row(19).mNote.endsWith(u"… und 49.981 weitere verschiedene Einträge."),
+             qPrintable(plan.row(19).mNote));
   }
 
   void whatIsWrittenOfANewAddress() {
