@@ -3,6 +3,7 @@
 #include "base/Datapoint_Types.h"
 #include "db/Address_Import_Notes.h"
 #include "db/DB_Text.h"
+#include "db/Ets_Esf_Types.h"
 #include "db/ProjectDatabase.h"
 
 #include <QCoreApplication>
@@ -21,7 +22,11 @@ QString tr(const char* text) {
   return QCoreApplication::translate("Address_Import", text);
 }
 
-using Datapoint_Types::bitsOf;
+/// Where the table of types does not know the size, the one that an ESF tells of such a type. 0 when neither does.
+int bitsOf(const Datapoint_Id& type) {
+  const int bits = Datapoint_Types::bitsOf(type);
+  return bits > 0 ? bits : Datapoint_Types::bitsOf(Ets_Esf_Types::typeOf(Ets_Esf_Types::textOf(type), {}));
+}
 
 bool changesSize(const Datapoint_Id& from, const Datapoint_Id& to) {
   return bitsOf(from) > 0 && bitsOf(to) > 0 && bitsOf(from) != bitsOf(to);
@@ -188,7 +193,8 @@ bool Address_Comparison::keepsType(const Values& incoming, const Values& present
     return false;
   }
   const bool isSame = incoming.mDpt == present.mDpt && incoming.mDptGuessed == present.mDptGuessed;
-  const bool isOnlyGuess = incoming.mDptGuessed && bitsOf(incoming.mDpt) == bitsOf(present.mDpt);
+  const bool isOnlyGuess =
+      incoming.mDptGuessed && (bitsOf(present.mDpt) == 0 || bitsOf(incoming.mDpt) == bitsOf(present.mDpt));
   return mOptions.mKeepType || isSame || isOnlyGuess;
 }
 

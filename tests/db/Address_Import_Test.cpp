@@ -1,5 +1,7 @@
+#include "base/Datapoint_Types.h"
 #include "base/Decimal_Text.h"
 #include "db/Address_Import.h"
+#include "db/Ets_Export.h"
 #include "db/Ets_Reader.h"
 #include "tests/db/Project_Dump.h"
 #include "tests/db/Session_Rig.h"
@@ -227,6 +229,54 @@ private slots:
     Address_Import::Result result;
     QVERIFY(Address_Import::apply(rig.mSession, plan, result));
     QCOMPARE(rig.tree().subGroup(rig.mBound)->mName, u"B"_s);
+  }
+
+  void noTypeIsLostByWayOfEsf() {
+    Session_Rig rig;
+    QVERIFY(rig.create());
+    int number = 1;
+    std::vector<Datapoint_Id> types{{25, 1000}, {30, 1010}, {244, 600}, {245, 600}, {999, 1}};
+    for (const Datapoint_Type& type : Datapoint_Types::all()) {
+      types.push_back(type.mId);
+      if (types.back().mSub == 1) {
+        types.push_back({type.mId.mMain, Datapoint_Id::cAnySub});
+      }
+    }
+    for (const Datapoint_Id& type : types) {
+      rig.addAddress(Group_Address::fromNumber(quint16(number++)), type.toString())->mDpt = type;
+    }
+    Ets_Write_Result written;
+    QVERIFY(Ets_Export::write(rig.mSession, rig.path(u"export.esf"_s), written));
+    QFile file(rig.path(u"export.esf"_s));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    Ets_Groups groups;
+    QString error;
+    QVERIFY2(Ets_Reader::read(file, {}, groups, error), qPrintable(error));
+    QCOMPARE(groups.mAddresses.size(), types.size());
+    const Address_Import_Plan plan = Address_Import::compare(rig.mSession.database(), groups);
+    QCOMPARE(summary(plan), QString());
+  }
+
+  /// The size of these is told by what an ESF says of them alone.
+  void guessOfAnotherSize_data() {
+    QTest::addColumn<QString>("present");
+    QTest::addColumn<QString>("guess");
+    QTest::addColumn<QString>("rows");
+    QTest::newRow("25.1000, same size") << u"25.1000"_s << u"5.001"_s << QString();
+    QTest::newRow("244, same size") << u"244"_s << u"9.001"_s << QString();
+    QTest::newRow("244, other size") << u"244"_s << u"1.001"_s << u"C+ 1/1/2 t"_s;
+    QTest::newRow("245, of a size without a guess") << u"245.600"_s << u"1.001"_s << QString();
+    QTest::newRow("unknown") << u"999.001"_s << u"1.001"_s << QString();
+  }
+
+  void guessOfAnotherSize() {
+    QFETCH(QString, present);
+    QFETCH(QString, guess);
+    Import_Rig rig;
+    rig.tree().subGroup({1, 1, 2})->mDpt = Datapoint_Id::parse(present).value();
+    Ets_Groups groups = same();
+    groups.mAddresses[1] = entry(u"1/1/2"_s, u"Wert"_s, guess, true);
+    QTEST(summary(rig.compare(groups)), "rows");
   }
 
   /// Broken exports name one address over and over; the window must not stand still for them.
