@@ -1,6 +1,7 @@
 #include "db/Address_Comparison.h"
 
 #include "base/Datapoint_Types.h"
+#include "db/Address_Import_Limits.h"
 #include "db/Address_Import_Notes.h"
 #include "db/DB_Text.h"
 #include "db/Ets_Esf_Types.h"
@@ -116,7 +117,7 @@ void Address_Comparison::compareAddress(const std::vector<const Ets_Groups::Addr
   std::vector<int> lines;
   QSet<Content> told;
   for (const Ets_Groups::Address* const entry : entries) {
-    Variant variant{incoming(*entry, present ? &was : nullptr), entry};
+    Variant variant = incoming(*entry, present ? &was : nullptr);
     if (entries.size() > 1) {
       const qsizetype before = told.size();
       told.insert({variant.mValues});
@@ -144,7 +145,8 @@ void Address_Comparison::compareAddress(const std::vector<const Ets_Groups::Addr
   }
 }
 
-Address_Comparison::Values Address_Comparison::incoming(const Ets_Groups::Address& entry, const Values* present) const {
+Address_Comparison::Variant Address_Comparison::incoming(const Ets_Groups::Address& entry,
+                                                         const Values* present) const {
   Values values{DB_Text::singleLine(entry.mName),
                 DB_Text::clean(entry.mDescription),
                 entry.mDpt,
@@ -156,10 +158,13 @@ Address_Comparison::Values Address_Comparison::incoming(const Ets_Groups::Addres
   if (present) {
     keepPresent(values, *present);
   }
-  if (!present || (!mOptions.mKeepComment && values.differenceTo(*present))) {
+  const Values was = present ? *present : Values();
+  QString note = Address_Import_Limits::shorten(values, was);
+  if (!present || (!mOptions.mKeepComment && values.differenceTo(was))) {
     addConnected(values.mDescription, entry.mConnected);
+    Notes::add(note, Address_Import_Limits::shorten(values, was));
   }
-  return values;
+  return {values, &entry, note};
 }
 
 void Address_Comparison::keepPresent(Values& values, const Values& present) const {
@@ -218,6 +223,7 @@ void Address_Comparison::addNew(const Variant& variant, const QString& note) {
   row.mAddress = entry.mAddress;
   row.mIncoming = variant.mValues;
   row.mNote = note;
+  Notes::add(row.mNote, variant.mNote);
   row.mTicked = row.mKind == Kind::New;
   row.mForeignText = entry.mStyle != Ets_Groups::Style::ThreeLevel ? DB_Text::singleLine(entry.mText) : QString();
   row.mRangePath = DB_Text::singleLine(entry.mRangePath);
@@ -250,6 +256,7 @@ void Address_Comparison::addPresent(const Variant& variant, const DB_Address_Sub
   if (!row.mDiffering) {
     Notes::add(row.mNote, tr("So steht es im Projekt."));
   }
+  Notes::add(row.mNote, variant.mNote);
   Notes::add(row.mNote, Notes::flags(row));
   row.mKind = !note.isEmpty() || (isResized && row.mUses > 0) ? Kind::Conflict : Kind::Changed;
   row.mTicked = row.mKind == Kind::Changed;

@@ -27,12 +27,13 @@ private:
   struct Variant {
     Values mValues;
     const Ets_Groups::Address* mEntry = nullptr;
+    QString mNote; ///< what is told of its values
   };
 
   void compareAddresses();
   void compareAddress(const std::vector<const Ets_Groups::Address*>& entries);
   /// `present` is null for a new address.
-  [[nodiscard]] Values incoming(const Ets_Groups::Address& entry, const Values* present) const;
+  [[nodiscard]] Variant incoming(const Ets_Groups::Address& entry, const Values* present) const;
   void keepPresent(Values& values, const Values& present) const;
   [[nodiscard]] bool keepsType(const Values& incoming, const Values& present) const;
   void addConnected(QString& description, const QStringList& connected) const;

@@ -1,5 +1,6 @@
 #include "db/Address_Group_Comparison.h"
 
+#include "db/Address_Import_Limits.h"
 #include "db/DB_Text.h"
 #include "db/ProjectDatabase.h"
 
@@ -82,6 +83,9 @@ void Address_Group_Comparison::compare(Level level, const Group_Address& address
     if (isKept || tellsNone || DB_Text::isSameLine(name.mDescription, present->mDescription)) {
       row.mIncoming.mDescription = present->mDescription;
     }
+  }
+  row.mNote = Address_Import_Limits::shorten(row.mIncoming, row.mPresent);
+  if (present) {
     row.mDiffering = row.mPresent.differenceTo(row.mIncoming);
     if (!row.mDiffering) {
       ++unchanged;

@@ -231,6 +231,29 @@ private slots:
     QCOMPARE(rig.tree().subGroup(rig.mBound)->mName, u"B"_s);
   }
 
+  void longTextsAreCutAsInEveryEdit() {
+    Import_Rig rig;
+    const QString smile = QString::fromUcs4(U"\U0001F600", 1);
+    const QString longLine = QString(254, u'n') + smile + u"rest"_s;
+    Ets_Groups groups = same();
+    groups.mRanges[0].mName = longLine;
+    groups.mAddresses[0].mName = longLine;
+    groups.mAddresses[1].mDescription = u"Keller"_s;
+    groups.mAddresses.push_back(entry(u"1/1/9"_s, u"neu"_s));
+    groups.mAddresses.back().mDescription = QString(5000, u'd');
+    const Address_Import_Plan plan = rig.compare(groups);
+    QCOMPARE(summary(plan), u"C+ 1/* n, C+ 1/1/1 n, N+ 1/1/9"_s);
+    const QString cutName = u"Der Name wurde auf 255 Zeichen gekürzt."_s;
+    QCOMPARE(plan.row(0).mNote, cutName);
+    QCOMPARE(plan.row(1).mNote, cutName);
+    QCOMPARE(plan.row(1).mIncoming.mName, QString(254, u'n'));
+    QVERIFY(plan.row(2).mNote.startsWith(u"Die Beschreibung wurde auf "));
+    Address_Import::Result result;
+    QVERIFY(Address_Import::apply(rig.mSession, plan, result));
+    QCOMPARE(rig.tree().subGroup({1, 1, 9})->mDescription.size(), qsizetype(4000));
+    QCOMPARE(summary(rig.compare(groups)), QString());
+  }
+
   void noTypeIsLostByWayOfEsf() {
     Session_Rig rig;
     QVERIFY(rig.create());
