@@ -162,7 +162,9 @@ Address_Comparison::Variant Address_Comparison::incoming(const Ets_Groups::Addre
   QString note = Address_Import_Limits::shorten(values, was);
   if (!present || (!mOptions.mKeepComment && values.differenceTo(was))) {
     addConnected(values.mDescription, entry.mConnected);
-    Notes::add(note, Address_Import_Limits::shorten(values, was));
+    if (const QString cut = Address_Import_Limits::shorten(values, was); !note.endsWith(cut)) {
+      Notes::add(note, cut);
+    }
   }
   return {values, &entry, note};
 }
@@ -223,6 +225,9 @@ void Address_Comparison::addNew(const Variant& variant, const QString& note) {
   row.mAddress = entry.mAddress;
   row.mIncoming = variant.mValues;
   row.mNote = note;
+  if (row.mIncoming.mDpt.isNone() && !row.mIncoming.mDptRaw.isEmpty()) {
+    Notes::add(row.mNote, tr("Der Typ ist in der Datei unbekannt."));
+  }
   Notes::add(row.mNote, variant.mNote);
   row.mTicked = row.mKind == Kind::New;
   row.mForeignText = entry.mStyle != Ets_Groups::Style::ThreeLevel ? DB_Text::singleLine(entry.mText) : QString();

@@ -254,6 +254,20 @@ private slots:
     QCOMPARE(summary(rig.compare(groups)), QString());
   }
 
+  void unknownTypeIsNoChangeAndToldOfWhatIsNew() {
+    Import_Rig rig;
+    Ets_Groups groups = same();
+    groups.mFormat = Format::Esf;
+    groups.mAddresses[3].mDpts = u"Unknown"_s;
+    groups.mAddresses.push_back(entry(u"1/1/9"_s, u"neu"_s));
+    groups.mAddresses.back().mDpts = u"Unknown"_s;
+    groups.mAddresses.push_back(entry(u"1/1/10"_s, u"ohne"_s));
+    const Address_Import_Plan plan = rig.compare(groups);
+    QCOMPARE(summary(plan), u"N+ 1/1/9, N+ 1/1/10"_s);
+    QCOMPARE(plan.row(0).mNote, u"Der Typ ist in der Datei unbekannt."_s);
+    QCOMPARE(plan.row(1).mNote, QString());
+  }
+
   void noTypeIsLostByWayOfEsf() {
     Session_Rig rig;
     QVERIFY(rig.create());
