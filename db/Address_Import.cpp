@@ -32,7 +32,7 @@ public:
     mTree.beginChange();
     for (const Address_Import_Row& row : plan.rows()) {
       if (row.mTicked) {
-        ++(apply(row) ? counterOf(row) : mResult.mSkipped);
+        mResult.mSkipped += apply(row) ? 0 : 1;
       }
     }
     mTree.endChange();
@@ -48,13 +48,7 @@ private:
     }
   }
 
-  [[nodiscard]] int& counterOf(const Address_Import_Row& row) {
-    if (row.mKind == Kind::Vanished) {
-      return mResult.mDeleted;
-    }
-    return row.mKey.isNull() ? mResult.mNew : mResult.mChanged;
-  }
-
+  /// Counts what it does.
   [[nodiscard]] bool apply(const Address_Import_Row& row) {
     switch (row.mLevel) {
     case Level::MainGroup:
@@ -85,6 +79,7 @@ private:
       return false;
     }
     mScope.modified(mUndo, row.mKey);
+    ++mResult.mGroupsChanged;
     return mTree.change(row.mKey, [&row](DB_Data_Base& record) {
       auto& group = static_cast<Group&>(record);
       group.mName = row.mIncoming.mName;
@@ -106,9 +101,11 @@ private:
     }
     if (row.mKind == Kind::Vanished) {
       mScope.deleted(mUndo, row.mKey);
+      ++mResult.mDeleted;
       return mTree.take(row.mKey) != nullptr;
     }
     mScope.modified(mUndo, row.mKey);
+    ++mResult.mChanged;
     return mTree.change(
         row.mKey, [&row](DB_Data_Base& record) { row.mIncoming.applyTo(static_cast<DB_Address_Sub_Group&>(record)); });
   }
@@ -121,6 +118,7 @@ private:
     row.mIncoming.applyTo(*group);
     group->mOrigin = originOf(row, *mTree.mainGroup(middle.mMainKey), middle);
     mScope.created(mUndo, mTree.add(std::move(group))->mKey);
+    ++mResult.mNew;
   }
 
   /// What of the export's own structure the three levels cannot show: another way of writing, further ranges.
@@ -160,6 +158,7 @@ private:
     group->mDescription = values.mDescription;
     Group* const added = mTree.add(std::move(group));
     mScope.created(mUndo, added->mKey);
+    ++mResult.mGroupsNew;
     return *added;
   }
 
@@ -175,12 +174,22 @@ private:
 
 QString Address_Import::Result::toString() const {
   QStringList parts;
-  for (const auto& [count, text] :
-       {std::pair(mNew, tr("%1 neu")), std::pair(mChanged, tr("%1 geändert")), std::pair(mDeleted, tr("%1 gelöscht")),
-        std::pair(mSkipped, tr("%1 ausgelassen, weil sich das Projekt inzwischen änderte"))}) {
-    if (count > 0) {
-      parts.append(text.arg(Decimal_Text::count(count)));
+  // What is counted is named once, with the first of its numbers.
+  const auto add = [&parts](const QString& one, const QString& many, const auto&... counts) {
+    bool isNamed = false;
+    for (const auto& [count, text] : {counts...}) {
+      if (count > 0) {
+        const QString noun = isNamed ? QString() : u' ' + (count == 1 ? one : many);
+        parts.append(Decimal_Text::count(count) + noun + u' ' + text);
+        isNamed = true;
+      }
     }
+  };
+  add(tr("Adresse"), tr("Adressen"), std::pair(mNew, tr("neu")), std::pair(mChanged, tr("geändert")),
+      std::pair(mDeleted, tr("gelöscht")));
+  add(tr("Gruppe"), tr("Gruppen"), std::pair(mGroupsNew, tr("neu")), std::pair(mGroupsChanged, tr("geändert")));
+  if (mSkipped > 0) {
+    parts.append(tr("%1 ausgelassen, weil sich das Projekt inzwischen änderte").arg(Decimal_Text::count(mSkipped)));
   }
   return parts.isEmpty() ? tr("nichts geändert") : parts.join(QStringLiteral(", "));
 }

@@ -272,7 +272,7 @@ QVariant Address_Import_Model::headerData(int section, Qt::Orientation orientati
   case cAddress:
     return tr("Adresse");
   case cKind:
-    return tr("Was");
+    return tr("Art");
   case cNamePresent:
     return tr("Name jetzt");
   case cNameIncoming:

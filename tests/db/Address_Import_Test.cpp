@@ -183,7 +183,8 @@ private slots:
     const QByteArray before = rig.dump();
     Address_Import::Result result;
     QVERIFY(Address_Import::apply(rig.mSession, plan, result));
-    QCOMPARE(result.mNew + result.mChanged + result.mDeleted, plan.tickedCount());
+    const int inGroups = result.mGroupsNew + result.mGroupsChanged;
+    QVERIFY(result.mNew + result.mChanged + result.mDeleted + inGroups == plan.tickedCount());
     const QByteArray after = rig.dump();
     QCOMPARE(rig.mSession.history().position(), size_t(plan.tickedCount() > 0));
     QCOMPARE(rig.compare(groups, options).tickedCount(), 0);
@@ -350,18 +351,23 @@ private slots:
     far.mRangePath = u"Halle / Tor"_s;
     far.mDescription = u"alt"_s;
     far.mConnected = {u"1/1/1"_s, u"1/1/2"_s};
+    groups.mAddresses[1].mDescription = u"Keller"_s;
     groups.mAddresses.push_back(far);
     Address_Import_Plan plan = rig.compare(groups, {.mConnected = Connected::Describe});
     plan.setTicked(0, false); // the main group is made all the same
     Address_Import::Result result;
     QVERIFY(Address_Import::apply(rig.mSession, plan, result));
+    QCOMPARE(result.toString(), u"1 Adresse neu, 2 Gruppen neu"_s);
     const DB_Address_Sub_Group* const made = rig.tree().subGroup({5, 2, 3});
     QVERIFY(made && made->mDptGuessed && made->mWrite && made->mActive);
     QCOMPARE(made->mDescription, u"alt\nVerbunden mit: 1/1/1, 1/1/2"_s);
     QCOMPARE(made->mOrigin, u"5/515, Halle / Tor"_s);
     // A second import with other words puts the line anew.
     groups.mAddresses.back().mDescription = u"neu"_s;
+    groups.mAddresses[0].mName = u"Lampe"_s;
+    groups.mRanges[0].mName = u"Hof"_s;
     QVERIFY(Address_Import::apply(rig.mSession, rig.compare(groups, {.mConnected = Connected::Describe}), result));
+    QCOMPARE(result.toString(), u"2 Adressen geändert, 1 Gruppe geändert"_s);
     QCOMPARE(made->mDescription, u"neu\nVerbunden mit: 1/1/1, 1/1/2"_s);
   }
 
