@@ -223,6 +223,7 @@ void Address_Comparison::addNew(const Variant& variant, const QString& note) {
   Row row;
   row.mKind = note.isEmpty() ? Kind::New : Kind::Conflict;
   row.mAddress = entry.mAddress;
+  row.mLine = entry.mLine;
   row.mIncoming = variant.mValues;
   row.mNote = note;
   if (row.mIncoming.mDpt.isNone() && !row.mIncoming.mDptRaw.isEmpty()) {
@@ -239,6 +240,7 @@ void Address_Comparison::addNew(const Variant& variant, const QString& note) {
 void Address_Comparison::addPresent(const Variant& variant, const DB_Address_Sub_Group& present, const QString& note) {
   Row row;
   row.mAddress = variant.mEntry->mAddress;
+  row.mLine = variant.mEntry->mLine;
   row.mKey = present.mKey;
   row.mPresent = Values::of(present);
   row.mIncoming = variant.mValues;

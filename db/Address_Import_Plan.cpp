@@ -8,7 +8,8 @@ Address_Import_Plan::Address_Import_Plan(std::vector<Address_Import_Row> rows, i
       mRepeated(repeated) {
   // Variants of one address keep the order of the file.
   std::stable_sort(mRows.begin(), mRows.end(), Address_Import_Row::isBefore);
-  for (const Address_Import_Row& row : mRows) {
+  for (Address_Import_Row& row : mRows) {
+    row.mTickedFirst = row.mTicked;
     ++mCounts[static_cast<size_t>(row.mKind)];
     mTicked[static_cast<size_t>(row.mKind)] += row.mTicked ? 1 : 0;
   }

@@ -47,7 +47,9 @@ struct Address_Import_Row {
   Fields mDiffering;      ///< none where there is nothing to compare
   QString mNote;          ///< German, may be empty
   int mUses = 0;          ///< pins and elements that are bound to it
+  int mLine = 0;          ///< where the file says this of the address; tells variants apart
   bool mTicked = false;
+  bool mTickedFirst = false; ///< by the comparison
 
   /// For a new address, as its record tells it: how the file writes it when not in three levels, and the names of the
   /// ranges around it.

@@ -96,7 +96,7 @@ Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Setti
   layout->addWidget(makeButtons());
   mCancel->setDefault(true); // it has to stand in the dialog for that
 
-  connect(mOptions, &Address_Import_Settings::optionsChanged, this, &Address_Import_Dialog::compare);
+  connect(mOptions, &Address_Import_Settings::optionsChanged, this, &Address_Import_Dialog::onOptionsChanged);
   connect(mOptions, &Address_Import_Settings::readerOptionsChanged, this, &Address_Import_Dialog::read);
   connect(mReading, &Ets_Reading::finished, this, &Address_Import_Dialog::onRead);
   connect(mPreview, &Address_Import_Preview::ticksChanged, this, &Address_Import_Dialog::updateButtons);
@@ -253,6 +253,8 @@ void Address_Import_Dialog::load(const QString& path) {
   mLoaded = QDir::cleanPath(QFileInfo(trimmed).absoluteFilePath());
   mFolder = QFileInfo(mLoaded).absolutePath();
   mPath->setText(QDir::toNativeSeparators(mLoaded));
+  mGroups = nullptr;
+  mChoices.clear();
   read();
 }
 
@@ -279,6 +281,7 @@ void Address_Import_Dialog::onRead(const std::shared_ptr<const Ets_Groups>& grou
   mProgressTick.stop();
   const bool hadFocus = mStopReading->hasFocus();
   mPages->setCurrentIndex(0);
+  noteChoices();
   mGroups = error.isEmpty() ? groups : nullptr;
   if (mGroups) {
     mFileInfo->setText(formatText(mGroups->mFormat));
@@ -299,13 +302,27 @@ void Address_Import_Dialog::onRead(const std::shared_ptr<const Ets_Groups>& grou
   updateButtons();
 }
 
+/// Ticks set by hand outlive another comparison of the same file.
+void Address_Import_Dialog::noteChoices() {
+  if (mGroups) {
+    mChoices.note(mPreview->plan());
+  }
+}
+
+void Address_Import_Dialog::onOptionsChanged() {
+  noteChoices();
+  compare();
+}
+
 void Address_Import_Dialog::compare() {
   if (!mGroups || !mSession.isOpen()) {
     return;
   }
   setError({});
   QApplication::setOverrideCursor(Qt::WaitCursor);
-  mPreview->setPlan(Address_Import::compare(mSession.database(), *mGroups, mOptions->options()));
+  Address_Import_Plan plan = Address_Import::compare(mSession.database(), *mGroups, mOptions->options());
+  mChoices.applyTo(plan);
+  mPreview->setPlan(std::move(plan));
   QApplication::restoreOverrideCursor();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/Address_Import.h"
+#include "db/Address_Import_Choices.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -57,7 +58,9 @@ private:
   void onRead(const std::shared_ptr<const Ets_Groups>& groups, const QString& error);
   void onCancelReading();
   void onImport();
+  void onOptionsChanged();
   void read();
+  void noteChoices();
   void compare();
   void setError(const QString& text);
   void showEmpty();
@@ -70,6 +73,7 @@ private:
   QString mFolder;
   QString mLoaded;                           ///< path of the file that is or was read last
   std::shared_ptr<const Ets_Groups> mGroups; ///< null when none is read
+  Address_Import_Choices mChoices;           ///< of that file
   Address_Import::Result mResult;
 
   QLineEdit* mPath;

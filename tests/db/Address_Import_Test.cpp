@@ -1,6 +1,7 @@
 #include "base/Datapoint_Types.h"
 #include "base/Decimal_Text.h"
 #include "db/Address_Import.h"
+#include "db/Address_Import_Choices.h"
 #include "db/Ets_Export.h"
 #include "db/Ets_Reader.h"
 #include "tests/db/Project_Dump.h"
@@ -341,6 +342,40 @@ private slots:
     QVERIFY(!plan.row(18).mNote.contains(u"weitere"));
     QVERIFY2(plan.row(19).mNote.endsWith(u"… und 49.981 weitere verschiedene Einträge."),
              qPrintable(plan.row(19).mNote));
+  }
+
+  void ticksSetByHandOutliveTheNextComparison() {
+    Import_Rig rig;
+    Ets_Groups groups = same();
+    groups.mAddresses[1] = entry(u"1/1/2"_s, u"Zahl"_s, u"5.001"_s);
+    groups.mAddresses.pop_back();
+    for (const QString& name : {u"A"_s, u"B"_s}) {
+      groups.mAddresses.push_back(entry(u"1/1/1"_s, name));
+      groups.mAddresses.back().mLine = int(groups.mAddresses.size());
+    }
+    groups.mAddresses.push_back(entry(u"1/1/9"_s, u"neu"_s));
+    Address_Import_Plan plan = rig.compare(groups);
+    QCOMPARE(summary(plan), u"K- 1/1/1, K- 1/1/1 n, K- 1/1/1 n, C+ 1/1/2 n, V- 1/1/4, N+ 1/1/9"_s);
+    plan.setTicked(2, true);
+    plan.setTicked(3, false);
+    plan.setTicked(4, true);
+    const QString ticked = summary(plan);
+    Address_Import_Choices choices;
+    choices.note(plan);
+    plan = rig.compare(groups, {.mImportNewOnly = true});
+    choices.applyTo(plan);
+    QCOMPARE(summary(plan), u"N+ 1/1/9"_s);
+    plan.setTicked(0, false);
+    choices.note(plan);
+    plan = rig.compare(groups);
+    choices.applyTo(plan);
+    QCOMPARE(summary(plan), QString(ticked).replace(u"N+"_s, u"N-"_s));
+    // What is set back by hand is no choice any more.
+    plan.setTicked(5, true);
+    choices.note(plan);
+    plan = rig.compare(groups);
+    choices.applyTo(plan);
+    QCOMPARE(summary(plan), ticked);
   }
 
   void whatIsWrittenOfANewAddress() {

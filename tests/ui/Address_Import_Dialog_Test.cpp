@@ -87,6 +87,20 @@ private slots:
     QVERIFY(mDialog->isVisible());
   }
 
+  void ticksSetByHandStayWithOtherOptions() {
+    choose(exportOf(address("1/1/1", "Lampe") + address("1/1/3", "b") + address("1/1/4", "A")));
+    QTRY_COMPARE(import()->text(), u"3 überneh&men"_s);
+    mTree->setCurrentIndex(mTree->model()->index(0, 0));
+    QTest::keyClick(mTree, Qt::Key_Space);
+    mDialog->findChild<QCheckBox*>(u"mNewOnly"_s)->click();
+    QCOMPARE(import()->text(), u"2 überneh&men"_s);
+    mDialog->findChild<QCheckBox*>(u"mNewOnly"_s)->click();
+    QCOMPARE(import()->text(), u"2 überneh&men"_s);
+    // Another file, or the same one once more, begins anew.
+    choose(exportOf(address("1/1/1", "Leuchte")));
+    QTRY_COMPARE(import()->text(), u"1 überneh&men"_s);
+  }
+
   void faultsAndErrorsAreToldInPlace() {
     choose(exportOf(address("1/1/3", "neu") + address("99/1/3", "falsch")));
     QTRY_VERIFY(mDialog->findChild<QPlainTextEdit*>(u"mFaultTexts"_s)->isVisible());
