@@ -24,6 +24,7 @@ Address_Import_Settings::Address_Import_Settings(QWidget* parent)
       mConnected(addOption(QStringLiteral("mConnected"), tr("&Verbundene Adressen (ESF) in die Beschreibung"),
                            tr("Neue und geänderte Adressen bekommen in ihre Beschreibung eine Zeile \"Verbunden mit: "
                               "1/1/1, 1/1/2\". Nur eine ESF-Datei nennt verbundene Adressen."))),
+      mFormat(new QComboBox),
       mGuesses(makeGuesses()) {
   auto* const layout = new QGridLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -31,6 +32,7 @@ Address_Import_Settings::Address_Import_Settings(QWidget* parent)
   layout->setVerticalSpacing(cGap);
   layout->addWidget(mNewOnly, 0, 0);
   layout->addWidget(mKeepType, 0, 1);
+  layout->addWidget(makeFormat(), 0, 2, Qt::AlignLeft);
   layout->addWidget(mConnected, 1, 0);
   layout->addWidget(mKeepComment, 1, 1);
   layout->addWidget(mGuesses, 2, 0, 1, 3);
@@ -44,6 +46,27 @@ QCheckBox* Address_Import_Settings::addOption(const QString& name, const QString
   box->setToolTip(toolTip);
   connect(box, &QCheckBox::toggled, this, &Address_Import_Settings::optionsChanged);
   return box;
+}
+
+QWidget* Address_Import_Settings::makeFormat() {
+  mFormat->setObjectName(QStringLiteral("mFormat"));
+  mFormat->setToolTip(tr("Wie die Datei gelesen wird; automatisch heißt: wie ihr Inhalt aussieht."));
+  mFormat->addItem(tr("automatisch"));
+  for (const auto& [text, format] : {std::pair(QStringLiteral("XML"), Ets_Groups::Format::Xml),
+                                     std::pair(QStringLiteral("ESF"), Ets_Groups::Format::Esf),
+                                     std::pair(QStringLiteral("CSV"), Ets_Groups::Format::Csv)}) {
+    mFormat->addItem(text, static_cast<int>(format));
+  }
+  connect(mFormat, &QComboBox::currentIndexChanged, this, &Address_Import_Settings::readerOptionsChanged);
+  auto* const label = new QLabel(tr("F&ormat:"));
+  label->setBuddy(mFormat);
+  auto* const row = new QWidget;
+  auto* const layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(cGap);
+  layout->addWidget(label);
+  layout->addWidget(mFormat);
+  return row;
 }
 
 QComboBox* Address_Import_Settings::makeGuess(const QString& name,
@@ -100,6 +123,9 @@ Address_Import::Options Address_Import_Settings::options() const {
 
 Ets_Reader::Options Address_Import_Settings::readerOptions() const {
   Ets_Reader::Options options;
+  if (const QVariant format = mFormat->currentData(); format.isValid()) {
+    options.mFormat = static_cast<Ets_Groups::Format>(format.toInt());
+  }
   options.mUncertain1Byte = typeOf(*mGuess1);
   options.mUncertain2Byte = typeOf(*mGuess2);
   options.mUncertain4Byte = typeOf(*mGuess4);

@@ -10,7 +10,7 @@
 class QCheckBox;
 class QComboBox;
 
-/// How an export is compared with the project, and what is guessed of the types that an ESF does not name.
+/// How an export is read and compared with the project, and what is guessed of the types that an ESF does not name.
 class Address_Import_Settings : public QWidget {
   Q_OBJECT
 
@@ -31,6 +31,7 @@ signals:
 
 private:
   [[nodiscard]] QCheckBox* addOption(const QString& name, const QString& text, const QString& toolTip);
+  [[nodiscard]] QWidget* makeFormat();
   [[nodiscard]] QComboBox* makeGuess(const QString& name, const QList<std::pair<Datapoint_Id, QString>>& types);
   [[nodiscard]] QWidget* makeGuesses();
   [[nodiscard]] static Datapoint_Id typeOf(const QComboBox& guess);
@@ -39,6 +40,7 @@ private:
   QCheckBox* mKeepType;
   QCheckBox* mKeepComment;
   QCheckBox* mConnected;
+  QComboBox* mFormat;
   QComboBox* mGuess1 = nullptr;
   QComboBox* mGuess2 = nullptr;
   QComboBox* mGuess4 = nullptr;

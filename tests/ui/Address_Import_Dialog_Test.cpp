@@ -5,6 +5,7 @@
 #include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -99,6 +100,18 @@ private slots:
     // Another file, or the same one once more, begins anew.
     choose(exportOf(address("1/1/1", "Leuchte")));
     QTRY_COMPARE(import()->text(), u"1 überneh&men"_s);
+  }
+
+  void theFormatCanBeChosen() {
+    choose(exportOf(address("1/1/3", "neu")));
+    QTRY_VERIFY(import()->isEnabled());
+    auto* const format = mDialog->findChild<QComboBox*>(u"mFormat"_s);
+    const auto* const error = mDialog->findChild<QLabel*>(u"mErrorText"_s);
+    format->setCurrentIndex(format->findText(u"CSV"_s));
+    QTRY_VERIFY(error->isVisible());
+    QVERIFY(!import()->isEnabled());
+    format->setCurrentIndex(format->findText(u"XML"_s));
+    QTRY_VERIFY(import()->isEnabled() && !error->isVisible());
   }
 
   void faultsAndErrorsAreToldInPlace() {
