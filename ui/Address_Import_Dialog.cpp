@@ -4,6 +4,7 @@
 #include "base/Decimal_Text.h"
 #include "base/Session_State.h"
 #include "db/Project_Session.h"
+#include "ui/Address_Import_Message.h"
 #include "ui/Address_Import_Preview.h"
 #include "ui/Address_Import_Settings.h"
 #include "ui/Ets_Reading.h"
@@ -29,7 +30,6 @@ namespace {
 constexpr int cGap = 8;
 constexpr int cGroupGap = 12;
 constexpr QSize cSize{1240, 720};
-constexpr int cErrorIcon = 16;
 constexpr int cFaultLines = 4;
 constexpr int cProgressWidth = 320;
 constexpr int cProgressDelayMs = 500;
@@ -70,8 +70,7 @@ Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Setti
       mFolder(folder),
       mPath(new QLineEdit),
       mFileInfo(new QLabel),
-      mError(new QWidget),
-      mErrorText(new QLabel),
+      mMessage(new Address_Import_Message),
       mOptions(new Address_Import_Settings),
       mPages(new QStackedWidget),
       mPreview(new Address_Import_Preview(session.state())),
@@ -89,7 +88,7 @@ Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Setti
   layout->setContentsMargins(cGroupGap, cGroupGap, cGroupGap, cGroupGap);
   layout->setSpacing(cGroupGap);
   layout->addWidget(makeFileRow());
-  layout->addWidget(makeError());
+  layout->addWidget(mMessage);
   layout->addWidget(mOptions);
   layout->addWidget(mPages, 1);
   layout->addWidget(makeFaults());
@@ -142,20 +141,6 @@ QWidget* Address_Import_Dialog::makeFileRow() {
   layout->addWidget(mFileInfo);
   layout->addWidget(mBrowse);
   return row;
-}
-
-QWidget* Address_Import_Dialog::makeError() {
-  auto* const layout = rowIn(mError);
-  auto* const icon = new QLabel;
-  icon->setPixmap(Theme::icon(QStringLiteral("error_white")).pixmap(cErrorIcon));
-  mErrorText->setObjectName(QStringLiteral("mErrorText"));
-  mErrorText->setTextFormat(Qt::PlainText);
-  mErrorText->setWordWrap(true);
-  mErrorText->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  Theme::setTextRole(*mErrorText, Theme::Role::ErrorText);
-  layout->addWidget(icon, 0, Qt::AlignTop);
-  layout->addWidget(mErrorText, 1);
-  return mError;
 }
 
 QWidget* Address_Import_Dialog::makeProgress() {
@@ -262,7 +247,7 @@ void Address_Import_Dialog::read() {
   if (mLoaded.isEmpty()) {
     return;
   }
-  setError({});
+  mMessage->setError({});
   mReading->start(mLoaded, mOptions->readerOptions());
   mProgressText->setText(tr("\"%1\" wird gelesen …").arg(QFileInfo(mLoaded).fileName()));
   mProgress->setValue(0);
@@ -273,16 +258,24 @@ void Address_Import_Dialog::read() {
 
 void Address_Import_Dialog::onCancelReading() {
   mReading->stop();
-  onRead(nullptr, tr("Das Lesen wurde abgebrochen."));
+  showGroups(nullptr);
+  mMessage->setNotice(tr("Das Lesen wurde abgebrochen."));
 }
 
 void Address_Import_Dialog::onRead(const std::shared_ptr<const Ets_Groups>& groups, const QString& error) {
+  showGroups(error.isEmpty() ? groups : nullptr);
+  if (!mGroups) {
+    mMessage->setError(tr("Aus \"%1\" kann nichts importiert werden. %2").arg(QFileInfo(mLoaded).fileName(), error));
+  }
+}
+
+void Address_Import_Dialog::showGroups(const std::shared_ptr<const Ets_Groups>& groups) {
   mProgressDelay.stop();
   mProgressTick.stop();
   const bool hadFocus = mStopReading->hasFocus();
   mPages->setCurrentIndex(0);
   noteChoices();
-  mGroups = error.isEmpty() ? groups : nullptr;
+  mGroups = groups;
   if (mGroups) {
     mFileInfo->setText(formatText(mGroups->mFormat));
     mFileInfo->show();
@@ -291,7 +284,6 @@ void Address_Import_Dialog::onRead(const std::shared_ptr<const Ets_Groups>& grou
   } else {
     mFileInfo->hide();
     showEmpty();
-    setError(tr("Aus \"%1\" kann nichts importiert werden. %2").arg(QFileInfo(mLoaded).fileName(), error));
   }
   if (hadFocus && mGroups) {
     mPreview->enterRows();
@@ -318,7 +310,7 @@ void Address_Import_Dialog::compare() {
   if (!mGroups || !mSession.isOpen()) {
     return;
   }
-  setError({});
+  mMessage->setError({});
   QApplication::setOverrideCursor(Qt::WaitCursor);
   Address_Import_Plan plan = Address_Import::compare(mSession.database(), *mGroups, mOptions->options());
   mChoices.applyTo(plan);
@@ -336,18 +328,13 @@ void Address_Import_Dialog::onImport() {
   if (edit) {
     accept();
   } else {
-    setError(tr("Nichts wurde importiert. %1").arg(edit.mError));
+    mMessage->setError(tr("Nichts wurde importiert. %1").arg(edit.mError));
   }
-}
-
-void Address_Import_Dialog::setError(const QString& text) {
-  mErrorText->setText(text);
-  mError->setVisible(!text.isEmpty());
 }
 
 void Address_Import_Dialog::showEmpty() {
   mGroups = nullptr;
-  setError({});
+  mMessage->setError({});
   mPreview->setEmpty(tr("Hier steht, was ein Export der ETS am Projekt ändern würde, bevor etwas geschieht: neue, "
                         "geänderte und entfallene Gruppenadressen."),
                      tr("Datei &wählen…"));

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class Address_Import_Message;
 class Address_Import_Preview;
 class Address_Import_Settings;
 class App_Settings;
@@ -48,7 +49,6 @@ protected:
 
 private:
   [[nodiscard]] QWidget* makeFileRow();
-  [[nodiscard]] QWidget* makeError();
   [[nodiscard]] QWidget* makeProgress();
   [[nodiscard]] QWidget* makeFaults();
   [[nodiscard]] QWidget* makeButtons();
@@ -57,12 +57,13 @@ private:
   void onPathEdited();
   void onRead(const std::shared_ptr<const Ets_Groups>& groups, const QString& error);
   void onCancelReading();
+  /// Ends the reading; null when it led to nothing.
+  void showGroups(const std::shared_ptr<const Ets_Groups>& groups);
   void onImport();
   void onOptionsChanged();
   void read();
   void noteChoices();
   void compare();
-  void setError(const QString& text);
   void showEmpty();
   void updateFaults();
   void updateButtons();
@@ -78,8 +79,7 @@ private:
 
   QLineEdit* mPath;
   QLabel* mFileInfo;
-  QWidget* mError;
-  QLabel* mErrorText;
+  Address_Import_Message* mMessage;
   Address_Import_Settings* mOptions;
   QStackedWidget* mPages;
   Address_Import_Preview* mPreview;
