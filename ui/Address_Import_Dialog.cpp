@@ -4,8 +4,10 @@
 #include "base/Decimal_Text.h"
 #include "base/Session_State.h"
 #include "db/Project_Session.h"
+#include "ui/Address_Import_Faults.h"
 #include "ui/Address_Import_Message.h"
 #include "ui/Address_Import_Preview.h"
+#include "ui/Address_Import_Progress.h"
 #include "ui/Address_Import_Settings.h"
 #include "ui/Ets_Reading.h"
 #include "ui/File_Dialog.h"
@@ -20,8 +22,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
 
@@ -30,10 +30,6 @@ namespace {
 constexpr int cGap = 8;
 constexpr int cGroupGap = 12;
 constexpr QSize cSize{1240, 720};
-constexpr int cFaultLines = 4;
-constexpr int cProgressWidth = 320;
-constexpr int cProgressDelayMs = 500;
-constexpr int cProgressTickMs = 100;
 
 QHBoxLayout* rowIn(QWidget* widget) {
   auto* const layout = new QHBoxLayout(widget);
@@ -74,16 +70,13 @@ Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Setti
       mOptions(new Address_Import_Settings),
       mPages(new QStackedWidget),
       mPreview(new Address_Import_Preview(session.state())),
-      mProgress(new QProgressBar),
-      mProgressText(new QLabel),
-      mFaults(new QWidget),
-      mFaultCount(new QLabel),
-      mFaultTexts(new QPlainTextEdit),
+      mProgress(new Address_Import_Progress(*mReading)),
+      mFaults(new Address_Import_Faults),
       mTicked(new QLabel) {
   setWindowTitle(tr("Adressen importieren"));
   setAcceptDrops(true);
   mPages->addWidget(mPreview);
-  mPages->addWidget(makeProgress());
+  mPages->addWidget(mProgress);
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(cGroupGap, cGroupGap, cGroupGap, cGroupGap);
   layout->setSpacing(cGroupGap);
@@ -91,7 +84,7 @@ Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Setti
   layout->addWidget(mMessage);
   layout->addWidget(mOptions);
   layout->addWidget(mPages, 1);
-  layout->addWidget(makeFaults());
+  layout->addWidget(mFaults);
   layout->addWidget(makeButtons());
   mCancel->setDefault(true); // it has to stand in the dialog for that
 
@@ -102,14 +95,8 @@ Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Setti
   connect(mPreview, &Address_Import_Preview::stepRequested, this, &Address_Import_Dialog::onBrowse);
   connect(&session, &Project_Session::aboutToClose, this, &QDialog::reject);
   connect(&session.state(), &Session_State::operatingModeChanged, this, &Address_Import_Dialog::updateButtons);
-  mProgressDelay.setSingleShot(true);
-  mProgressDelay.setInterval(cProgressDelayMs);
-  connect(&mProgressDelay, &QTimer::timeout, this, [this] {
-    mPages->setCurrentIndex(1);
-    mStopReading->setFocus();
-  });
-  mProgressTick.setInterval(cProgressTickMs);
-  connect(&mProgressTick, &QTimer::timeout, this, [this] { mProgress->setValue(mReading->percent()); });
+  connect(mProgress, &Address_Import_Progress::worthShowing, this, [this] { mPages->setCurrentWidget(mProgress); });
+  connect(mProgress, &Address_Import_Progress::cancelRequested, this, &Address_Import_Dialog::onCancelReading);
 
   resize(cSize);
   restoreGeometry(settings.viewState(QStringLiteral("ui:mImportDialog")));
@@ -141,36 +128,6 @@ QWidget* Address_Import_Dialog::makeFileRow() {
   layout->addWidget(mFileInfo);
   layout->addWidget(mBrowse);
   return row;
-}
-
-QWidget* Address_Import_Dialog::makeProgress() {
-  auto* const page = new QWidget;
-  auto* const layout = new QVBoxLayout(page);
-  layout->setSpacing(cGap);
-  mProgress->setFixedWidth(cProgressWidth);
-  mStopReading = new QPushButton(tr("&Lesen abbrechen"));
-  connect(mStopReading, &QPushButton::clicked, this, &Address_Import_Dialog::onCancelReading);
-  layout->addStretch(1);
-  layout->addWidget(mProgressText, 0, Qt::AlignHCenter);
-  layout->addWidget(mProgress, 0, Qt::AlignHCenter);
-  layout->addWidget(mStopReading, 0, Qt::AlignHCenter);
-  layout->addStretch(2);
-  return page;
-}
-
-QWidget* Address_Import_Dialog::makeFaults() {
-  auto* const layout = new QVBoxLayout(mFaults);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(cGap / 2);
-  mFaultTexts->setObjectName(QStringLiteral("mFaultTexts"));
-  mFaultTexts->setAccessibleName(tr("Was in der Datei nicht zu lesen war"));
-  mFaultTexts->setReadOnly(true);
-  mFaultTexts->setTabChangesFocus(true);
-  mFaultTexts->setLineWrapMode(QPlainTextEdit::NoWrap);
-  mFaultTexts->setFixedHeight(cFaultLines * fontMetrics().lineSpacing() + 2 * cGap);
-  layout->addWidget(mFaultCount);
-  layout->addWidget(mFaultTexts);
-  return mFaults;
 }
 
 QWidget* Address_Import_Dialog::makeButtons() {
@@ -249,10 +206,7 @@ void Address_Import_Dialog::read() {
   }
   mMessage->setError({});
   mReading->start(mLoaded, mOptions->readerOptions());
-  mProgressText->setText(tr("\"%1\" wird gelesen …").arg(QFileInfo(mLoaded).fileName()));
-  mProgress->setValue(0);
-  mProgressDelay.start();
-  mProgressTick.start();
+  mProgress->start(QFileInfo(mLoaded).fileName());
   updateButtons();
 }
 
@@ -270,10 +224,8 @@ void Address_Import_Dialog::onRead(const std::shared_ptr<const Ets_Groups>& grou
 }
 
 void Address_Import_Dialog::showGroups(const std::shared_ptr<const Ets_Groups>& groups) {
-  mProgressDelay.stop();
-  mProgressTick.stop();
-  const bool hadFocus = mStopReading->hasFocus();
-  mPages->setCurrentIndex(0);
+  const bool hadFocus = mProgress->stop();
+  mPages->setCurrentWidget(mPreview);
   noteChoices();
   mGroups = groups;
   if (mGroups) {
@@ -290,7 +242,7 @@ void Address_Import_Dialog::showGroups(const std::shared_ptr<const Ets_Groups>& 
   } else if (hadFocus) {
     mPath->setFocus();
   }
-  updateFaults();
+  mFaults->setGroups(mGroups.get());
   updateButtons();
 }
 
@@ -338,25 +290,8 @@ void Address_Import_Dialog::showEmpty() {
   mPreview->setEmpty(tr("Hier steht, was ein Export der ETS am Projekt ändern würde, bevor etwas geschieht: neue, "
                         "geänderte und entfallene Gruppenadressen."),
                      tr("Datei &wählen…"));
-  updateFaults();
+  mFaults->setGroups(mGroups.get());
   updateButtons();
-}
-
-void Address_Import_Dialog::updateFaults() {
-  const qsizetype count = mGroups ? mGroups->mFaultCount : 0;
-  mFaults->setVisible(count > 0);
-  if (count == 0) {
-    return;
-  }
-  const qsizetype told = mGroups->mFaults.size();
-  QString text = count == 1
-                     ? tr("1 Eintrag der Datei ist nicht zu lesen und bleibt weg:")
-                     : tr("%1 Einträge der Datei sind nicht zu lesen und bleiben weg:").arg(Decimal_Text::count(count));
-  if (told < count) {
-    text += u' ' + tr("Die ersten %1 stehen hier.").arg(Decimal_Text::count(told));
-  }
-  mFaultCount->setText(text);
-  mFaultTexts->setPlainText(mGroups->mFaults.join(u'\n'));
 }
 
 void Address_Import_Dialog::updateButtons() {
@@ -385,8 +320,7 @@ void Address_Import_Dialog::updateButtons() {
 
 void Address_Import_Dialog::done(int result) {
   mReading->stop();
-  mProgressDelay.stop();
-  mProgressTick.stop();
+  mProgress->stop();
   mPreview->saveState(mSettings);
   mSettings.setViewState(QStringLiteral("ui:mImportDialog"), saveGeometry());
   QDialog::done(result);

@@ -4,20 +4,19 @@
 #include "db/Address_Import_Choices.h"
 
 #include <QDialog>
-#include <QTimer>
 
 #include <memory>
 
+class Address_Import_Faults;
 class Address_Import_Message;
 class Address_Import_Preview;
+class Address_Import_Progress;
 class Address_Import_Settings;
 class App_Settings;
 class Ets_Reading;
 class Project_Session;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
-class QProgressBar;
 class QPushButton;
 class QStackedWidget;
 
@@ -49,8 +48,6 @@ protected:
 
 private:
   [[nodiscard]] QWidget* makeFileRow();
-  [[nodiscard]] QWidget* makeProgress();
-  [[nodiscard]] QWidget* makeFaults();
   [[nodiscard]] QWidget* makeButtons();
 
   void onBrowse();
@@ -65,7 +62,6 @@ private:
   void noteChoices();
   void compare();
   void showEmpty();
-  void updateFaults();
   void updateButtons();
 
   Project_Session& mSession;
@@ -83,16 +79,10 @@ private:
   Address_Import_Settings* mOptions;
   QStackedWidget* mPages;
   Address_Import_Preview* mPreview;
-  QProgressBar* mProgress;
-  QLabel* mProgressText;
-  QWidget* mFaults;
-  QLabel* mFaultCount;
-  QPlainTextEdit* mFaultTexts;
+  Address_Import_Progress* mProgress;
+  Address_Import_Faults* mFaults;
   QLabel* mTicked;
   QPushButton* mBrowse = nullptr;
-  QPushButton* mStopReading = nullptr;
   QPushButton* mImport = nullptr;
   QPushButton* mCancel = nullptr;
-  QTimer mProgressDelay; ///< until the progress is worth showing
-  QTimer mProgressTick;
 };
