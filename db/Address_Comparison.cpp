@@ -23,10 +23,20 @@ QString tr(const char* text) {
   return QCoreApplication::translate("Address_Import", text);
 }
 
-/// Where the table of types does not know the size, the one that an ESF tells of such a type. 0 when neither does.
+/// The size that an ESF tells of such a type; 0 when it tells none.
+int esfBitsOf(const Datapoint_Id& type) {
+  return Datapoint_Types::bitsOf(Ets_Esf_Types::typeOf(Ets_Esf_Types::textOf(type), {}));
+}
+
+/// Where the table of types does not know the size, that of an ESF. 0 when neither does.
 int bitsOf(const Datapoint_Id& type) {
   const int bits = Datapoint_Types::bitsOf(type);
-  return bits > 0 ? bits : Datapoint_Types::bitsOf(Ets_Esf_Types::typeOf(Ets_Esf_Types::textOf(type), {}));
+  return bits > 0 ? bits : esfBitsOf(type);
+}
+
+/// Whether an ESF that tells so much of an address leaves open that it has the present type.
+bool fitsGuess(const Datapoint_Id& guess, const Datapoint_Id& present) {
+  return bitsOf(present) == 0 || bitsOf(guess) == bitsOf(present) || bitsOf(guess) == esfBitsOf(present);
 }
 
 bool changesSize(const Datapoint_Id& from, const Datapoint_Id& to) {
@@ -200,8 +210,7 @@ bool Address_Comparison::keepsType(const Values& incoming, const Values& present
     return false;
   }
   const bool isSame = incoming.mDpt == present.mDpt && incoming.mDptGuessed == present.mDptGuessed;
-  const bool isOnlyGuess =
-      incoming.mDptGuessed && (bitsOf(present.mDpt) == 0 || bitsOf(incoming.mDpt) == bitsOf(present.mDpt));
+  const bool isOnlyGuess = incoming.mDptGuessed && fitsGuess(incoming.mDpt, present.mDpt);
   return mOptions.mKeepType || isSame || isOnlyGuess;
 }
 

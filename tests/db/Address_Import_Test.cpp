@@ -293,7 +293,8 @@ private slots:
     QVERIFY2(Ets_Reader::read(file, {}, groups, error), qPrintable(error));
     QCOMPARE(groups.mAddresses.size(), types.size());
     const Address_Import_Plan plan = Address_Import::compare(rig.mSession.database(), groups);
-    QCOMPARE(summary(plan), QString());
+    QVERIFY2(plan.size() == 0,
+             qPrintable(plan.size() > 0 ? plan.row(0).mPresent.mName + plan.row(0).mNote : QString()));
   }
 
   /// The size of these is told by what an ESF says of them alone.
@@ -340,7 +341,7 @@ private slots:
     QVERIFY2(plan.row(1).mNote.startsWith(u"Zeile 10, anders in Zeile 0, 11, 12, 13, 14, …."),
              qPrintable(plan.row(1).mNote));
     QVERIFY(!plan.row(18).mNote.contains(u"weitere"));
-    QVERIFY2(plan.row(19).mNote.endsWith(u"… und 49.981 weitere verschiedene Einträge."),
+    QVERIFY2(plan.row(19).mNote.endsWith(u"… und %1 weitere verschiedene Einträge."_s.arg(Decimal_Text::count(49'981))),
              qPrintable(plan.row(19).mNote));
   }
 

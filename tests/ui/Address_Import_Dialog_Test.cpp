@@ -85,7 +85,7 @@ private slots:
     press(u"Alle anhaken"_s);
     QCOMPARE(import()->text(), u"3 überneh&men"_s);
     mDialog->findChild<QCheckBox*>(u"mNewOnly"_s)->click();
-    QCOMPARE(import()->text(), u"2 überneh&men"_s);
+    QCOMPARE(import()->text(), u"1 überneh&men"_s); // 1/1/4 lost its tick by hand
     QVERIFY(mDialog->isVisible());
   }
 
