@@ -15,9 +15,9 @@ public:
 private:
   struct Place {
     Group_Address mAddress;
-    Address_Import_Row::Level mLevel;
-    int mLine;
-    bool mIsDeletion;
+    Address_Import_Row::Level mLevel = Address_Import_Row::Level::Address;
+    int mLine = 0;
+    bool mIsDeletion = false;
 
     [[nodiscard]] static Place of(const Address_Import_Row& row);
     friend bool operator==(const Place&, const Place&) = default;
