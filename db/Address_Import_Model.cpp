@@ -1,9 +1,8 @@
 #include "db/Address_Import_Model.h"
 
+#include "base/Text_Order.h"
 #include "db/Address_Type_Text.h"
 #include "db/Model_Roles.h"
-
-#include <QCollator>
 
 #include <algorithm>
 #include <numeric>
@@ -170,11 +169,10 @@ void Address_Import_Model::order() {
     sortBy([this](qsizetype a, qsizetype b) { return mPlan.row(a).mKind < mPlan.row(b).mKind; });
     break;
   default: {
-    QCollator collator;
-    collator.setNumericMode(true);
+    const QCollator collator = Text_Order::collator();
     std::vector<std::optional<QCollatorSortKey>> keys(static_cast<size_t>(mPlan.size()));
     for (const qsizetype i : mShown) {
-      keys[static_cast<size_t>(i)] = collator.sortKey(textOf(mPlan.row(i), mSortColumn).toCaseFolded());
+      keys[static_cast<size_t>(i)] = collator.sortKey(textOf(mPlan.row(i), mSortColumn));
     }
     sortBy([&keys](qsizetype a, qsizetype b) {
       return keys[static_cast<size_t>(a)]->compare(*keys[static_cast<size_t>(b)]) < 0;
