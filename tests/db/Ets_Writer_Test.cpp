@@ -1,8 +1,9 @@
+#include "db/Address_Import.h"
 #include "db/Ets_Esf_Writer.h"
+#include "db/Ets_Export.h"
 #include "db/Ets_Xml_Writer.h"
 #include "tests/db/Ets_Rig.h"
-
-#include <QtTest>
+#include "tests/db/Session_Rig.h"
 
 namespace {
 
@@ -66,6 +67,28 @@ void build(Address_Tree& tree, const QStringList& lines) {
       tree.add(std::move(group));
     }
   }
+}
+
+/// What a project can hold, but for types that the studio does not know, which only the XML tells.
+void buildVaried(Address_Tree& tree, bool withUnknownTypes) {
+  const auto s = [](const char* text) { return QString::fromUtf8(text); };
+  build(tree, {s("Wärme. A/B|1. OG|0/1/0|Küche – 20 €|9.001"), s("Wärme. A/B|1. OG|0/1/1|a.1/2/3|1"),
+               s("Wärme. A/B|2.OG.links|0/2/0|<x> & \"y\"|"), s("|ohne|1/0/1||1.001"), s("|ohne|1/0/2|b|5.010"),
+               s("a.b/c||2/7/255|c|24.001"), s("a.b/c|z|2/6/1|d|16"), s("leer|ganz leer|3/0"), s("Licht|leer|4/0"),
+               s("Licht|.|4/1/1|e|232.600")});
+  if (withUnknownTypes) {
+    build(tree, {s("fern|EG|5/0/0|a|25.1000"), s("fern|EG|5/0/1|b|30.1010"), s("fern|EG|5/0/2|c|244.600"),
+                 s("fern|EG|5/0/3|d|9.999"), s("fern|EG|5/0/4|e|60000.65535")});
+  }
+  DB_Address_Sub_Group* const sub = tree.subGroup({0, 1, 0});
+  sub->mDescription = s("erste\n zweite\n");
+  sub->mCentral = sub->mUnfiltered = true;
+  sub->mSecurity = s("On");
+  tree.subGroup({1, 0, 1})->mDptGuessed = true;
+  tree.subGroup({1, 0, 2})->mDptGuessed = true;
+  tree.subGroup({1, 0, 2})->mDptRaw = s("Uncertain (1 Byte)");
+  tree.mainGroup(0)->mDescription = s("alle\nRäume");
+  tree.middleGroup(4, 0)->mDescription = s("noch leer");
 }
 
 } // namespace
@@ -249,6 +272,37 @@ private slots:
     QBuffer closed;
     QTest::ignoreMessage(QtWarningMsg, "QIODevice::write (QBuffer): device not open");
     QVERIFY(!Ets_Xml_Writer::write(tree, closed).isOk());
+  }
+
+  void anExportChangesNothingWhenItIsImported_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("withUnknownTypes");
+    QTest::newRow("XML") << QStringLiteral("a.xml") << true;
+    QTest::newRow("ESF") << QStringLiteral("a.ESF") << false;
+  }
+
+  void anExportChangesNothingWhenItIsImported() {
+    QFETCH(QString, file);
+    QFETCH(bool, withUnknownTypes);
+    Session_Rig rig;
+    QVERIFY(rig.create());
+    ProjectDatabase& database = rig.mSession.database();
+    buildVaried(database.mAddresses, withUnknownTypes);
+    Ets_Write_Result result;
+    const Edit_Result written = Ets_Export::write(rig.mSession, rig.path(file), result);
+    QVERIFY2(bool(written), qPrintable(written.mError));
+    QCOMPARE(result.mAddresses, withUnknownTypes ? 13 : 8);
+    const Ets_Rig::Outcome read = Ets_Rig::read(Session_Rig::bytesOf(rig.path(file)));
+    QVERIFY2(read.mIsRead && read.mGroups.mFaults.isEmpty(), qPrintable(read.mError));
+    QCOMPARE(read.mGroups.mAddresses.size(), size_t(result.mAddresses));
+    QCOMPARE(read.mGroups.mFormat, file.endsWith(u".xml") ? Ets_Groups::Format::Xml : Ets_Groups::Format::Esf);
+    QStringList rows;
+    for (const Address_Import_Row& row : Address_Import::compare(database, read.mGroups).rows()) {
+      rows.append(QStringLiteral("%1 %2 %3 %4")
+                      .arg(static_cast<int>(row.mKind))
+                      .arg(row.addressText(), row.mIncoming.mName, row.mIncoming.mDpt.toString()));
+    }
+    QCOMPARE(rows.join(u'\n'), QString());
   }
 };
 
