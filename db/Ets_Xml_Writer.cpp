@@ -32,7 +32,11 @@ QString flag(const char* name, bool isSet) {
   return isSet ? attribute(name, QStringLiteral("true")) : QString();
 }
 
+/// A guess would be read again as a fact.
 QString dptsOf(const DB_Address_Sub_Group& group) {
+  if (group.mDptGuessed) {
+    return {};
+  }
   const bool isSame =
       group.mDptRaw.startsWith(u"DP") && !group.mDpt.isNone() && Ets_Collector::typeOf(group.mDptRaw) == group.mDpt;
   return isSame ? group.mDptRaw : group.mDpt.toEtsText();
