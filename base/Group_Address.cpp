@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr int cTwoLevelSubMax = 2047;
-constexpr int cNumberMax = 65535;
 constexpr qsizetype cLongestPart = 6;
 
 QString tr(const char* text) {
@@ -42,8 +40,10 @@ std::optional<Group_Address> fromParts(const QList<QStringView>& parts) {
     return std::nullopt;
   }
   if (numbers.size() == 2) {
-    return numbers[1] > cTwoLevelSubMax ? std::nullopt
-                                        : std::optional(Group_Address(numbers[0], numbers[1] >> 8, numbers[1] & 255));
+    const int number = numbers[0] * Group_Address::cMainSpan + numbers[1];
+    return numbers[1] < Group_Address::cMainSpan
+               ? std::optional(Group_Address::fromNumber(static_cast<quint16>(number)))
+               : std::nullopt;
   }
   const Group_Address address(numbers[0], numbers[1], numbers[2]);
   return address.isOnBus() ? std::optional(address) : std::nullopt;
@@ -65,7 +65,7 @@ std::optional<Group_Address> read(QStringView text) {
   } else {
     number = digits(text);
   }
-  if (!number || *number > cNumberMax) {
+  if (!number || *number > Group_Address::cNumberMax) {
     return std::nullopt;
   }
   return Group_Address::fromNumber(static_cast<quint16>(*number));

@@ -14,13 +14,21 @@ public:
   static constexpr int cMainMax = 31;
   static constexpr int cMiddleMax = 7;
   static constexpr int cSubMax = 255;
+  static constexpr int cNumberMax = 65535;
+  /// So many numbers of the bus has a main group, and a middle group.
+  static constexpr int cMainSpan = 2048;
+  static constexpr int cMiddleSpan = 256;
 
   constexpr Group_Address() = default;
   constexpr Group_Address(int main, int middle, int sub) : mMain(main), mMiddle(middle), mSub(sub) {}
 
   /// From the 16-bit number on the bus.
   [[nodiscard]] static constexpr Group_Address fromNumber(quint16 number) {
-    return {number >> 11, (number >> 8) & 7, number & 255};
+    return {number / cMainSpan, number % cMainSpan / cMiddleSpan, number % cMiddleSpan};
+  }
+  /// That number; only for an address that is `isOnBus()`.
+  [[nodiscard]] constexpr quint16 number() const {
+    return static_cast<quint16>(mMain * cMainSpan + mMiddle * cMiddleSpan + mSub);
   }
 
   /// Reads "1/2/3" (three levels), "1/515" (two levels: main 0..31, sub 0..2047), "2563", "$0A03" or "0x0a03" (free).

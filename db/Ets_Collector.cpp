@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr int cMainSpan = 2048;
-constexpr int cMiddleSpan = 256;
 constexpr int cMiddles = Group_Address::cMiddleMax + 1;
 
 QString tr(const char* text) {
@@ -127,13 +125,13 @@ void Ets_Collector::nameGroup(int main, int middle, const QString& name, const Q
 void Ets_Collector::finishGroups() {
   for (int main = 0; main <= Group_Address::cMainMax; ++main) {
     if (const auto named = mMain.constFind(main); named != mMain.constEnd()) {
-      const int start = main * cMainSpan;
-      addRange({named->mName, named->mDescription, start, start + cMainSpan - 1, 0});
+      const int start = Group_Address(main, 0, 0).number();
+      addRange({named->mName, named->mDescription, start, start + Group_Address::cMainSpan - 1, 0});
     }
     for (int number = main * cMiddles; number < (main + 1) * cMiddles; ++number) {
       if (const auto named = mMiddle.constFind(number); named != mMiddle.constEnd()) {
-        const int start = number * cMiddleSpan;
-        addRange({named->mName, named->mDescription, start, start + cMiddleSpan - 1, 1});
+        const int start = number * Group_Address::cMiddleSpan;
+        addRange({named->mName, named->mDescription, start, start + Group_Address::cMiddleSpan - 1, 1});
       }
     }
   }

@@ -42,10 +42,12 @@ public:
 
 private:
   void mainGroup(const DB_Address_MainGroup& group) {
+    describe(group);
     if (group.mMiddleGroups.isEmpty()) {
       mResult.omitEmpty(Group_Address::mainGroupText(group.mNumber), group.mName);
     }
     for (const auto& middle : group.mMiddleGroups) {
+      describe(*middle);
       if (middle->mNumber < 0 || middle->mNumber > Group_Address::cMiddleMax) {
         mResult.omit(group.mNumber, *middle);
       } else if (middle->mSubGroups.isEmpty()) {
@@ -65,11 +67,30 @@ private:
       } else if (mTree.subGroup(address) != sub.get()) {
         mResult.omitRepeated(address, *sub);
       } else {
-        const QStringList cells = {groups + u'.' + address.toString(), cell(sub->mName), typeText(*sub),
-                                   QStringLiteral("Low"), QString()};
-        mText += cells.join(u'\t') + QStringLiteral("\r\n");
-        ++mResult.mAddresses;
+        subGroup(groups + u'.' + address.toString(), *sub);
       }
+    }
+  }
+
+  void subGroup(const QString& place, const DB_Address_Sub_Group& group) {
+    const QString type = typeText(group);
+    const QStringList cells = {place, cell(group.mName), type, QStringLiteral("Low"), QString()};
+    mText += cells.join(u'\t') + QStringLiteral("\r\n");
+    mResult.add(group);
+    describe(group);
+    if (!group.mDptGuessed && Ets_Esf_Types::typeOf(type, {}) != group.mDpt) {
+      mResult.loseType();
+    }
+    // Without a setting of its own an address is "Auto".
+    if (group.mCentral || group.mUnfiltered || !(group.mSecurity.isEmpty() || group.mSecurity == u"Auto")) {
+      mResult.loseEtsAttributes();
+    }
+  }
+
+  template <class Group>
+  void describe(const Group& group) {
+    if (!group.mDescription.isEmpty()) {
+      mResult.loseDescription();
     }
   }
 
@@ -83,6 +104,7 @@ private:
 Ets_Write_Result Ets_Esf_Writer::write(const Address_Tree& tree, const QString& projectName, QIODevice& device) {
   Ets_Write_Result result;
   const QByteArray bytes = Writer(tree, result).run(projectName);
+  result.tellLosses();
   if (device.write(bytes) != bytes.size()) {
     result.mError = device.errorString();
   }

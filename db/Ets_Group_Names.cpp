@@ -6,9 +6,6 @@
 
 namespace {
 
-constexpr int cMainSpan = 2048;
-constexpr int cMiddleSpan = 256;
-
 /// Files of ETS leave the address 0 out, which no group may use.
 bool isWhole(const Ets_Groups::Range& range, int span) {
   const int start = range.mStart / span * span;
@@ -24,7 +21,7 @@ Ets_Group_Names::Ets_Group_Names(const std::vector<Ets_Groups::Range>& ranges) {
     const Group_Address last = Group_Address::fromNumber(static_cast<quint16>(range.mEnd));
     if (range.mDepth > 0 && middleOf(first) == middleOf(last)) {
       if (!mOwnMiddle.contains(middleOf(first))) {
-        name.mIsOwn = isWhole(range, cMiddleSpan);
+        name.mIsOwn = isWhole(range, Group_Address::cMiddleSpan);
         mMiddle.insert(middleOf(first), name);
         mOwnMiddle.insert(middleOf(first));
         mOwnMain.insert(first.main());
@@ -32,7 +29,7 @@ Ets_Group_Names::Ets_Group_Names(const std::vector<Ets_Groups::Range>& ranges) {
       continue;
     }
     const bool isInOneMain = first.main() == last.main();
-    name.mIsOwn = isWhole(range, cMainSpan);
+    name.mIsOwn = isWhole(range, Group_Address::cMainSpan);
     for (int main = first.main(); main <= last.main(); ++main) {
       // Inside a main group that already has a name of its own a narrower range is no main group.
       if (!isInOneMain || !mOwnMain.contains(main)) {

@@ -1,5 +1,6 @@
 #include "db/Ets_Write_Result.h"
 
+#include "base/Decimal_Text.h"
 #include "db/DB_Address_Groups.h"
 
 #include <QCoreApplication>
@@ -11,6 +12,28 @@ QString tr(const char* text) {
 }
 
 } // namespace
+
+void Ets_Write_Result::add(const DB_Address_Sub_Group& group) {
+  const DB_Address_Sub_Group usual;
+  const bool isUsual = group.mReadAtStart == usual.mReadAtStart && group.mReadCyclic == usual.mReadCyclic &&
+                       group.mWrite == usual.mWrite && group.mActive == usual.mActive;
+  mFlags += isUsual ? 0 : 1;
+  ++mAddresses;
+}
+
+void Ets_Write_Result::tellLosses() {
+  QStringList losses;
+  const auto lose = [&losses](qsizetype count, const QString& sentence) {
+    if (count > 0) {
+      losses.append(sentence.arg(Decimal_Text::count(count)));
+    }
+  };
+  lose(mDescriptions, tr("Beschreibungen: %1."));
+  lose(mTypes, tr("Genaue Datenpunkttypen: %1; die Datei nennt nur ihre Größe."));
+  lose(mEtsAttributes, tr("Zentral, Ungefiltert und Sicherheit: bei %1 Gruppenadressen gesetzt."));
+  lose(mFlags, tr("Lesen Start, Lesen zyklisch, Schreiben und Aktiv: bei %1 Gruppenadressen anders als üblich."));
+  mOmitted = losses + mOmitted;
+}
 
 void Ets_Write_Result::omit(const DB_Address_MainGroup& group) {
   qsizetype addresses = 0;

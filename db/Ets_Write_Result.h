@@ -16,9 +16,19 @@ struct Ets_Write_Result {
   QString mError;       ///< German; empty when the file is written
   int mAddresses = 0;   ///< written
   int mLeftOut = 0;     ///< addresses that are not in the file
-  QStringList mOmitted; ///< one German sentence for each of the first things left out, groups as a whole
+  QStringList mOmitted; ///< German sentences: one for each kind of attribute that the format does not know, then one
+                        ///< for each of the first things left out, groups as a whole
 
   [[nodiscard]] bool isOk() const { return mError.isEmpty(); }
+
+  /// The address is in the file.
+  void add(const DB_Address_Sub_Group& group);
+  /// What of it the file cannot hold; told by `tellLosses`, in one sentence for each kind of thing.
+  void loseDescription() { ++mDescriptions; }
+  void loseType() { ++mTypes; }
+  void loseEtsAttributes() { ++mEtsAttributes; }
+  /// In front of what is omitted.
+  void tellLosses();
 
   /// Numbers that no bus has; everything in the group counts as left out.
   void omit(const DB_Address_MainGroup& group);
@@ -31,4 +41,9 @@ struct Ets_Write_Result {
 
 private:
   void tell(const QString& sentence);
+
+  qsizetype mDescriptions = 0;
+  qsizetype mTypes = 0;
+  qsizetype mEtsAttributes = 0;
+  qsizetype mFlags = 0;
 };

@@ -11,7 +11,6 @@
 namespace {
 
 constexpr QStringView cNamespace = u"http://knx.org/xml/ga-export/01";
-constexpr int cNumberMax = 65535;
 constexpr int cAttributeLimit = 100;
 constexpr int cElementsPerProgress = 1000;
 
@@ -120,7 +119,7 @@ private:
     } else if (name == u"GroupAddress") {
       address(path);
     } else {
-      mCollector.fault(mXml.lineNumber(), tr("unbekanntes Element \"%1\"").arg(name.left(40).toString()));
+      mCollector.fault(mXml.lineNumber(), tr("Das Element \"%1\" ist unbekannt.").arg(name.left(40).toString()));
     }
     mPaths.append(path);
   }
@@ -148,9 +147,10 @@ private:
     if (!mCollector.countText(path.size())) {
       return;
     }
-    if (!isStartOk || !isEndOk || range.mStart < 0 || range.mEnd > cNumberMax || range.mStart > range.mEnd) {
+    if (!isStartOk || !isEndOk || range.mStart < 0 || range.mEnd > Group_Address::cNumberMax ||
+        range.mStart > range.mEnd) {
       mCollector.fault(mXml.lineNumber(),
-                       tr("der Bereich \"%1\" hat keine gültigen Grenzen (0..65535)").arg(range.mName.left(40)));
+                       tr("Der Bereich \"%1\" hat keine gültigen Grenzen (0..65535).").arg(range.mName.left(40)));
       return;
     }
     mCollector.addRange(range);

@@ -9,9 +9,6 @@
 
 namespace {
 
-constexpr int cMainSpan = 2048;
-constexpr int cMiddleSpan = 256;
-
 QString escaped(const QString& text) {
   // As ETS does; a plain line break in an attribute would be read as a blank.
   return Ets_Text::permitted(DB_Text::clean(text))
@@ -64,7 +61,7 @@ public:
 
 private:
   void mainGroup(const DB_Address_MainGroup& group) {
-    open(1, group.mName, group.mDescription, group.mNumber * cMainSpan, cMainSpan);
+    open(1, group.mName, group.mDescription, Group_Address(group.mNumber, 0, 0), Group_Address::cMainSpan);
     const qsizetype body = mText.size();
     for (const auto& middle : group.mMiddleGroups) {
       if (middle->mNumber < 0 || middle->mNumber > Group_Address::cMiddleMax) {
@@ -77,7 +74,7 @@ private:
   }
 
   void middleGroup(int main, const DB_Address_Middle_Group& group) {
-    open(2, group.mName, group.mDescription, main * cMainSpan + group.mNumber * cMiddleSpan, cMiddleSpan);
+    open(2, group.mName, group.mDescription, Group_Address(main, group.mNumber, 0), Group_Address::cMiddleSpan);
     const qsizetype body = mText.size();
     for (const auto& sub : group.mSubGroups) {
       const Group_Address address(main, group.mNumber, sub->mNumber);
@@ -97,10 +94,11 @@ private:
                 attribute("Address", address.toString()) + flag("Central", group.mCentral) +
                 flag("Unfiltered", group.mUnfiltered) + optional("Description", group.mDescription) +
                 optional("DPTs", dptsOf(group)) + optional("Security", group.mSecurity) + QStringLiteral(" />"));
-    ++mResult.mAddresses;
+    mResult.add(group);
   }
 
-  void open(int depth, const QString& name, const QString& description, int start, int span) {
+  void open(int depth, const QString& name, const QString& description, const Group_Address& first, int span) {
+    const int start = first.number();
     // 0/0/0 is no group address for ETS, so its first ranges begin at 1.
     line(depth, QStringLiteral("<GroupRange") + attribute("Name", name) +
                     attribute("RangeStart", QString::number(qMax(start, 1))) +
@@ -133,6 +131,7 @@ private:
 Ets_Write_Result Ets_Xml_Writer::write(const Address_Tree& tree, QIODevice& device) {
   Ets_Write_Result result;
   const QByteArray bytes = Writer(tree, result).run();
+  result.tellLosses();
   if (device.write(bytes) != bytes.size()) {
     result.mError = device.errorString();
   }

@@ -60,9 +60,12 @@ inline void fill(Address_Tree& tree, const Ets_Groups& groups) {
   };
   for (const Ets_Groups::Range& range : groups.mRanges) {
     const Group_Address first = Group_Address::fromNumber(static_cast<quint16>(range.mStart));
-    if (range.mDepth == 0 && range.mEnd == first.main() * 2048 + 2047) {
+    if (range.mDepth == 0 && range.mEnd == range.mStart / Group_Address::cMainSpan * Group_Address::cMainSpan +
+                                               Group_Address::cMainSpan - 1) {
       name(*mainGroup(first.main()), range);
-    } else if (range.mDepth == 1 && range.mEnd == range.mStart / 256 * 256 + 255) {
+    } else if (range.mDepth == 1 &&
+               range.mEnd == range.mStart / Group_Address::cMiddleSpan * Group_Address::cMiddleSpan +
+                                 Group_Address::cMiddleSpan - 1) {
       name(*middleGroup(first.main(), first.middle()), range);
     }
   }
@@ -115,6 +118,13 @@ inline QStringList texts(const Ets_Groups& groups) {
     result.append(text(address));
   }
   return result;
+}
+
+/// A fault names its line and is a sentence.
+inline bool isFaultOfLine(const QString& fault, int line) {
+  const QString start = QStringLiteral("Zeile %1: ").arg(line);
+  const QChar first = fault.mid(start.size()).front();
+  return fault.startsWith(start) && (first.isUpper() || first == u'"') && fault.endsWith(u'.');
 }
 
 /// "2048-4095 Licht" of each range, with an indent of its depth.
