@@ -4,6 +4,7 @@
 #include "db/Delimited_Text.h"
 #include "db/Edit_Scope.h"
 #include "db/Project_Session.h"
+#include "db/Table_Titles.h"
 
 #include <QCoreApplication>
 
@@ -21,37 +22,27 @@ QString tr(const char* text) {
   return QCoreApplication::translate("Address_Table_Paste", text);
 }
 
-/// What a title says of its column: the address, or a field.
-struct Title_Row {
-  const char* mTitle;
-  std::optional<Field> mField; ///< none for the address
-};
-
-constexpr Title_Row cTitles[] = {
-    {"adresse", {}},
-    {"address", {}},
-    {"gruppenadresse", {}},
-    {"name", Field::Name},
-    {"gruppenname", Field::Name},
-    {"bezeichnung", Field::Name},
-    {"beschreibung", Field::Description},
-    {"description", Field::Description},
-    {"kommentar", Field::Description},
-    {"datenpunkttyp", Field::Type},
-    {"datapointtype", Field::Type},
-    {"dpt", Field::Type},
-    {"typ", Field::Type},
-    {"lesen start", Field::ReadAtStart},
-    {"lesen zyklisch", Field::ReadCyclic},
-    {"schreiben", Field::Write},
-    {"aktiv", Field::Active},
-};
-
-const Title_Row* titleOf(const QString& cell) {
-  const QString title = cell.simplified().toLower();
-  const auto* const found = std::find_if(std::begin(cTitles), std::end(cTitles),
-                                         [&title](const Title_Row& row) { return title == QLatin1String(row.mTitle); });
-  return found == std::end(cTitles) ? nullptr : found;
+/// The field that a column fills; none for columns that a paste does not take.
+std::optional<Field> fieldOf(Table_Titles::Column column) {
+  using Table_Titles::Column;
+  switch (column) {
+  case Column::Name:
+    return Field::Name;
+  case Column::Description:
+    return Field::Description;
+  case Column::Type:
+    return Field::Type;
+  case Column::ReadAtStart:
+    return Field::ReadAtStart;
+  case Column::ReadCyclic:
+    return Field::ReadCyclic;
+  case Column::Write:
+    return Field::Write;
+  case Column::Active:
+    return Field::Active;
+  default:
+    return std::nullopt;
+  }
 }
 
 /// Which column holds what; -1 for none.
@@ -70,13 +61,13 @@ Layout layoutOf(const Rows& rows) {
   Layout layout;
   const QStringList& first = rows.front().mFields;
   for (int column = 0; column < first.size(); ++column) {
-    if (const Title_Row* const title = titleOf(first[column])) {
+    const std::optional<Table_Titles::Column> title = Table_Titles::columnOf(first[column]);
+    if (const std::optional<Field> field = title ? fieldOf(*title) : std::nullopt) {
       layout.mHasTitles = true;
-      if (title->mField) {
-        layout.mColumns.emplace(*title->mField, column);
-      } else if (layout.mAddress < 0) {
-        layout.mAddress = column;
-      }
+      layout.mColumns.emplace(*field, column);
+    } else if (title == Table_Titles::Column::Address) {
+      layout.mHasTitles = true;
+      layout.mAddress = layout.mAddress < 0 ? column : layout.mAddress;
     }
   }
   if (layout.mHasTitles) {
@@ -135,7 +126,7 @@ private:
   Edit_Result pasteRow(const QStringList& cells) {
     for (const auto& [field, column] : mLayout.mColumns) {
       const QString text = cell(cells, column);
-      const Edit_Result check = Address_Edits::check(field, field == Field::Type ? typeIn(text) : text);
+      Edit_Result check = Address_Edits::check(field, field == Field::Type ? typeIn(text) : text);
       if (!check) {
         return check;
       }
@@ -166,7 +157,8 @@ private:
     const DB_Address_Middle_Group* const middle = mTree.middleGroup(sub ? sub->mMiddleKey : mTarget);
     const DB_Address_MainGroup* const main = middle ? mTree.mainGroup(middle->mMainKey) : nullptr;
     if (!main) {
-      return Edit_Result::refused(tr("ohne Adresse, und es ist keine Mittelgruppe ausgewählt, in die sie könnte."));
+      return Edit_Result::refused(
+          tr("Die Zeile nennt keine Adresse, und es ist keine Mittelgruppe ausgewählt, in die sie könnte."));
     }
     const int number = Address_Edits::freeSub(mSession, main->mNumber, middle->mNumber, mNext);
     if (number < 0) {

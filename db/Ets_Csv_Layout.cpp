@@ -1,14 +1,15 @@
 #include "db/Ets_Csv_Layout.h"
 
 #include "base/Group_Address.h"
-
-#include <QHash>
+#include "db/Table_Titles.h"
 
 #include <algorithm>
 
 namespace {
 
 using Layout = Ets_Csv_Layout;
+using Table_Titles::Column;
+using Table_Titles::columnOf;
 
 /// Digits, or nothing or '-' for a level that the row does not name; empty for anything else.
 std::optional<int> levelOf(QStringView text) {
@@ -43,35 +44,6 @@ bool isAddressCell(const QString& text) {
   return text.contains(u'/') && (Group_Address::parse(text) || groupOf(text));
 }
 
-/// Names of columns, without blanks and in small letters.
-enum class Column { Name, Main, Middle, Sub, Address, Central, Unfiltered, Description, Dpt, Security };
-
-std::optional<Column> columnOf(const QString& title) {
-  static const QHash<QString, Column> columns = [] {
-    QHash<QString, Column> result;
-    const auto add = [&result](Column column, std::initializer_list<const char*> names) {
-      for (const char* const name : names) {
-        result.insert(QString::fromLatin1(name), column);
-      }
-    };
-    add(Column::Name, {"groupname", "gruppenname", "name"});
-    add(Column::Main, {"main", "maingroup", "haupt", "hauptgruppe"});
-    add(Column::Middle, {"middle", "middlegroup", "mittel", "mittelgruppe"});
-    add(Column::Sub, {"sub", "subgroup", "unter", "untergruppe"});
-    add(Column::Address, {"address", "groupaddress", "adresse", "gruppenadresse"});
-    add(Column::Central, {"central", "zentral"});
-    add(Column::Unfiltered, {"unfiltered", "ungefiltert"});
-    add(Column::Description, {"description", "beschreibung"});
-    add(Column::Dpt, {"datapointtype", "datenpunkttyp", "dpt"});
-    add(Column::Security, {"security", "sicherheit"});
-    return result;
-  }();
-  QString key = title.toLower();
-  key.removeIf([](QChar c) { return c.isSpace() || c == u'-' || c == u'_'; });
-  const auto at = columns.constFind(key);
-  return at == columns.constEnd() ? std::nullopt : std::optional(*at);
-}
-
 void set(int& column, int index) {
   column = column < 0 ? index : column;
 }
@@ -95,7 +67,6 @@ Layout ofHeader(const QStringList& titles) {
     if (!column) {
       continue;
     }
-    layout.mHasHeader = true;
     switch (*column) {
     case Column::Name:
       set(layout.mName, i);
@@ -121,13 +92,19 @@ Layout ofHeader(const QStringList& titles) {
     case Column::Description:
       set(layout.mDescription, i);
       break;
-    case Column::Dpt:
+    case Column::Type:
       set(layout.mDpt, i);
       break;
     case Column::Security:
       set(layout.mSecurity, i);
       break;
+    case Column::ReadAtStart:
+    case Column::ReadCyclic:
+    case Column::Write:
+    case Column::Active:
+      continue; // ETS knows none of them
     }
+    layout.mHasHeader = true;
   }
   return layout;
 }
@@ -206,7 +183,10 @@ std::optional<Ets_Csv_Layout> Ets_Csv_Layout::of(const std::vector<QStringList>&
   if (rows.empty()) {
     return std::nullopt;
   }
-  const bool isTitle = std::none_of(rows.front().begin(), rows.front().end(), isAddressCell);
+  // Groups may be called like titles, but no title is a number.
+  const bool isTitle = std::none_of(rows.front().begin(), rows.front().end(), [](const QString& cell) {
+    return isAddressCell(cell) || levelOf(cell).value_or(-1) >= 0;
+  });
   const Layout titled = isTitle ? ofHeader(rows.front()) : Layout();
   if (hasAddresses(titled)) {
     return titled;
