@@ -63,14 +63,16 @@ public:
 
   void read(const Delimited_Text::Row& row) {
     const QStringList& fields = row.mFields;
-    if (row.mOpenQuoteLine > 0) {
-      mCollector.fault(row.mOpenQuoteLine, tr("ein Anführungszeichen hat kein Ende; es wird als Text gelesen"));
-    }
     const std::optional<Ets_Csv_Layout::Place> place = mLayout.placeOf(fields);
     if (!place) {
-      mCollector.fault(row.mLine, tr("die Zeile nennt keine Gruppenadresse und keine Gruppe: \"%1\"")
+      mCollector.fault(row.mLine, tr("Die Zeile nennt keine Gruppenadresse und keine Gruppe: \"%1\".")
                                       .arg(DB_Text::singleLine(fields.join(u' ')).left(40)));
-    } else if (place->mAddress.isEmpty()) {
+      return;
+    }
+    if (row.mOpenQuoteLine > 0) {
+      mCollector.fault(row.mOpenQuoteLine, tr("Ein Anführungszeichen hat kein Ende; es wird als Text gelesen."));
+    }
+    if (place->mAddress.isEmpty()) {
       group(*place, fields);
     } else {
       address(*place, row);

@@ -53,7 +53,7 @@ public:
       return;
     }
     if (fields.size() < cConnected || fields.size() > cConnected + 1) {
-      mCollector.fault(row.mLine, tr("die Zeile hat %1 statt 5 Spalten").arg(fields.size()));
+      mCollector.fault(row.mLine, tr("Die Zeile hat %1 statt 5 Spalten.").arg(fields.size()));
       return;
     }
     addAddress(row);
@@ -82,7 +82,7 @@ private:
     const QStringView text = addressIn(groups);
     if (!isAddress(text)) {
       mCollector.fault(row.mLine,
-                       tr("die erste Spalte endet nicht mit einer Gruppenadresse: \"%1\"").arg(groups.right(40)));
+                       tr("Die erste Spalte endet nicht mit einer Gruppenadresse: \"%1\".").arg(groups.right(40)));
       return;
     }
     Ets_Groups::Address address;
@@ -145,5 +145,10 @@ bool Ets_Esf_Reader::read(QIODevice& device, Ets_Collector& collector) {
   }
   lines.nameGroups();
   collector.refuseIfAllFaulty();
+  if (collector.isOk() && collector.groups().mAddresses.empty()) {
+    collector.setError(text->trimmed().startsWith(u'<')
+                           ? tr("Die Datei ist keine ESF-Ausgabe von Gruppenadressen; sie sieht nach XML aus.")
+                           : tr("Die Datei nennt keine Gruppenadresse."));
+  }
   return collector.isOk();
 }

@@ -22,8 +22,12 @@ inline void outcome(const Ets_Rig::Outcome& outcome) {
   require(outcome.mIsRead || (groups.mAddresses.empty() && groups.mRanges.empty() && groups.mFaultCount == 0),
           "what is refused leaves nothing");
   require(groups.mFaults.size() == qMin(groups.mFaultCount, qsizetype(Ets_Reader::cFaultLimit)), "faults are told");
+  for (const QString& fault : groups.mFaults) {
+    require(fault.startsWith(u"Zeile ") && fault.endsWith(u'.'), "faults are sentences with their line");
+  }
   for (const Ets_Groups::Range& range : groups.mRanges) {
-    require(range.mStart >= 0 && range.mStart <= range.mEnd && range.mEnd <= 65535, "ranges are on the bus");
+    require(range.mStart >= 0 && range.mStart <= range.mEnd && range.mEnd <= Group_Address::cNumberMax,
+            "ranges are on the bus");
     require(range.mDepth >= 0 && range.mDepth <= 64, "depths are within the limit");
   }
   for (const Ets_Groups::Address& address : groups.mAddresses) {

@@ -63,7 +63,7 @@ private slots:
     QTEST(outcome.mGroups.mProjectName, "project");
     QTEST(Ets_Rig::texts(outcome.mGroups), "addresses");
     QCOMPARE(outcome.mGroups.mFaultCount, faultLine > 0 ? 1 : 0);
-    QVERIFY(faultLine == 0 || outcome.mGroups.mFaults[0].startsWith(QStringLiteral("Zeile %1:").arg(faultLine)));
+    QVERIFY(faultLine == 0 || Ets_Rig::isFaultOfLine(outcome.mGroups.mFaults[0], faultLine));
   }
 
   void fourColumnsAndConnectedAddressesAreRead() {

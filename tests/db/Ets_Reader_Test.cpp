@@ -161,6 +161,7 @@ private slots:
     row("picture", "\x89PNG\r\n\x1a\n" + QByteArray(100, '\0'), "Bild");
     row("PDF", "%PDF-1.7\n", "keine Ausgabe");
     row("binary", QByteArray("SQLite format 3\0", 16), "keine Textdatei");
+    row("ESF without addresses", "Leeres Haus\r\n", "keine Ausgabe");
     row("prose", "Guten Tag.\nDie Adressen kommen morgen.\n", "keine Ausgabe");
     row("table without addresses", "Name;Preis\nLampe;3\n", "keine Ausgabe");
     row("control character",
@@ -212,10 +213,28 @@ private slots:
       const Ets_Rig::Outcome outcome = read(other, options);
       QVERIFY(!outcome.mIsRead && !outcome.mError.isEmpty());
     }
+  }
+
+  /// Not even by whoever chose the format.
+  void anEsfWithoutAddressesIsRefused_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("name of the project alone")
+        << QByteArray("Leeres Haus\r\n") << QStringLiteral("keine Gruppenadresse");
+    QTest::newRow("no name either") << QByteArray("\r\n") << QStringLiteral("keine Gruppenadresse");
+    QTest::newRow("comments") << QByteArray("# a\n# b") << QStringLiteral("keine Gruppenadresse");
+    QTest::newRow("XML in one line") << QByteArray("<?xml version='1.0'?><GroupAddress-Export/>")
+                                     << QStringLiteral("XML");
+  }
+
+  void anEsfWithoutAddressesIsRefused() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, told);
+    Ets_Reader::Options options;
     options.mFormat = Format::Esf;
-    const Ets_Rig::Outcome outcome = read("Leeres Haus\n", options);
-    QVERIFY2(outcome.mIsRead, qPrintable(outcome.mError));
-    QCOMPARE(outcome.mGroups.mProjectName, QStringLiteral("Leeres Haus"));
+    const Ets_Rig::Outcome outcome = read(bytes, options);
+    QVERIFY(!outcome.mIsRead);
+    QVERIFY2(outcome.mError.contains(told), qPrintable(outcome.mError));
   }
 
   void largeFilesAreReadOrRefusedInTime_data() {
