@@ -4,8 +4,6 @@
 
 #include <QString>
 
-#include <algorithm>
-
 /// How the bytes of a datapoint type are laid out. Where several sizes share a word, the type tells its bits.
 enum class Datapoint_Format : quint8 {
   Bool,
@@ -68,9 +66,6 @@ struct Datapoint_Type {
   double mStep = 0;        ///< the smallest difference of two values; 0 when it is not the same everywhere
   const char* mTexts = ""; ///< "0=Aus|1=Ein": of numbers, of bit numbers in 21.x, of the first field in compounds
 
-  [[nodiscard]] constexpr bool hasRange() const { return mMin < mMax; }
-  /// The number to begin with: 0 where the range has it, else the limit nearest to it.
-  [[nodiscard]] constexpr double defaultNumber() const { return std::clamp(0.0, mMin, mMax); }
   /// The size of the payload; types under 8 bits take a byte of their own. 0 when it varies.
   [[nodiscard]] constexpr int bytes() const { return (mBits + 7) / 8; }
 

@@ -22,7 +22,6 @@ struct Datapoint_Value {
   QList<Part> mParts; ///< of compounds; empty for simple types
 
   [[nodiscard]] static Datapoint_Value ofWhole(qint64 value) { return {value, {}}; }
-  [[nodiscard]] static Datapoint_Value ofNumber(double value) { return {value, {}}; }
   [[nodiscard]] static Datapoint_Value ofText(const QString& text) { return {text, {}}; }
 
   /// As a double, whichever kind of number it is; empty for texts and for what is not valid.
