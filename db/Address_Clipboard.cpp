@@ -12,6 +12,7 @@
 #include <QMimeData>
 #include <QSet>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -91,6 +92,17 @@ struct Unpacked {
   QJsonArray mItems;
 };
 
+/// Whether the item is of that level, and all below it of the levels and no more than fit below it.
+bool isWhole(const QJsonObject& item, int level) {
+  const QJsonArray items = item.value(cItems).toArray();
+  const qsizetype most = level == cMain     ? Group_Address::cMiddleMax + 1
+                         : level == cMiddle ? Group_Address::cSubMax + 1
+                                            : 0;
+  return item.value(cLevel).toInt(-1) == level && items.size() <= most &&
+         std::all_of(items.cbegin(), items.cend(),
+                     [level](const QJsonValue& below) { return isWhole(below.toObject(), level + 1); });
+}
+
 std::optional<Unpacked> unpack(const Project_Session& session, const QByteArray& packed) {
   const QJsonObject object = QJsonDocument::fromJson(packed).object();
   Unpacked unpacked;
@@ -101,12 +113,12 @@ std::optional<Unpacked> unpack(const Project_Session& session, const QByteArray&
     return std::nullopt;
   }
   unpacked.mLevel = unpacked.mItems.at(0).toObject().value(cLevel).toInt(-1);
-  for (const QJsonValue item : std::as_const(unpacked.mItems)) {
-    if (item.toObject().value(cLevel).toInt(-1) != unpacked.mLevel) {
-      return std::nullopt;
-    }
-  }
-  return unpacked.mLevel >= cMain && unpacked.mLevel <= cSub ? std::optional(unpacked) : std::nullopt;
+  const bool isLevel = unpacked.mLevel >= cMain && unpacked.mLevel <= cSub;
+  const bool isAllWhole = isLevel && std::all_of(unpacked.mItems.cbegin(), unpacked.mItems.cend(),
+                                                 [level = unpacked.mLevel](const QJsonValue& item) {
+                                                   return isWhole(item.toObject(), level);
+                                                 });
+  return isAllWhole ? std::optional(unpacked) : std::nullopt;
 }
 
 QList<QUuid> keysOf(const QJsonArray& items) {
@@ -126,43 +138,41 @@ public:
         mScope(scope),
         mResult(result) {}
 
-  /// False when there is no free number.
-  bool addSub(const QJsonObject& from, const DB_Address_Middle_Group& middle) {
+  void addSub(const QJsonObject& from, const DB_Address_Middle_Group& middle) {
     auto sub = read<DB_Address_Sub_Group>(from);
     const int main = mTree.mainGroup(middle.mMainKey)->mNumber;
     sub->mMiddleKey = middle.mKey;
     sub->mNumber = Address_Edits::freeSub(mSession, main, middle.mNumber, sub->mNumber);
     sub->mOrigin.clear();
-    return sub->mNumber >= 0 && insert(std::move(sub));
+    checkImported(*sub);
+    insert(std::move(sub));
   }
 
-  bool addMiddle(const QJsonObject& from, const DB_Address_MainGroup& main) {
+  void addMiddle(const QJsonObject& from, const DB_Address_MainGroup& main) {
     auto middle = read<DB_Address_Middle_Group>(from);
     middle->mMainKey = main.mKey;
     middle->mNumber = Address_Edits::freeMiddle(mSession, main.mNumber, middle->mNumber);
-    const DB_Address_Middle_Group* const added = middle->mNumber < 0 ? nullptr : insert(std::move(middle));
-    return added && addChildren(from, [&](const QJsonObject& item) { return addSub(item, *added); });
+    if (const DB_Address_Middle_Group* const added = insert(std::move(middle))) {
+      addChildren(from, [&](const QJsonObject& item) { addSub(item, *added); });
+    }
   }
 
-  bool addMain(const QJsonObject& from) {
+  void addMain(const QJsonObject& from) {
     auto main = read<DB_Address_MainGroup>(from);
     main->mNumber = Address_Edits::freeMain(mSession, main->mNumber);
-    const DB_Address_MainGroup* const added = main->mNumber < 0 ? nullptr : insert(std::move(main));
-    return added && addChildren(from, [&](const QJsonObject& item) { return addMiddle(item, *added); });
+    if (const DB_Address_MainGroup* const added = insert(std::move(main))) {
+      addChildren(from, [&](const QJsonObject& item) { addMiddle(item, *added); });
+    }
   }
-
-  [[nodiscard]] const QUuid& lastKey() const { return mLastKey; }
 
 private:
   template <class Add>
-  bool addChildren(const QJsonObject& from, Add&& add) {
-    const QUuid own = mLastKey;
-    bool isOk = true;
+  void addChildren(const QJsonObject& from, Add&& add) {
+    ++mDepth;
     for (const QJsonValue item : from.value(cItems).toArray()) {
-      isOk = isOk && add(item.toObject());
+      add(item.toObject());
     }
-    mLastKey = own;
-    return isOk;
+    --mDepth;
   }
 
   template <class Group>
@@ -175,10 +185,28 @@ private:
     return group;
   }
 
+  /// What an import leaves in an address is kept, as far as an import would have left it.
+  static void checkImported(DB_Address_Sub_Group& sub) {
+    const Datapoint_Id dpt = sub.mDpt;
+    if (dpt.mMain < 0 || dpt.mMain > Datapoint_Id::cNumberMax || dpt.mSub < Datapoint_Id::cAnySub ||
+        dpt.mSub > Datapoint_Id::cNumberMax) {
+      sub.mDpt = {};
+    }
+    sub.mDptRaw = DB_Text::singleLine(sub.mDptRaw).left(Address_Edits::cNameLimit);
+    sub.mSecurity = DB_Text::singleLine(sub.mSecurity).left(Address_Edits::cNameLimit);
+  }
+
+  /// Null when there was no free number, which is told.
   template <class Group>
   Group* insert(std::unique_ptr<Group> group) {
+    if (group->mNumber < 0) {
+      mResult.mFaults.append(tr("Für \"%1\" ist keine Nummer frei.").arg(group->mName));
+      return nullptr;
+    }
     Group* const added = mTree.add(std::move(group));
-    mLastKey = added->mKey;
+    if (mDepth == 0) {
+      mResult.mKeys.append(added->mKey);
+    }
     mScope.created(mSession.addressUndo(), added->mKey);
     ++mResult.mAdded;
     return added;
@@ -188,7 +216,7 @@ private:
   Address_Tree& mTree;
   Edit_Scope& mScope;
   Address_Clipboard::Result& mResult;
-  QUuid mLastKey;
+  int mDepth = 0; ///< 0 for what was packed itself
 };
 
 Edit_Result noPlace(int level) {
@@ -254,11 +282,14 @@ Edit_Result Address_Clipboard::paste(Project_Session& session, const QByteArray&
         tr("Eine Hauptgruppe steht für sich; eine andere Nummer bekommt sie in der Spalte \"Adresse\"."));
   }
   if (unpacked->mIsMove) {
-    result.mKeys = keysOf(unpacked->mItems);
-    result.mMoved = result.mKeys.size();
-    return Address_Edits::move(session, result.mKeys, parent);
+    const QList<QUuid> keys = keysOf(unpacked->mItems);
+    Edit_Result edit = Address_Edits::move(session, keys, parent);
+    if (edit) {
+      result.mKeys = keys;
+      result.mMoved = keys.size();
+    }
+    return edit;
   }
-  // What lies below the items fits, as it did where it comes from.
   if (unpacked->mItems.size() > Address_Edits::freeCount(session, parent)) {
     return Edit_Result::refused(
         tr("In der Gruppe sind nicht genug Nummern frei; eingefügt werden sollten %1.").arg(unpacked->mItems.size()));
@@ -271,13 +302,15 @@ Edit_Result Address_Clipboard::paste(Project_Session& session, const QByteArray&
   tree.beginChange();
   for (const QJsonValue value : unpacked->mItems) {
     const QJsonObject item = value.toObject();
-    const bool isAdded = unpacked->mLevel == cSub      ? paster.addSub(item, *tree.middleGroup(parent))
-                         : unpacked->mLevel == cMiddle ? paster.addMiddle(item, *tree.mainGroup(parent))
-                                                       : paster.addMain(item);
-    if (isAdded) {
-      result.mKeys.append(paster.lastKey());
-    } else {
-      result.mFaults.append(tr("Ein Eintrag fand keine freie Nummer."));
+    switch (unpacked->mLevel) {
+    case cMain:
+      paster.addMain(item);
+      break;
+    case cMiddle:
+      paster.addMiddle(item, *tree.mainGroup(parent));
+      break;
+    default:
+      paster.addSub(item, *tree.middleGroup(parent));
     }
   }
   tree.endChange();

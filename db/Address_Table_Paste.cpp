@@ -7,6 +7,7 @@
 #include "db/Table_Titles.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <map>
@@ -52,31 +53,35 @@ struct Layout {
   bool mHasTitles = false;
 };
 
-bool isAddress(const QString& cell) {
-  return cell.contains(u'/') &&
-         (Group_Address::parse(cell) || Group_Address::parseMiddleGroup(cell) || Group_Address::parseMainGroup(cell));
+/// Whether a cell is meant for an address or a group, be it one that there can be or not.
+bool isLikeAddress(const QString& cell) {
+  static const QRegularExpression form(QStringLiteral(R"(^\s*\d+\s*/\s*(\d+|\*)\s*(/\s*(\d+|\*)\s*)?$)"));
+  return form.match(cell).hasMatch();
 }
 
-Layout layoutOf(const Rows& rows) {
+/// The layout that a row of titles tells. One title alone is no row of titles: "Zentral" and "Schreiben" are names,
+/// too.
+std::optional<Layout> layoutOfTitles(const QStringList& cells) {
   Layout layout;
-  const QStringList& first = rows.front().mFields;
-  for (int column = 0; column < first.size(); ++column) {
-    const std::optional<Table_Titles::Column> title = Table_Titles::columnOf(first[column]);
+  layout.mHasTitles = true;
+  for (int column = 0; column < cells.size(); ++column) {
+    const std::optional<Table_Titles::Column> title = Table_Titles::columnOf(cells[column]);
     if (const std::optional<Field> field = title ? fieldOf(*title) : std::nullopt) {
-      layout.mHasTitles = true;
       layout.mColumns.emplace(*field, column);
-    } else if (title == Table_Titles::Column::Address) {
-      layout.mHasTitles = true;
-      layout.mAddress = layout.mAddress < 0 ? column : layout.mAddress;
+    } else if (title == Table_Titles::Column::Address && layout.mAddress < 0) {
+      layout.mAddress = column;
     }
   }
-  if (layout.mHasTitles) {
-    return layout;
-  }
-  const auto withAddress = std::count_if(
-      rows.cbegin(), rows.cend(), [](const Delimited_Text::Row& row) { return isAddress(row.mFields.value(0)); });
+  const bool isTitles = layout.mAddress >= 0 || layout.mColumns.size() > 1;
+  return isTitles && std::none_of(cells.cbegin(), cells.cend(), isLikeAddress) ? std::optional(layout) : std::nullopt;
+}
+
+/// Of a table without titles: name, description and type, behind the address when any row begins with one.
+Layout layoutOf(const Rows& rows) {
+  Layout layout;
   int column = 0;
-  if (2 * static_cast<size_t>(withAddress) >= rows.size()) {
+  if (std::any_of(rows.cbegin(), rows.cend(),
+                  [](const Delimited_Text::Row& row) { return isLikeAddress(row.mFields.value(0)); })) {
     layout.mAddress = column++;
   }
   for (const Field field : {Field::Name, Field::Description, Field::Type}) {
@@ -158,7 +163,7 @@ private:
     const DB_Address_MainGroup* const main = middle ? mTree.mainGroup(middle->mMainKey) : nullptr;
     if (!main) {
       return Edit_Result::refused(
-          tr("Die Zeile nennt keine Adresse, und es ist keine Mittelgruppe ausgewählt, in die sie könnte."));
+          tr("Sie nennt keine Adresse, und es ist keine Mittelgruppe ausgewählt, in die sie gehören könnte."));
     }
     const int number = Address_Edits::freeSub(mSession, main->mNumber, middle->mNumber, mNext);
     if (number < 0) {
@@ -228,7 +233,7 @@ Edit_Result Address_Table_Paste::paste(Project_Session& session, const QString& 
   if (!scope) {
     return Edit_Result::refused(scope.refusal());
   }
-  const Layout layout = layoutOf(rows);
+  const Layout layout = layoutOfTitles(rows.front().mFields).value_or(layoutOf(rows));
   Paster paster(session, layout, target, result);
   Address_Tree& tree = session.database().mAddresses;
   tree.beginChange();

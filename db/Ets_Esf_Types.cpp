@@ -1,5 +1,7 @@
 #include "db/Ets_Esf_Types.h"
 
+#include "base/Datapoint_Types.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -35,21 +37,32 @@ constexpr Eis cEis[] = {
     {15, 112, {16, 1}, "EIS 15 'Character String' (14 Byte)"},
 };
 
-/// The format of a main number: by an EIS, or with 0 for that by its size in bytes.
+/// The EIS of main numbers whose types are all of its size.
 struct Format {
   int mMain = 0;
   int mEis = 0;
-  int mBytes = 0;
 };
 
 constexpr Format cFormats[] = {
-    {1, 1, 0},   {2, 8, 0},   {3, 2, 0},   {4, 13, 0},  {5, 6, 0},   {6, 14, 0},  {7, 10, 0},  {8, 10, 0},  {9, 5, 0},
-    {10, 3, 0},  {11, 4, 0},  {12, 11, 0}, {13, 11, 0}, {14, 9, 0},  {15, 12, 0}, {16, 15, 0}, {17, 0, 1},  {18, 0, 1},
-    {19, 0, 8},  {20, 0, 1},  {21, 0, 1},  {22, 0, 2},  {25, 0, 1},  {26, 0, 1},  {27, 0, 4},  {29, 0, 8},  {30, 0, 3},
-    {206, 0, 3}, {217, 0, 2}, {219, 0, 6}, {222, 0, 6}, {225, 0, 3}, {229, 0, 6}, {230, 0, 8}, {231, 0, 4}, {232, 0, 3},
-    {234, 0, 2}, {235, 0, 6}, {237, 0, 2}, {238, 0, 1}, {240, 0, 3}, {241, 0, 4}, {242, 0, 6}, {244, 0, 2}, {245, 0, 6},
-    {249, 0, 6}, {250, 0, 3}, {251, 0, 6}, {252, 0, 5}, {253, 0, 8}, {254, 0, 3},
+    {1, 1}, {2, 8},  {3, 2},  {4, 13},  {5, 6},   {6, 14}, {7, 10},  {8, 10},
+    {9, 5}, {10, 3}, {11, 4}, {12, 11}, {13, 11}, {14, 9}, {15, 12}, {16, 15},
 };
+
+/// Bits of main numbers that the studio has no types of.
+struct Size {
+  int mMain = 0;
+  int mBits = 0;
+};
+
+constexpr Size cOtherSizes[] = {
+    {22, 16}, {25, 8}, {30, 24}, {206, 24}, {219, 48}, {222, 48}, {230, 64}, {237, 16}, {244, 16}, {245, 48},
+};
+
+int bitsOf(const Datapoint_Id& type) {
+  const auto* const other = std::find_if(std::begin(cOtherSizes), std::end(cOtherSizes),
+                                         [&type](const Size& known) { return known.mMain == type.mMain; });
+  return other == std::end(cOtherSizes) ? Datapoint_Types::bitsOf(type) : other->mBits;
+}
 
 const Eis* eisOf(int number) {
   const auto* const at =
@@ -106,14 +119,19 @@ Datapoint_Id Ets_Esf_Types::typeOf(const QString& text, const Ets_Reader::Option
 }
 
 QString Ets_Esf_Types::textOf(const Datapoint_Id& type) {
-  const auto* const format = std::find_if(std::begin(cFormats), std::end(cFormats),
-                                          [&type](const Format& known) { return known.mMain == type.mMain; });
-  if (format == std::end(cFormats)) {
-    return QStringLiteral("Unknown");
-  }
   // Of one size there may be several, and one of them means just this type.
-  const auto* const exact =
-      std::find_if(std::begin(cEis), std::end(cEis), [&type](const Eis& eis) { return eis.mType == type; });
-  const Eis* const eis = exact != std::end(cEis) ? exact : eisOf(format->mEis);
-  return eis ? QString::fromLatin1(eis->mText) : QStringLiteral("Uncertain (%1 Byte)").arg(format->mBytes);
+  const auto* eis =
+      std::find_if(std::begin(cEis), std::end(cEis), [&](const Eis& known) { return known.mType == type; });
+  if (eis == std::end(cEis)) {
+    const auto* const format = std::find_if(std::begin(cFormats), std::end(cFormats),
+                                            [&](const Format& known) { return known.mMain == type.mMain; });
+    eis = format == std::end(cFormats) ? nullptr : eisOf(format->mEis);
+  }
+  if (eis) {
+    return QString::fromLatin1(eis->mText);
+  }
+  const int bits = type.isNone() ? 0 : bitsOf(type);
+  return bits == 0           ? QStringLiteral("Unknown")
+         : bits % cByte == 0 ? QStringLiteral("Uncertain (%1 Byte)").arg(bits / cByte)
+                             : QStringLiteral("Uncertain (%1 Bit)").arg(bits);
 }

@@ -88,7 +88,7 @@ QWidget* Address_Import_Settings::makeGuesses() {
                                                   {{5, 10}, tr("Zähler")},
                                                   {{6, 1}, tr("Prozent mit Vorzeichen")},
                                                   {{17, 1}, tr("Szene")},
-                                                  {{18, 1}, tr("Szene mit Lernen")},
+                                                  {{18, 1}, tr("Szenensteuerung")},
                                                   {{20, 102}, tr("Betriebsart Heizung")}});
   mGuess2 = makeGuess(QStringLiteral("mGuess2"),
                       {{{9, 1}, tr("Temperatur")}, {{7, 1}, tr("Impulse")}, {{8, 1}, tr("Impulse mit Vorzeichen")}});

@@ -149,6 +149,15 @@ private slots:
         "paste nothing", [](T& t) { return Address_Clipboard::paste(t.session(), "{}", {}, t.mResult); },
         "lassen sich");
 
+    refused(
+        "paste a group with a group of its kind in it",
+        [](T& t) {
+          QByteArray packed = Address_Clipboard::pack(t.session(), t.keys("1/2/*"), Use::Copy);
+          return Address_Clipboard::paste(t.session(), packed.replace("\"level\":2", "\"level\":1"),
+                                          t.keys("5/*").value(0), t.mResult);
+        },
+        "lassen sich");
+
     row(
         "table with addresses",
         [](T& t) { return t.pasteText("1/2/3\tLampe\t\tDPST-1-1\n2/0/0\t\"a \"\"b\"\"\"\r\n3/*\tHaus\n"); },
@@ -162,6 +171,16 @@ private slots:
     row(
         "table with faults", [](T& t) { return t.pasteText("1/2/3\tLampe\n1/2/400\tx\n1/2/4\ty\t\twarm\n"); },
         "0/0/1 Eins|1/2/3 Lampe|1/2/4 Jalousie|1/3/3 Wind|5/0/0 Regen");
+    row(
+        "addresses called like titles", [](T& t) { return t.pasteText("0/0/9\tAktiv\t\t1.001\n0/0/8\tName\tTyp\n"); },
+        "0/0/1 Eins|0/0/8 Name|0/0/9 Aktiv 1.001|1/2/3 Licht|1/2/4 Jalousie|1/3/3 Wind|5/0/0 Regen");
+    row(
+        "names called like titles", [](T& t) { return t.pasteText("Zentral\nAktiv\n", "1/2/*"); },
+        "0/0/1 Eins|1/2/0 Zentral|1/2/1 Aktiv|1/2/3 Licht|1/2/4 Jalousie|1/3/3 Wind|5/0/0 Regen");
+    row(
+        "table with mostly wrong addresses",
+        [](T& t) { return t.pasteText("99/0/0\ta\n1/2/400\tb\nName\tc\n2/0/0\td\n", "1/2/*"); },
+        "0/0/1 Eins|1/2/3 Licht|1/2/4 Jalousie|1/3/3 Wind|2/0/0 d|5/0/0 Regen");
     refused(
         "names without a place", [](T& t) { return t.pasteText("Erste\n"); }, "keine Mittelgruppe");
     refused(
