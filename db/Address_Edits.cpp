@@ -22,8 +22,8 @@ constexpr qsizetype cManyRecords = 50;
 
 struct Field_Row {
   Field mField = Field::Name;
-  const char* mStep;                 ///< how the undo step is called
-  bool DB_Address_Sub_Group::*mFlag; ///< none for texts
+  const char* mStep = "";                      ///< how the undo step is called
+  bool DB_Address_Sub_Group::*mFlag = nullptr; ///< none for texts
 };
 
 // clang-format off
@@ -31,7 +31,7 @@ constexpr Field_Row cFields[] = {
     {Field::Name, QT_TRANSLATE_NOOP("Address_Edits", "Umbenennen"), nullptr},
     {Field::Description, QT_TRANSLATE_NOOP("Address_Edits", "Beschreibung ändern"), nullptr},
     {Field::Type, QT_TRANSLATE_NOOP("Address_Edits", "Datenpunkttyp ändern"), nullptr},
-    {Field::ReadAtStart, QT_TRANSLATE_NOOP("Address_Edits", "Lesen beim Start ändern"), &DB_Address_Sub_Group::mReadAtStart},
+    {Field::ReadAtStart, QT_TRANSLATE_NOOP("Address_Edits", "Lesen Start ändern"), &DB_Address_Sub_Group::mReadAtStart},
     {Field::ReadCyclic, QT_TRANSLATE_NOOP("Address_Edits", "Zyklisches Lesen ändern"), &DB_Address_Sub_Group::mReadCyclic},
     {Field::Write, QT_TRANSLATE_NOOP("Address_Edits", "Schreiben ändern"), &DB_Address_Sub_Group::mWrite},
     {Field::Active, QT_TRANSLATE_NOOP("Address_Edits", "Aktivierung ändern"), &DB_Address_Sub_Group::mActive},

@@ -184,7 +184,7 @@ void Address_Import_Preview::updateTexts() {
     QPushButton* const button = mKinds[static_cast<size_t>(row.mKind)];
     button->setText(tr(row.mText).arg(Decimal_Text::count(plan.count(row.mKind))));
   }
-  QString unchanged = tr("Unverändert %1").arg(Decimal_Text::count(plan.unchangedCount()));
+  QString unchanged = tr("Bleiben unverändert: %1").arg(Decimal_Text::count(plan.unchangedCount()));
   if (plan.repeatedCount() > 0) {
     unchanged += tr(", gleich wiederholt %1").arg(Decimal_Text::count(plan.repeatedCount()));
   }

@@ -32,7 +32,7 @@ struct Flag_Row {
 };
 
 constexpr Flag_Row cFlags[] = {
-    {Address_Rows::cReadAtStart, QT_TRANSLATE_NOOP("Address_Tree_View", "Lesen beim &Start")},
+    {Address_Rows::cReadAtStart, QT_TRANSLATE_NOOP("Address_Tree_View", "Lesen &Start")},
     {Address_Rows::cReadCyclic, QT_TRANSLATE_NOOP("Address_Tree_View", "Lesen &zyklisch")},
     {Address_Rows::cWrite, QT_TRANSLATE_NOOP("Address_Tree_View", "S&chreiben")},
     {Address_Rows::cActive, QT_TRANSLATE_NOOP("Address_Tree_View", "&Aktiv")},

@@ -17,8 +17,12 @@ struct Ets_Reading::Work {
 
   void run() {
     QFile file(mPath);
-    if (!QFileInfo(mPath).isFile()) {
+    const QFileInfo info(mPath);
+    if (!info.exists()) {
       mError = tr("Die Datei gibt es nicht. Den Pfad prüfen oder die Datei neu wählen.");
+    } else if (!info.isFile()) {
+      mError =
+          info.isDir() ? tr("Das ist ein Ordner. Eine Datei daraus wählen.") : tr("Das ist keine gewöhnliche Datei.");
     } else if (!file.open(QIODevice::ReadOnly)) {
       mError = tr("Die Datei lässt sich nicht öffnen: %1").arg(file.errorString());
     } else {

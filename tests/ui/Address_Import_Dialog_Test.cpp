@@ -120,9 +120,10 @@ private slots:
     QTRY_VERIFY(mDialog->findChild<QPlainTextEdit*>(u"mFaultTexts"_s)->isVisible());
     QVERIFY(mDialog->findChild<QPlainTextEdit*>(u"mFaultTexts"_s)->toPlainText().startsWith(u"Zeile 3: "_s));
     auto* const error = mDialog->findChild<QLabel*>(u"mErrorText"_s);
-    for (const QString& path : {mRig->path(u"fehlt.xml"_s), mRig->folder()}) {
+    for (const auto& [path, told] :
+         {std::pair(mRig->path(u"fehlt.xml"_s), u"Die Datei gibt es nicht."_s), {mRig->folder(), u"ein Ordner"_s}}) {
       type(path);
-      QTRY_VERIFY(error->isVisible() && error->text().contains(u"Die Datei gibt es nicht."));
+      QTRY_VERIFY(error->isVisible() && error->text().contains(told));
       QVERIFY(!import()->isEnabled() && !import()->toolTip().isEmpty());
       QCOMPARE(mTree->model()->rowCount(), 0);
       QVERIFY(!mDialog->findChild<QPlainTextEdit*>(u"mFaultTexts"_s)->isVisible());
