@@ -152,7 +152,8 @@ private slots:
     for (const auto& block : database().mFbPages.pages().at(0).mChildren) {
       DB_Bindings::visitOwner(*block, [](const DB_Address_Binding& binding) {
         const bool isVariable = binding.mKind == DB_Address_Binding::Kind::Internal;
-        QCOMPARE(binding.mName == QStringLiteral("Nacht") && binding.mDpt == Datapoint_Id(5, 10), isVariable);
+        const bool isChanged = binding.mName == QStringLiteral("Nacht") && binding.mDpt == Datapoint_Id{5, 10};
+        QCOMPARE(isChanged, isVariable);
       });
     }
     QVERIFY(session.history().undo());

@@ -203,7 +203,7 @@ private:
   /// One block goes, another comes, a third goes to the end of its page.
   void blocksComeAndGo(int salt) {
     DB_Page_List<DB_FB_Page>& list = session().database().mFbPages;
-    const DB_FB_Page& page = *list.pages().begin()->get();
+    const DB_FB_Page& page = **list.pages().begin();
     Edit_Scope scope(history(), QStringLiteral("Bausteine"), Grouping::Own);
     Undo_Adapter& undo = session().blockUndo();
     if (page.mChildren.size() > 2) {

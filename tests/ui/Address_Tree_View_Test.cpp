@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMimeData>
+#include <QTextEdit>
 #include <QTimer>
 
 /// The tree of group addresses, edited through its keys: 1/2/3 "Licht" and 4/0/0 "Wind" are in use, 1/2/4 "Reserve" is
