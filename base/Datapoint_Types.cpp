@@ -81,6 +81,26 @@ QString shared(std::span<const Datapoint_Type> types) {
   }
 }
 
+constexpr size_t cSearchRanks = 4;
+
+/// The lower the better; none when a word is missing.
+std::optional<size_t> searchRank(const QString& description, const QString& name, const QStringList& words) {
+  bool isAtStarts = true;
+  for (const QString& word : words) {
+    qsizetype at = description.indexOf(word, 0, Qt::CaseInsensitive);
+    if (at < 0) {
+      return std::nullopt;
+    }
+    while (at > 0 && description[at - 1].isLetterOrNumber()) {
+      at = description.indexOf(word, at + 1, Qt::CaseInsensitive);
+    }
+    isAtStarts = isAtStarts && at >= 0;
+  }
+  const QString text = words.join(u' ');
+  const bool isStart = description.startsWith(text, Qt::CaseInsensitive) || name.startsWith(text, Qt::CaseInsensitive);
+  return isStart ? 1 : isAtStarts ? 2 : 3;
+}
+
 } // namespace
 
 std::span<const Datapoint_Type> Datapoint_Types::all() {
@@ -123,6 +143,23 @@ QString Datapoint_Types::describe(Datapoint_Id id) {
   const std::span<const Datapoint_Type> types = ofMain(id.mMain);
   const QString known = types.empty() ? QString() : shared(types);
   return known.isEmpty() ? id.toString() : QStringLiteral("%1 (%2)").arg(id.toString(), known);
+}
+
+QList<Datapoint_Id> Datapoint_Types::search(const QString& text) {
+  const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
+  const Datapoint_Id number = Datapoint_Id::parse(text).value_or(Datapoint_Id());
+  std::array<QList<Datapoint_Id>, cSearchRanks> found;
+  for (const Datapoint_Type& type : cTypes) {
+    const std::optional<size_t> rank = type.mId == number ? 0 : searchRank(describe(type.mId), type.name(), words);
+    if (rank) {
+      found[*rank].append(type.mId);
+    }
+  }
+  QList<Datapoint_Id> all;
+  for (const QList<Datapoint_Id>& ids : found) {
+    all += ids;
+  }
+  return all;
 }
 
 QList<Datapoint_Types::Value_Text> Datapoint_Types::valueTexts(const Datapoint_Type& type) {

@@ -31,6 +31,10 @@ struct Value_Text {
 /// the main number is known, the bare number where nothing is, empty for no type.
 [[nodiscard]] QString describe(Datapoint_Id id);
 
+/// The types whose number or description holds every word of the text, in any case: first the one of just this number,
+/// then those that begin with the text, with words that do, and the others. All types for an empty text.
+[[nodiscard]] QList<Datapoint_Id> search(const QString& text);
+
 /// The values that have a text, in ascending order.
 [[nodiscard]] QList<Value_Text> valueTexts(const Datapoint_Type& type);
 /// The text of one value; empty when it has none.

@@ -7,6 +7,7 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QStringListModel>
 
 namespace {
 
@@ -19,10 +20,10 @@ QString numberIn(const QString& text) {
   return Datapoint_Id::parse(first) ? first : text;
 }
 
-QStringList allTypes() {
+QStringList typesWith(const QString& text) {
   QStringList types;
-  for (const Datapoint_Type& type : Datapoint_Types::all()) {
-    types.append(Datapoint_Types::describe(type.mId));
+  for (const Datapoint_Id& id : Datapoint_Types::search(text)) {
+    types.append(Datapoint_Types::describe(id));
   }
   return types;
 }
@@ -32,16 +33,20 @@ QStringList allTypes() {
 Datapoint_Edit::Datapoint_Edit(QWidget* parent)
     : Checked_Line_Edit(
           [](const QString& text) { return Address_Edits::check(Address_Edits::Field::Type, numberIn(text)).mError; },
-          parent) {
-  static const QStringList types = allTypes();
-  auto* const completer = new QCompleter(types, this);
-  completer->setCaseSensitivity(Qt::CaseInsensitive);
-  completer->setFilterMode(Qt::MatchContains);
+          parent),
+      mFound(new QStringListModel(this)) {
+  auto* const completer = new QCompleter(mFound, this);
+  completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion); // the model holds what is found
   completer->setMaxVisibleItems(cShownTypes);
   completer->popup()->setMinimumWidth(cListWidth);
   setCompleter(completer);
   completer->popup()->installEventFilter(this);
+  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { search(text); });
   setPlaceholderText(tr("Nummer oder Name"));
+}
+
+void Datapoint_Edit::search(const QString& text) {
+  mFound->setStringList(typesWith(text));
 }
 
 Datapoint_Id Datapoint_Edit::type() const {
@@ -72,7 +77,7 @@ bool Datapoint_Edit::eventFilter(QObject* watched, QEvent* event) {
 /// The arrow shows all types when nothing is typed yet.
 void Datapoint_Edit::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Down && !completer()->popup()->isVisible()) {
-    completer()->setCompletionPrefix(numberIn(text()));
+    search(numberIn(text()));
     completer()->complete();
     return;
   }

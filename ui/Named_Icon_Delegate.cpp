@@ -3,19 +3,6 @@
 #include "db/Model_Roles.h"
 #include "ui/Theme.h"
 
-#include <algorithm>
-
-namespace {
-constexpr int cRowHeight = 24;
-constexpr int cRowGap = 8;
-} // namespace
-
-QSize Named_Icon_Delegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  QSize size = QStyledItemDelegate::sizeHint(option, index);
-  size.setHeight(std::max(cRowHeight, option.fontMetrics.height() + cRowGap));
-  return size;
-}
-
 void Named_Icon_Delegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
   const QString name = index.data(Model_Roles::cIconName).toString();

@@ -5,14 +5,12 @@
 #include <QString>
 #include <QStyledItemDelegate>
 
-/// Draws the items of models of the data layer: with the icon that the model names, in rows of at least 24 pixels.
+/// Draws the items of models of the data layer: with the icon that the model names.
 class Named_Icon_Delegate : public QStyledItemDelegate {
   Q_OBJECT
 
 public:
   using QStyledItemDelegate::QStyledItemDelegate;
-
-  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

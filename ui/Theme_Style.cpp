@@ -4,12 +4,18 @@
 
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace {
 
 /// By how much Fusion darkens the colours it is given, in percent.
 constexpr int cFocusDarker = 125;
 constexpr int cOutlineDarker = 140;
 constexpr int cButtonLighter = 130;
+
+/// Pixels of a row of a list, a tree or a table: at least, and more than its text.
+constexpr int cRowHeight = 24;
+constexpr int cRowGap = 8;
 
 void brightenFocus(QPalette& palette) {
   palette.setColor(QPalette::Highlight, Theme::color(Theme::Role::Accent).lighter(cFocusDarker));
@@ -77,4 +83,13 @@ void Theme_Style::drawComplexControl(ComplexControl control, const QStyleOptionC
   if (!isDrawn) {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
   }
+}
+
+QSize Theme_Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                    const QWidget* widget) const {
+  QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
+  if (type == CT_ItemViewItem) {
+    result.setHeight(std::max({result.height(), cRowHeight, option->fontMetrics.height() + cRowGap}));
+  }
+  return result;
 }

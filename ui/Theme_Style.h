@@ -3,7 +3,8 @@
 #include <QProxyStyle>
 
 /// The toolkit's Fusion style made readable on dark ground. Fusion derives the colours of lines from those of areas:
-/// the keyboard focus from selected text, the outline of a check box from the window; both come out too dark here.
+/// the keyboard focus from selected text, the outline of a check box from the window; both come out too dark here. Rows
+/// of lists, trees and tables are at least 24 pixels high.
 class Theme_Style : public QProxyStyle {
   Q_OBJECT
 
@@ -14,4 +15,6 @@ public:
                      const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
+  [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                       const QWidget* widget) const override;
 };

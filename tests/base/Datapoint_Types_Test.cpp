@@ -94,6 +94,24 @@ private slots:
     QTEST(Datapoint_Types::bitsOf(parsed), "bits");
   }
 
+  void search_data() {
+    QTest::addColumn<QString>("found");
+    QTest::newRow("temp") << QStringLiteral("9.001 9.002 9.003 9.027 14.068 14.070 14.069 7.600 249.600 250.600");
+    QTest::newRow("9.1") << QStringLiteral("9.001");
+    QTest::newRow(" DIFF temp ") << QStringLiteral("9.002 14.070");
+    QTest::newRow("9.01") << QStringLiteral("9.001 9.010 9.011 29.010 29.011 29.012");
+    QTest::newRow("nichts davon") << QString();
+  }
+
+  void search() {
+    QStringList found;
+    for (const Datapoint_Id& id : Datapoint_Types::search(QString::fromUtf8(QTest::currentDataTag()))) {
+      found.append(id.toString());
+    }
+    QTEST(found.join(u' '), "found");
+    QCOMPARE(Datapoint_Types::search({}).size(), Datapoint_Types::all().size());
+  }
+
   void valueTexts() {
     const Datapoint_Type& hvac = *Datapoint_Types::find({20, 105});
     QCOMPARE(Datapoint_Types::valueText(hvac, 20), "Keine Anforderung");
