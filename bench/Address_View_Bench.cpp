@@ -15,6 +15,9 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 
+#include <cstdio>
+#include <cstdlib>
+
 // The address tree as a user of the largest bus feels it: 65,536 addresses and 10,000 blocks; from the key to the
 // painted result. Painted offscreen into an image of the size that the view has in a full window.
 
@@ -27,11 +30,18 @@ constexpr double cFilterLimit = 100; // ms
 constexpr double cScrollLimit = 16;  // ms
 constexpr double cEditLimit = 100;   // ms
 
+void require(bool isTrue, const char* what) {
+  if (!isTrue) {
+    std::fprintf(stderr, "Address_View_Bench: %s\n", what);
+    std::exit(2);
+  }
+}
+
 class Rig {
 public:
   Rig() {
     qputenv("TMPDIR", mFolder.path().toLocal8Bit());
-    mSession.create(mFolder.filePath(QStringLiteral("big.zpro")), {});
+    require(mSession.create(mFolder.filePath(QStringLiteral("big.zpro")), {}), "no project");
     Big_Project(mSession.database(), Big_Project::cBusAddresses).fill();
     emit mSession.opened();
     mWindow.resize(cViewSize);
@@ -40,7 +50,11 @@ public:
     QCoreApplication::processEvents();
     mTree = mView.findChild<Address_Tree_View*>();
     mFilter = mView.findChild<QLineEdit*>();
+    mModel = mView.findChild<Address_Tree_Model*>();
+    require(mTree && mFilter && mModel && shown() == Big_Project::cBusAddresses, "not all addresses are shown");
   }
+
+  [[nodiscard]] int shown() const { return mModel->shownSubGroupCount(); }
 
   /// What an edit or key has caused, until it is painted.
   void paint() {
@@ -62,20 +76,29 @@ public:
   QWidget mWindow; ///< takes the view's changing least size, which the offscreen platform complains of
   Address_View mView{mSession, &mWindow};
   Address_Tree_View* mTree = nullptr;
+  Address_Tree_Model* mModel = nullptr;
   QLineEdit* mFilter = nullptr;
 };
 
 void measureFilter(Rig& rig, Bench_Table& table) {
-  for (const auto& [name, text] : {std::pair("filter: no hit", "gibtesnicht"),
-                                   {"filter: 2,800 hits", "wohnzimmer wand"},
-                                   {"filter: 8,192 hits", "jalousie"},
-                                   {"filter: an address", "12/3/45"},
-                                   {"filter: all 65,536 hits", "e"}}) {
+  struct Case {
+    const char* mName;
+    const char* mText;
+    int mHits;
+  };
+  constexpr int cAll = Big_Project::cBusAddresses;
+  for (const auto& [name, text, hits] : {Case{"filter: no hit", "gibtesnicht", 0},
+                                         {"filter: 911 hits of two words", "wohnzimmer wand", 911},
+                                         {"filter: 8,192 hits", "jalousie", 8192},
+                                         {"filter: an address", "12/3/45", 1},
+                                         {"filter: all 65,536 hits", "e", cAll}}) {
     std::vector<double> times;
     times.reserve(cRuns);
     for (int run = 0; run < cRuns; ++run) {
       times.push_back(rig.filter(QString::fromUtf8(text)));
+      require(rig.shown() == hits, "the filter shows something else");
       rig.filter({});
+      require(rig.shown() == cAll, "the filter is not cleared");
     }
     table.add(name, Bench_Table::median(times), cFilterLimit, "ms");
   }
@@ -92,6 +115,7 @@ void measureScroll(Rig& rig, Bench_Table& table) {
   rig.mTree->expandAll();
   rig.paint();
   QScrollBar& bar = *rig.mTree->verticalScrollBar();
+  require(bar.maximum() > Big_Project::cBusAddresses, "nothing to scroll");
   QImage image(cViewSize, QImage::Format_RGB32);
   std::vector<double> times;
   times.reserve(cSteps);
@@ -122,23 +146,27 @@ void measureEdits(Rig& rig, Bench_Table& table) {
     table.add(name, Bench_Table::median(times), limit, "ms");
   };
   using Field = Address_Edits::Field;
-  measure("edit: a name", cEditLimit,
-          [&](int run) { Address_Edits::set(rig.mSession, {key}, Field::Name, QStringLiteral("Name %1").arg(run)); });
+  const auto done = [](const Edit_Result& result) { require(static_cast<bool>(result), "an edit is refused"); };
+  const auto undo = [&rig] { require(rig.mSession.history().undo(), "nothing is undone"); };
+  measure("edit: a name", cEditLimit, [&](int run) {
+    done(Address_Edits::set(rig.mSession, {key}, Field::Name, QStringLiteral("Name %1").arg(run)));
+  });
   measure("edit: an address deleted and back", 2 * cEditLimit, [&](int) {
-    Address_Edits::remove(rig.mSession, {key});
-    rig.mSession.history().undo();
+    done(Address_Edits::remove(rig.mSession, {key}));
+    undo();
   });
   QList<QUuid> mains;
   for (const auto& main : tree.mainGroups()) {
     mains.append(main->mKey);
   }
   measure("edit: a flag of all 65,536", 1000,
-          [&](int run) { Address_Edits::set(rig.mSession, mains, Field::Active, run % 2 == 1); });
-  measure("edit: undo of that", 1000, [&](int) { rig.mSession.history().undo(); });
+          [&](int run) { done(Address_Edits::set(rig.mSession, mains, Field::Active, run % 2 == 1)); });
+  measure("edit: undo of that", 1000, [&](int) { undo(); });
   measure("edit: all deleted and back", 2000, [&](int) {
-    Address_Edits::remove(rig.mSession, mains);
+    done(Address_Edits::remove(rig.mSession, mains));
     rig.mSession.history().commit();
-    rig.mSession.history().undo();
+    require(rig.shown() == 0, "not all are deleted");
+    undo();
   });
   measure("sort by name", 300, [&](int run) {
     rig.mTree->sortByColumn(Address_Rows::cName, run % 2 == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);

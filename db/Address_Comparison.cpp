@@ -43,13 +43,6 @@ bool changesSize(const Datapoint_Id& from, const Datapoint_Id& to) {
   return bitsOf(from) > 0 && bitsOf(to) > 0 && bitsOf(from) != bitsOf(to);
 }
 
-/// A file without a single one cannot tell that one was removed: older exports have none.
-bool tellsDescriptions(const Ets_Groups& groups) {
-  const auto isDescribed = [](const auto& item) { return !item.mDescription.isEmpty(); };
-  return std::any_of(groups.mAddresses.begin(), groups.mAddresses.end(), isDescribed) ||
-         std::any_of(groups.mRanges.begin(), groups.mRanges.end(), isDescribed);
-}
-
 /// Central and unfiltered: XML leaves them out where they are not set.
 bool tellsFlags(const Ets_Groups& groups) {
   const auto isFlagged = [](const Ets_Groups::Address& entry) { return entry.mCentral || entry.mUnfiltered; };
@@ -84,9 +77,8 @@ Address_Comparison::Address_Comparison(const ProjectDatabase& database, const Et
     : mDatabase(database),
       mGroups(groups),
       mOptions(options),
-      mTellsDescriptions(tellsDescriptions(groups)),
       mTellsFlags(tellsFlags(groups)),
-      mGroupComparison(database, groups, options, mTellsDescriptions),
+      mGroupComparison(database, groups, options),
       mUsage(database) {}
 
 Address_Import_Plan Address_Comparison::plan() {
@@ -183,8 +175,9 @@ void Address_Comparison::keepPresent(Values& values, const Values& present) cons
   if (mOptions.mKeepComment || values.mName.isEmpty() || DB_Text::isSameLine(values.mName, present.mName)) {
     values.mName = present.mName;
   }
-  const bool tellsNone = values.mDescription.isEmpty() && !mTellsDescriptions;
-  if (mOptions.mKeepComment || tellsNone || DB_Text::isSameLine(values.mDescription, present.mDescription)) {
+  // Descriptions are often written here, and an export without one does not tell that it was removed.
+  if (mOptions.mKeepComment || values.mDescription.isEmpty() ||
+      DB_Text::isSameLine(values.mDescription, present.mDescription)) {
     values.mDescription = present.mDescription;
   }
   if (keepsType(values, present)) {

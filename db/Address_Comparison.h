@@ -46,7 +46,6 @@ private:
   const ProjectDatabase& mDatabase;
   const Ets_Groups& mGroups;
   const Address_Import::Options& mOptions;
-  bool mTellsDescriptions;
   bool mTellsFlags;
   Address_Group_Comparison mGroupComparison;
   Address_Usage mUsage;

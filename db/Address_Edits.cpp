@@ -168,7 +168,10 @@ Edit_Result Address_Edits::set(Project_Session& session, const QList<QUuid>& key
     }
   }
   if (targets.isEmpty()) {
-    return Edit_Result::refused(tr("Die Adresse gibt es nicht mehr."));
+    const bool isThere =
+        std::any_of(keys.cbegin(), keys.cend(), [&tree](const QUuid& key) { return tree.record(key); });
+    return Edit_Result::refused(isThere ? tr("In der Gruppe ist keine Adresse.")
+                                        : tr("Die Adresse gibt es nicht mehr."));
   }
   Edit_Scope scope(session.history(), tr(rowOf(field).mStep));
   if (!scope) {

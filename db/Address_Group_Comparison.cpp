@@ -22,11 +22,10 @@ Address_Import_Row::Values valuesOf(const Group* group) {
 } // namespace
 
 Address_Group_Comparison::Address_Group_Comparison(const ProjectDatabase& database, const Ets_Groups& groups,
-                                                   const Address_Import::Options& options, bool tellsDescriptions)
+                                                   const Address_Import::Options& options)
     : mDatabase(database),
       mGroups(groups),
       mOptions(options),
-      mTellsDescriptions(tellsDescriptions),
       mNames(groups.mRanges) {}
 
 void Address_Group_Comparison::need(const Group_Address& address, bool isTicked) {
@@ -79,8 +78,7 @@ void Address_Group_Comparison::compare(Level level, const Group_Address& address
     if (isKept || name.mName.isEmpty() || DB_Text::isSameLine(name.mName, present->mName)) {
       row.mIncoming.mName = present->mName;
     }
-    const bool tellsNone = name.mDescription.isEmpty() && (!mTellsDescriptions || name.mName.isEmpty());
-    if (isKept || tellsNone || DB_Text::isSameLine(name.mDescription, present->mDescription)) {
+    if (isKept || name.mDescription.isEmpty() || DB_Text::isSameLine(name.mDescription, present->mDescription)) {
       row.mIncoming.mDescription = present->mDescription;
     }
   }

@@ -13,7 +13,7 @@ class DB_Address_MainGroup;
 class Address_Group_Comparison {
 public:
   Address_Group_Comparison(const ProjectDatabase& database, const Ets_Groups& groups,
-                           const Address_Import::Options& options, bool tellsDescriptions);
+                           const Address_Import::Options& options);
 
   /// The groups that an address stands in take part, whether or not the file names them. A new group is ticked when one
   /// of its addresses is.
@@ -35,7 +35,6 @@ private:
   const ProjectDatabase& mDatabase;
   const Ets_Groups& mGroups;
   const Address_Import::Options& mOptions;
-  bool mTellsDescriptions;
   Ets_Group_Names mNames;
   QHash<Group_Address, bool> mNeededMain; ///< and whether it is ticked
   QHash<Group_Address, bool> mNeededMiddle;

@@ -126,7 +126,9 @@ private:
                                         const DB_Address_Middle_Group& middle) {
     const QString path = middle.mName.isEmpty() ? main.mName : main.mName + QStringLiteral(" / ") + middle.mName;
     QStringList origin(row.mForeignText);
-    if (row.mRangePath != path) {
+    // An ESF divides the names by points, and so leaves open where they end.
+    const auto withPoints = [](QString names) { return names.replace(QStringLiteral(" / "), QStringLiteral(".")); };
+    if (withPoints(row.mRangePath) != withPoints(path)) {
       origin.append(row.mRangePath);
     }
     origin.removeAll(QString());

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 #include <charconv>
 #include <type_traits>
 
@@ -102,6 +103,8 @@ private:
 
 /// Makes the rows of one build.
 class Address_Rows::Builder {
+  using Words = std::bitset<32>; ///< of the first words of the filter
+
 public:
   Builder(Address_Rows& rows, const QStringList& words) : mRows(rows) {
     mWords.reserve(static_cast<size_t>(words.size()));
@@ -111,7 +114,7 @@ public:
   }
 
   template <class Groups>
-  void addGroups(std::vector<Row>& rows, const Row* parent, const Groups& groups) {
+  void addGroups(std::vector<Row>& rows, const Row* parent, const Groups& groups, Words named = {}) {
     // Children point to their parent's row, so the list must not move.
     rows.reserve(static_cast<size_t>(groups.size()) + (parent ? 0 : 1));
     for (const auto* const group : inOrder(groups)) {
@@ -119,11 +122,11 @@ public:
       Row& row = add(rows, kindOf<Group>(), group->mNumber, parent);
       row.mRecord = group;
       if constexpr (std::is_same_v<Group, DB_Address_MainGroup>) {
-        addGroups(row.mChildren, &row, group->mMiddleGroups);
+        addGroups(row.mChildren, &row, group->mMiddleGroups, named | wordsIn(group->mName));
       } else if constexpr (std::is_same_v<Group, DB_Address_Middle_Group>) {
-        addGroups(row.mChildren, &row, group->mSubGroups);
+        addGroups(row.mChildren, &row, group->mSubGroups, named | wordsIn(group->mName));
       }
-      if (row.mChildren.empty() && !passes(row)) {
+      if (row.mChildren.empty() && !passes(row, named)) {
         rows.pop_back();
       } else if constexpr (std::is_same_v<Group, DB_Address_Sub_Group>) {
         ++mRows.mSubCount;
@@ -222,8 +225,22 @@ private:
     std::transform(keyed.begin(), keyed.end(), list.begin(), [](const auto& pair) { return pair.second; });
   }
 
-  [[nodiscard]] bool passes(const Row& row) const {
-    return std::all_of(mWords.cbegin(), mWords.cend(), [&](const Word& word) { return contains(row, word); });
+  /// The words that a group's name holds; what is in it need not hold them once more.
+  [[nodiscard]] Words wordsIn(const QString& name) const {
+    Words words;
+    for (size_t i = 0; i < std::min(mWords.size(), words.size()); ++i) {
+      words[i] = mWords[i].isIn(name);
+    }
+    return words;
+  }
+
+  [[nodiscard]] bool passes(const Row& row, const Words& named = {}) const {
+    for (size_t i = 0; i < mWords.size(); ++i) {
+      if (!(i < named.size() && named[i]) && !contains(row, mWords[i])) {
+        return false;
+      }
+    }
+    return true;
   }
 
   [[nodiscard]] bool contains(const Row& row, const Word& word) const {

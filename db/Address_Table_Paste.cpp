@@ -1,6 +1,8 @@
 #include "db/Address_Table_Paste.h"
 
 #include "db/Address_Edits.h"
+#include "db/Address_Type_Text.h"
+#include "db/DB_Text.h"
 #include "db/Delimited_Text.h"
 #include "db/Edit_Scope.h"
 #include "db/Project_Session.h"
@@ -12,6 +14,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <type_traits>
 
 namespace {
 
@@ -102,9 +105,26 @@ bool isYes(const QString& cell) {
   return yes.contains(cell.trimmed().toLower());
 }
 
-/// A type cell may carry the name behind the number: "9.001 Temperatur".
+/// A type cell may carry the name behind the number: "9.001 Temperatur". Empty for the text that stands for a type of
+/// an import that nobody knows.
 QString typeIn(const QString& cell) {
-  return cell.trimmed().section(u' ', 0, 0);
+  if (cell == Address_Type_Text::shown({}, false, cell)) {
+    return {};
+  }
+  return Datapoint_Id::parse(cell) ? cell : cell.section(u' ', 0, 0);
+}
+
+/// Whether the cell says of the group what it says already. Line breaks do not survive a spreadsheet.
+template <class Group>
+bool isSame(const Group& group, Field field, const QString& cell) {
+  if constexpr (std::is_same_v<Group, DB_Address_Sub_Group>) {
+    if (field == Field::Type) {
+      const bool isUntold = !cell.isEmpty() && typeIn(cell).isEmpty();
+      return isUntold || group.mDpt == Datapoint_Id::parse(typeIn(cell)).value_or(Datapoint_Id());
+    }
+  }
+  return (field == Field::Name && DB_Text::isSameLine(group.mName, cell)) ||
+         (field == Field::Description && DB_Text::isSameLine(group.mDescription, cell));
 }
 
 class Paster {
@@ -190,7 +210,8 @@ private:
       const bool isOfAddress = field != Field::Name && field != Field::Description;
       // A short row, or one of a table without titles, does not empty what it does not tell.
       const bool isTold = column < cells.size() && (mLayout.mHasTitles || !text.isEmpty());
-      if (!isTold || (isOfAddress && !mTree.subGroup(key)) || (isFlag(field) && text.isEmpty())) {
+      if (!isTold || (isOfAddress && !mTree.subGroup(key)) || (isFlag(field) && text.isEmpty()) ||
+          (present && isSame(*present, field, text))) {
         continue;
       }
       const QVariant value = isFlag(field) ? QVariant(isYes(text)) : field == Field::Type ? typeIn(text) : text;

@@ -40,7 +40,7 @@ const std::array<Column_Row, Address_Rows::cColumnCount> cColumns{{
     {QT_TRANSLATE_NOOP("Address_Tree_Model", "Lesen zyklisch"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Die Steuerung liest den Wert in Abständen vom Bus"), Field::ReadCyclic, &DB_Address_Sub_Group::mReadCyclic},
     {QT_TRANSLATE_NOOP("Address_Tree_Model", "Schreiben"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Die Steuerung darf den Wert auf den Bus schreiben"), Field::Write, &DB_Address_Sub_Group::mWrite},
     {QT_TRANSLATE_NOOP("Address_Tree_Model", "Aktiv"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Die Steuerung verwendet die Adresse"), Field::Active, &DB_Address_Sub_Group::mActive},
-    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Herkunft"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Wie die Adresse in einem Import zwei- oder freistufig hieß, und die Bereiche dort"), {}},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Herkunft"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Wie die Adresse und ihre Bereiche in einem Import hießen, wo es hier anders steht"), {}},
 }};
 // clang-format on
 

@@ -28,7 +28,7 @@ public:
   bool mCentral = false;
   bool mUnfiltered = false;
   QString mSecurity; ///< of an import: "Auto", "On", "Off"
-  QString mOrigin;   ///< of an import whose structure is not of three levels: the address as written there, its ranges
+  QString mOrigin;   ///< of an import: the address and its ranges as written there, where the tree tells it otherwise
 };
 
 class DB_Address_Middle_Group : public DB_Record<DB_Address_Middle_Group> {

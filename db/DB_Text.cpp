@@ -1,5 +1,7 @@
 #include "db/DB_Text.h"
 
+#include <algorithm>
+
 QString DB_Text::clean(const QString& text) {
   QString result = text;
   result.removeIf([](QChar c) { return c < u' ' && c != u'\t' && c != u'\n'; });
@@ -7,9 +9,14 @@ QString DB_Text::clean(const QString& text) {
 }
 
 QString DB_Text::singleLine(const QString& text) {
-  return clean(text).simplified();
+  QString result = clean(text);
+  const auto isBreak = [](QChar c) {
+    return c == u'\t' || c == u'\n' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+  };
+  std::replace_if(result.begin(), result.end(), isBreak, QChar(u' '));
+  return result.trimmed();
 }
 
 bool DB_Text::isSameLine(const QString& a, const QString& b) {
-  return a == b || singleLine(a) == singleLine(b);
+  return a == b || clean(a).simplified() == clean(b).simplified();
 }

@@ -8,10 +8,10 @@ namespace DB_Text {
 /// Without the marker bytes 0x02 and 0x03 and other control characters but tab and line break.
 [[nodiscard]] QString clean(const QString& text);
 
-/// As `clean`, with every run of white space as one blank and none at the ends.
+/// As `clean`, with a blank for each line break and tab, and no white space at the ends.
 [[nodiscard]] QString singleLine(const QString& text);
 
-/// True when both are the same as single lines.
+/// True when both are the same but for the kind and number of white space.
 [[nodiscard]] bool isSameLine(const QString& a, const QString& b);
 
 } // namespace DB_Text

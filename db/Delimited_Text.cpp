@@ -14,19 +14,24 @@ bool Delimited_Text::next(Row& row) {
   if (mAt >= mText.size()) {
     return false;
   }
-  row = {mLine, {}, 0};
+  row = {mLine, {}, 0, -1};
   while (true) {
     QString cell;
     if (mQuotes == Quotes::Doubled && mAt < mText.size() && mText[mAt] == cQuote) {
       if (!quotedCell(cell)) {
-        row.mOpenQuoteLine = row.mOpenQuoteLine == 0 ? mLine : row.mOpenQuoteLine;
+        if (row.mOpenQuoteLine == 0) {
+          row.mOpenQuoteLine = mLine;
+          row.mOpenQuoteField = static_cast<int>(row.mFields.size());
+        }
         ++mAt;
         cell = plainCell().toString();
       }
     } else {
       cell = plainCell().toString();
     }
-    row.mFields.append(cell);
+    if (row.mFields.size() < cCellLimit) {
+      row.mFields.append(cell);
+    }
     if (mAt >= mText.size() || mText[mAt] != mSeparator) {
       break;
     }

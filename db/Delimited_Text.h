@@ -13,10 +13,14 @@ class Delimited_Text {
 public:
   enum class Quotes { Doubled, None };
 
+  /// Of a row; further ones are passed over.
+  static constexpr qsizetype cCellLimit = 1000;
+
   struct Row {
     int mLine = 0; ///< where it begins, from 1
     QStringList mFields;
-    int mOpenQuoteLine = 0; ///< of the row's first quote without an end; 0 when there is none
+    int mOpenQuoteLine = 0;   ///< of the row's first quote without an end; 0 when there is none
+    int mOpenQuoteField = -1; ///< the field with it
   };
 
   /// The text must live as long.

@@ -148,7 +148,7 @@ void Ets_Collector::finishGroups() {
 
 void Ets_Collector::refuseIfAllFaulty() {
   if (mGroups.mAddresses.empty() && mGroups.mFaultCount > 0) {
-    setError(tr("Keine Zeile der Datei nennt eine Gruppenadresse. %1").arg(mGroups.mFaults.first()));
+    setError(tr("Kein Eintrag der Datei nennt eine Gruppenadresse. %1").arg(mGroups.mFaults.first()));
   }
 }
 

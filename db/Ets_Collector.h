@@ -48,7 +48,7 @@ public:
   /// Makes the ranges of the named groups, and the range paths of all addresses.
   void finishGroups();
 
-  /// For formats of lines: an error when there are faults and not one address.
+  /// An error when there are faults and not one address.
   void refuseIfAllFaulty();
 
   /// The type of "DPST-9-1", "DPT-9" or "9.001", the last of a list divided by commas or blanks; none for other texts.

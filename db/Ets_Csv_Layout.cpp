@@ -109,6 +109,15 @@ Layout ofHeader(const QStringList& titles) {
   return layout;
 }
 
+/// A title for the names that we do not know stands where ETS has them, in front of the addresses.
+void guessName(Layout& layout, const QStringList& titles) {
+  const int addresses = layout.mAddress >= 0 ? layout.mAddress : layout.mNumbers[0];
+  const int name = addresses == 0 ? 1 : addresses - 1;
+  if (layout.mName < 0 && name < titles.size() && !columnOf(titles[name])) {
+    layout.mName = name;
+  }
+}
+
 bool hasAddresses(const Layout& layout) {
   return layout.mAddress >= 0 || layout.mNumbers[2] >= 0;
 }
@@ -126,21 +135,22 @@ int addressColumn(const std::vector<QStringList>& rows) {
   return *best == 0 ? -1 : static_cast<int>(best - counts.begin());
 }
 
-/// Whether three columns hold the numbers of addresses: nothing else, and in some row all of them.
+/// Whether three columns hold the numbers of addresses: in most rows nothing else, and in some row all of them.
 bool areNumbers(const std::vector<QStringList>& rows, int first) {
   bool hasAddress = false;
+  size_t fitting = 0;
   for (const QStringList& fields : rows) {
     int named = 0;
+    bool isFitting = true;
     for (int i = first; i < first + 3; ++i) {
       const std::optional<int> level = levelOf(fields.value(i));
-      if (!level) {
-        return false;
-      }
-      named += *level >= 0 ? 1 : 0;
+      isFitting = isFitting && level;
+      named += level.value_or(-1) >= 0 ? 1 : 0;
     }
+    fitting += isFitting ? 1 : 0;
     hasAddress = hasAddress || named == 3;
   }
-  return hasAddress;
+  return hasAddress && 2 * fitting > rows.size();
 }
 
 /// What follows the addresses, in the order of ETS.
@@ -187,8 +197,9 @@ std::optional<Ets_Csv_Layout> Ets_Csv_Layout::of(const std::vector<QStringList>&
   const bool isTitle = std::none_of(rows.front().begin(), rows.front().end(), [](const QString& cell) {
     return isAddressCell(cell) || levelOf(cell).value_or(-1) >= 0;
   });
-  const Layout titled = isTitle ? ofHeader(rows.front()) : Layout();
+  Layout titled = isTitle ? ofHeader(rows.front()) : Layout();
   if (hasAddresses(titled)) {
+    guessName(titled, rows.front());
     return titled;
   }
   std::optional<Layout> layout = ofContent(titled.mHasHeader ? std::vector(rows.begin() + 1, rows.end()) : rows);
@@ -196,6 +207,10 @@ std::optional<Ets_Csv_Layout> Ets_Csv_Layout::of(const std::vector<QStringList>&
     layout->mHasHeader = titled.mHasHeader;
   }
   return layout;
+}
+
+bool Ets_Csv_Layout::isOfAddress(int column) const {
+  return column == mAddress || std::find(mNumbers.begin(), mNumbers.end(), column) != mNumbers.end();
 }
 
 std::optional<Ets_Csv_Layout::Place> Ets_Csv_Layout::placeOf(const QStringList& fields) const {

@@ -33,6 +33,8 @@ struct Ets_Csv_Layout {
   /// there is no column of addresses.
   [[nodiscard]] static std::optional<Ets_Csv_Layout> of(const std::vector<QStringList>& rows);
 
+  /// Whether the column is that of the addresses, or one of theirs.
+  [[nodiscard]] bool isOfAddress(int column) const;
   /// Empty when the row names neither an address nor a group.
   [[nodiscard]] std::optional<Place> placeOf(const QStringList& fields) const;
 };

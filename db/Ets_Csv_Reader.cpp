@@ -69,6 +69,10 @@ public:
                                       .arg(DB_Text::singleLine(fields.join(u' ')).left(40)));
       return;
     }
+    if (row.mOpenQuoteField >= 0 && mLayout.isOfAddress(row.mOpenQuoteField)) {
+      mCollector.fault(row.mLine, tr("Die Zeile bricht in der Adresse ab."));
+      return;
+    }
     if (row.mOpenQuoteLine > 0) {
       mCollector.fault(row.mOpenQuoteLine, tr("Ein Anführungszeichen hat kein Ende; es wird als Text gelesen."));
     }

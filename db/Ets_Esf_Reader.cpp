@@ -43,7 +43,8 @@ public:
     }
     const bool hasName =
         std::any_of(fields.begin() + 1, fields.end(), [](const QString& f) { return !f.trimmed().isEmpty(); });
-    if (!hasName && mIsFirst) {
+    const bool isProject = fields.size() == 1 || !isAddress(addressIn(fields.first()));
+    if (!hasName && mIsFirst && isProject) {
       mCollector.groups().mProjectName = DB_Text::singleLine(fields.first());
       mIsFirst = false;
       return;

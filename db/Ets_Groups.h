@@ -44,6 +44,7 @@ struct Ets_Groups {
   QString mProjectName;       ///< where the format tells one
   std::vector<Range> mRanges; ///< outer before inner
   std::vector<Address> mAddresses;
-  QStringList mFaults;       ///< one German sentence with the line number for each of the first elements left out
+  QStringList mFaults; ///< one German sentence with the line number for each of the first elements that are left out or
+                       ///< read in part
   qsizetype mFaultCount = 0; ///< of all of them
 };

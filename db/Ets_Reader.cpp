@@ -82,7 +82,16 @@ bool readChecked(QIODevice& device, Ets_Collector& collector) {
     return false;
   }
   collector.groups().mFormat = *format;
-  return readAs(*format, device, collector) && collector.progress(1, 1);
+  if (!readAs(*format, device, collector)) {
+    return false;
+  }
+  if (collector.groups().mAddresses.empty() && collector.groups().mRanges.empty()) {
+    // Else the whole project would be told as vanished.
+    collector.refuseIfAllFaulty();
+    collector.setError(tr("Die Datei nennt weder Gruppenadressen noch Gruppen."));
+    return false;
+  }
+  return collector.progress(1, 1);
 }
 
 } // namespace

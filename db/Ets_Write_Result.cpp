@@ -30,8 +30,9 @@ void Ets_Write_Result::tellLosses() {
   };
   lose(mDescriptions, tr("Beschreibungen: %1."));
   lose(mTypes, tr("Genaue Datenpunkttypen: %1; die Datei nennt nur ihre Größe."));
-  lose(mEtsAttributes, tr("Zentral, Ungefiltert und Sicherheit: bei %1 Gruppenadressen gesetzt."));
-  lose(mFlags, tr("Lesen Start, Lesen zyklisch, Schreiben und Aktiv: bei %1 Gruppenadressen anders als üblich."));
+  lose(mGuesses, tr("Vermutete Datenpunkttypen: %1; die Datei nennt nur bestätigte."));
+  lose(mEtsAttributes, tr("Gesetzte Angaben zu Zentral, Ungefiltert und Sicherheit, Gruppenadressen: %1."));
+  lose(mFlags, tr("Eigene Angaben zu Lesen Start, Lesen zyklisch, Schreiben und Aktiv, Gruppenadressen: %1."));
   mOmitted = losses + mOmitted;
 }
 
@@ -41,7 +42,7 @@ void Ets_Write_Result::omit(const DB_Address_MainGroup& group) {
     addresses += middle->mSubGroups.size();
   }
   mLeftOut += static_cast<int>(addresses);
-  tell(tr("Hauptgruppe %1 \"%2\" mit %3 Gruppenadressen: auf dem Bus gibt es nur die Hauptgruppen 0 bis 31.")
+  tell(tr("Hauptgruppe %1 \"%2\" (Gruppenadressen: %3): auf dem Bus gibt es nur die Hauptgruppen 0 bis 31.")
            .arg(group.mNumber)
            .arg(group.mName)
            .arg(addresses));
@@ -49,7 +50,7 @@ void Ets_Write_Result::omit(const DB_Address_MainGroup& group) {
 
 void Ets_Write_Result::omit(int main, const DB_Address_Middle_Group& group) {
   mLeftOut += static_cast<int>(group.mSubGroups.size());
-  tell(tr("Mittelgruppe %1/%2 \"%3\" mit %4 Gruppenadressen: auf dem Bus gibt es nur die Mittelgruppen 0 bis 7.")
+  tell(tr("Mittelgruppe %1/%2 \"%3\" (Gruppenadressen: %4): auf dem Bus gibt es nur die Mittelgruppen 0 bis 7.")
            .arg(main)
            .arg(group.mNumber)
            .arg(group.mName)

@@ -26,6 +26,7 @@ struct Ets_Write_Result {
   /// What of it the file cannot hold; told by `tellLosses`, in one sentence for each kind of thing.
   void loseDescription() { ++mDescriptions; }
   void loseType() { ++mTypes; }
+  void loseGuess() { ++mGuesses; }
   void loseEtsAttributes() { ++mEtsAttributes; }
   /// In front of what is omitted.
   void tellLosses();
@@ -44,6 +45,7 @@ private:
 
   qsizetype mDescriptions = 0;
   qsizetype mTypes = 0;
+  qsizetype mGuesses = 0;
   qsizetype mEtsAttributes = 0;
   qsizetype mFlags = 0;
 };

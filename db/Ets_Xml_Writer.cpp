@@ -95,6 +95,9 @@ private:
                 flag("Unfiltered", group.mUnfiltered) + optional("Description", group.mDescription) +
                 optional("DPTs", dptsOf(group)) + optional("Security", group.mSecurity) + QStringLiteral(" />"));
     mResult.add(group);
+    if (group.mDptGuessed && !group.mDpt.isNone()) {
+      mResult.loseGuess();
+    }
   }
 
   void open(int depth, const QString& name, const QString& description, const Group_Address& first, int span) {

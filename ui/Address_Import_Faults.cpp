@@ -38,9 +38,9 @@ void Address_Import_Faults::setGroups(const Ets_Groups* groups) {
     return;
   }
   const qsizetype told = groups->mFaults.size();
-  QString text = count == 1
-                     ? tr("1 Eintrag der Datei ist nicht zu lesen und bleibt weg:")
-                     : tr("%1 Einträge der Datei sind nicht zu lesen und bleiben weg:").arg(Decimal_Text::count(count));
+  QString text =
+      count == 1 ? tr("1 Eintrag der Datei ist nicht oder nur zum Teil zu lesen:")
+                 : tr("%1 Einträge der Datei sind nicht oder nur zum Teil zu lesen:").arg(Decimal_Text::count(count));
   if (told < count) {
     text += u' ' + tr("Die ersten %1 stehen hier.").arg(Decimal_Text::count(told));
   }

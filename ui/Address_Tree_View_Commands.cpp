@@ -94,7 +94,8 @@ void Address_Tree_View::onAddAddress() {
 void Address_Tree_View::toClipboard(Address_Clipboard::Use use) {
   const Wait_Cursor wait;
   auto* const data = new QMimeData;
-  data->setText(selectedText());
+  // With titles a spreadsheet knows the columns, and so does a paste that gets them back.
+  data->setText(titleText() + u'\n' + selectedText());
   Address_Clipboard::fill(*data, mSession, editedKeys(), use);
   QGuiApplication::clipboard()->setMimeData(data);
 }
@@ -193,6 +194,6 @@ void Address_Tree_View::setForSelected(int column, const QVariant& value) {
   const Wait_Cursor wait;
   const QList<QUuid> keys = editedKeys();
   if (tell(Address_Edits::set(mSession, keys, fieldOf(column), value))) {
-    emit info(tr("Gesetzt für %1 ausgewählte Zeilen.").arg(Decimal_Text::count(keys.size())));
+    emit info(tr("Gesetzt für die Auswahl, Zeilen: %1.").arg(Decimal_Text::count(keys.size())));
   }
 }

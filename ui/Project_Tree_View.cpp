@@ -125,18 +125,34 @@ QString Project_Tree_View::selectedText() const {
   for (const QModelIndex& row : selectionModel()->selectedRows()) {
     rows.emplace(placeOf(row), row);
   }
+  const QList<int> columns = shownColumns();
   QStringList lines;
   for (const auto& [place, row] : std::as_const(rows)) {
     QStringList cells;
-    for (int i = 0; i < header()->count(); ++i) {
-      const int column = header()->logicalIndex(i);
-      if (!isColumnHidden(column)) {
-        cells.append(cellText(row.siblingAtColumn(column)));
-      }
+    for (const int column : columns) {
+      cells.append(cellText(row.siblingAtColumn(column)));
     }
     lines.append(cells.join(QLatin1Char('\t')));
   }
   return lines.join(QLatin1Char('\n'));
+}
+
+QString Project_Tree_View::titleText() const {
+  QStringList titles;
+  for (const int column : shownColumns()) {
+    titles.append(model()->headerData(column, Qt::Horizontal).toString());
+  }
+  return titles.join(QLatin1Char('\t'));
+}
+
+QList<int> Project_Tree_View::shownColumns() const {
+  QList<int> columns;
+  for (int i = 0; i < header()->count(); ++i) {
+    if (const int column = header()->logicalIndex(i); !isColumnHidden(column)) {
+      columns.append(column);
+    }
+  }
+  return columns;
 }
 
 void Project_Tree_View::onCopy() {

@@ -19,6 +19,8 @@ public:
   void setRenameColumn(int column);
   /// The selected rows as tab-separated text, one a line.
   [[nodiscard]] QString selectedText() const;
+  /// The titles of the same columns.
+  [[nodiscard]] QString titleText() const;
 
 protected:
   /// Adds a command to the context menu and to the keyboard. `keys` may be empty.
@@ -41,6 +43,8 @@ private:
   QAction* addCommand(const QString& text, const QKeySequence& keys);
   [[nodiscard]] QAction* commandOf(const QKeyEvent& event) const;
   [[nodiscard]] QModelIndex renameIndex() const;
+  /// As they stand from left to right.
+  [[nodiscard]] QList<int> shownColumns() const;
   void onRename();
 
   QAction* mRename = nullptr;

@@ -53,8 +53,22 @@ private slots:
         "flag of several", [](T& t) { return t.set("1/2/*,5/0/0", Field::Active, false); },
         "0/0/1 Eins|1/2/3 Licht aus|1/2/4 Jalousie aus|1/3/3 Wind|5/0/0 Regen aus");
     refused(
-        "flag of an empty group", [](T& t) { return Address_Edits::set(t.session(), {}, Field::Write, true); },
+        "flag of nothing", [](T& t) { return Address_Edits::set(t.session(), {}, Field::Write, true); },
         "gibt es nicht mehr");
+    refused(
+        "flag of an empty group",
+        [](T& t) {
+          QUuid key;
+          Address_Edits::addMainGroup(t.session(), 9, {}, &key);
+          t.session().history().commit();
+          t.session().history().undo();
+          t.session().history().redo();
+          const Edit_Result result = Address_Edits::set(t.session(), {key}, Field::Write, true);
+          t.session().history().undo();
+          t.session().history().clear();
+          return result;
+        },
+        "In der Gruppe ist keine Adresse");
 
     row(
         "add",
@@ -165,6 +179,13 @@ private slots:
     row(
         "table with titles", [](T& t) { return t.pasteText("Typ;Aktiv;Adresse;Name\n9.001 Temperatur;nein;1/2/3;\n"); },
         "0/0/1 Eins|1/2/3  9.001 aus|1/2/4 Jalousie|1/3/3 Wind|5/0/0 Regen");
+    row(
+        "table with types as the tree shows them",
+        [](T& t) {
+          return t.pasteText("Adresse\tDatenpunkttyp\n1/2/3\tDPT 9.001\n1/2/4\t9.001 (vermutet)\n"
+                             "1/3/3\tunbekannt\n5/0/0\t \n");
+        },
+        "0/0/1 Eins|1/2/3 Licht 9.001|1/2/4 Jalousie 9.001|1/3/3 Wind|5/0/0 Regen");
     row(
         "names only", [](T& t) { return t.pasteText("Erste\nZweite\tBeschreibung\t5.001\n", "1/2/*"); },
         "0/0/1 Eins|1/2/0 Erste|1/2/1 Zweite 5.001|1/2/3 Licht|1/2/4 Jalousie|1/3/3 Wind|5/0/0 Regen");

@@ -135,7 +135,7 @@ private slots:
     row("other size, not used", u"C+ 1/1/2 t"_s, second(entry(u"1/1/2"_s, u"Wert"_s, u"9.001"_s)));
     row("guess where there is none", u"C+ 1/1/4 t"_s,
         [](Ets_Groups& groups) { groups.mAddresses[3] = entry(u"1/1/4"_s, u"offen"_s, u"5.001"_s, true); });
-    row("a description vanishes where the file tells others", u"C+ 1/1/1 d, C+ 1/1/2 d"_s,
+    row("a description that the file does not tell stays", u"C+ 1/1/1 d"_s,
         [](Ets_Groups& groups) { groups.mAddresses[0].mDescription = u"Flur"_s; });
     row("central", u"C+ 1/1/1 c"_s, [](Ets_Groups& groups) { groups.mAddresses[0].mCentral = true; });
     row("security that every address has", {}, [](Ets_Groups& groups) { groups.mAddresses[0].mSecurity = u"Auto"_s; });

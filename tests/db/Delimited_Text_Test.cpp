@@ -50,6 +50,16 @@ private slots:
     QCOMPARE(row.mFields, QStringList({QStringLiteral("\"a"), QStringLiteral("\"b\"")}));
   }
 
+  void aRowKeepsSoManyCells() {
+    const QString text = QString(5'000'000, u';') + QStringLiteral("\nb");
+    Delimited_Text reader(text, u';');
+    Delimited_Text::Row row;
+    QVERIFY(reader.next(row));
+    QCOMPARE(row.mFields.size(), Delimited_Text::cCellLimit);
+    QVERIFY(reader.next(row));
+    QCOMPARE(row.mFields, QStringList(QStringLiteral("b")));
+  }
+
   void openQuotesTakeNoTime() {
     QString text;
     for (int i = 0; i < 100'000; ++i) {

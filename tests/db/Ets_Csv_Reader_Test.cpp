@@ -57,12 +57,17 @@ private slots:
     row("several types", "Name;Address;DPT\na;1/2/3;DPST-1-1, DPT-9\nb;1/2/4;9.001\nc;1/2/5;EIS 5",
         "1/2/3 a 9\n1/2/4 b 9.001\n1/2/5 c");
     row("broken lines", "a;1/2/3\nb;32/0/0\nc\n\n;;\nd;1/9/-\ne;1/2/4", "1/2/3 a\n1/2/4 e", "", {2, 3, 6});
-    row("open quote", "\"a;1/2/3\n\"b\";1/2/4\nc;\"1/2/5", "1/2/3 a\n1/2/4 b\n1/2/5 c", "", {1, 3});
+    row("open quote", "\"a;1/2/3\n\"b\";1/2/4\nc;\"1/2/5", "1/2/3 a\n1/2/4 b", "", {1, 3});
+    row("3/3 with a faulty number", "Licht;;;1;-;-\n;EG;;1;2;-\n;;Decke;1;2;3\n;;Wand;1;2;x\n;;Tür;1;2;5",
+        "1/2/3 Decke [Licht / EG]\n1/2/5 Tür [Licht / EG]", "2048-4095 Licht\n 2560-2815 EG", {4});
+    row("3/3 with titles that nobody knows", "A;B;C;D;E;F\nLicht;EG;Decke;1;2;3\nLicht;EG;Wand;1;2;4",
+        "1/2/3 Decke [Licht / EG]\n1/2/4 Wand [Licht / EG]", both, {1});
+    row("a title of the names that nobody knows", "Nom;Address;DPT\nDecke;1/2/3;9.001", "1/2/3 Decke 9.001");
+    row("names that nobody wrote", "Address;Description\n1/2/3;a", "1/2/3  (a)");
     row("open quote in a row without an address", "a;1/2/3\n\"b\nc;1/2/4", "1/2/3 a\n1/2/4 c", "", {2});
     row("titles of a table of the studio", "Adresse;Bezeichnung;Kommentar;Typ\n1/2/3;a;b;9.001", "1/2/3 a 9.001 (b)");
     row("a group called like a title", "Zentral;;;1;-;-\n;EG;;1;2;-\n;;a;1;2;3", "1/2/3 a [Zentral / EG]",
         "2048-4095 Zentral\n 2560-2815 EG");
-    row("header alone", "Group name;Address\n", "");
   }
 
   void layoutsAreRead() {

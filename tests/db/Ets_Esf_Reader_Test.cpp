@@ -30,6 +30,7 @@ private slots:
     row("no project name", cLine, "", one);
     row("blank project name", "\n" + cLine, "", one);
     row("project name in a table", "Mein Haus\t\t\t\t\n" + cLine, "Mein Haus", one);
+    row("address without a name first", "Licht.EG.1/2/3\t\t\t\t\n", "", {QStringLiteral("1/2/3  [Licht / EG]")});
     row("comments", "# alt\nMein Haus\n#" + cLine + cLine, "Mein Haus", one);
     row("CRLF, no end", "Haus\r\n" + cLine.trimmed(), "Haus", one);
     row("more trailing tabs", cLine.trimmed() + "\t\t\t", "", one);

@@ -34,7 +34,7 @@ QStringList namesInTags(const QString& text, const QString& element) {
                                            std::pair("&apos;", "'"), std::pair("&amp;", "&")}) {
         name.replace(QLatin1String(escaped), QLatin1String(plain));
       }
-      names.append(name.simplified());
+      names.append(name.trimmed());
     }
   }
   return names;
@@ -70,7 +70,7 @@ private slots:
       QCOMPARE(read.mAddress.toString(), row.mAddress);
       QCOMPARE(read.mStyle, row.mStyle);
       QCOMPARE(read.mDpt.toString(), row.mType);
-      QCOMPARE(read.mName, QStringLiteral("Licht & mehr"));
+      QCOMPARE(read.mName, QStringLiteral("Licht   & mehr"));
       QVERIFY(read.mCentral && !read.mUnfiltered);
     }
   }
@@ -88,7 +88,9 @@ private slots:
       constexpr int cLines[] = {2, 4, 5, 6};
       QVERIFY2(Ets_Rig::isFaultOfLine(groups.mFaults[i], cLines[i]), qPrintable(groups.mFaults[i]));
     }
-    const QByteArray many = QByteArray("<GroupAddress Name='x' Address='y'/>\n").repeated(900);
+    const QByteArray faulty = QByteArray("<GroupAddress Name='x' Address='y'/>\n").repeated(900);
+    QVERIFY(!readBytes(cOpen + faulty + cClose, groups, error) && error.contains(u"Zeile 1"));
+    const QByteArray many = faulty + "<GroupAddress Name='gut' Address='0/0/1'/>";
     QVERIFY2(readBytes(cOpen + many + cClose, groups, error), qPrintable(error));
     QCOMPARE(groups.mFaults.size(), Ets_Reader::cFaultLimit);
     QCOMPARE(groups.mFaultCount, 900);

@@ -153,7 +153,14 @@ private slots:
   void copyCutAndPaste() {
     select({1, 2, 3});
     QTest::keySequence(mTree, QKeySequence::Copy);
-    QVERIFY(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("1/2/3\tLicht\t")));
+    const QString copied = QGuiApplication::clipboard()->text();
+    QVERIFY(copied.startsWith(QStringLiteral("Adresse\tName\t")) && copied.contains(u"\n1/2/3\tLicht\t"));
+    const size_t position = mRig->mSession.history().position();
+    QGuiApplication::clipboard()->setText(copied); // as it comes back from a spreadsheet
+    QTest::keySequence(mTree, QKeySequence::Paste);
+    QCOMPARE(mRig->mSession.history().position(), position);
+    select({1, 2, 3});
+    QTest::keySequence(mTree, QKeySequence::Copy);
     select({4, 0, 0});
     QTest::keySequence(mTree, QKeySequence::Paste);
     QCOMPARE(tree().subGroup(Group_Address(4, 0, 3))->mName, QStringLiteral("Licht"));

@@ -1,8 +1,15 @@
+#include "base/App_Settings.h"
+#include "db/Address_Rows.h"
 #include "tests/db/Session_Rig.h"
 #include "ui/Address_View.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QTimer>
 #include <QTreeView>
 
 /// The tab of group addresses, used through its keys and read from its widgets. A model tester stands beside it.
@@ -51,6 +58,9 @@ private slots:
         {"1/2/4", {"1/*", "1/2/*", "1/2/4"}},
         {"2/4", {}}, // an address is looked for from its start
         {"4/*", {"4/*", "4/0/*", "4/0/0", "4/0/1"}},
+        {"haus",
+         {"1/*", "1/2/*", "1/2/3", "1/2/4", "1/3/*", "1/3/0"}}, // what a group is called counts for its addresses
+        {"haus bad", {"1/*", "1/2/*", "1/2/4"}},
         {"garage", {}},
         {"bad keller 9.0012", {}},
         {"  ", {"1/*", "1/2/*", "1/2/3", "1/2/4", "1/3/*", "1/3/0", "4/*", "4/0/*", "4/0/0", "4/0/1"}}};
@@ -60,6 +70,43 @@ private slots:
     }
     mRig->mSession.close();
     QCOMPARE(mTree->model()->rowCount(), 0);
+  }
+
+  void columnsKeepPlaceAndVisibility() {
+    fill();
+    QHeaderView* const header = mTree->header();
+    QTimer::singleShot(0, this, [] {
+      auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      QVERIFY(menu);
+      for (QAction* const action : menu->actions()) {
+        if (action->text() == QStringLiteral("Beschreibung")) {
+          action->trigger();
+        }
+      }
+      menu->close();
+    });
+    emit header->customContextMenuRequested({5, 5});
+    QVERIFY(mTree->isColumnHidden(Address_Rows::cDescription));
+    header->moveSection(header->visualIndex(Address_Rows::cType), 1);
+    App_Settings settings(mRig->path(QStringLiteral("s.ini")));
+    mView->saveState(settings);
+
+    Address_View other(mRig->mSession);
+    other.restoreState(settings);
+    const auto* const again = other.findChild<QTreeView*>();
+    QVERIFY(again->isColumnHidden(Address_Rows::cDescription) && !again->isColumnHidden(Address_Rows::cName));
+    QCOMPARE(again->header()->visualIndex(Address_Rows::cType), 1);
+  }
+
+  void countsAreTold() {
+    fill();
+    const auto isTold = [this](const QString& text) {
+      const QList<QLabel*> labels = mView->findChildren<QLabel*>();
+      return std::any_of(labels.begin(), labels.end(), [&text](const QLabel* label) { return label->text() == text; });
+    };
+    QVERIFY(isTold(QStringLiteral("2 Hauptgruppen, 3 Mittelgruppen, 5 Adressen")));
+    setFilter(QStringLiteral("licht"));
+    QTRY_VERIFY(isTold(QStringLiteral("2 von 5 Adressen")));
   }
 
   void expansionAndCurrentSurviveEdits() {
@@ -83,6 +130,7 @@ private:
     bath->mDescription = QStringLiteral("Keller");
     bath->mDpt = {9, 1};
     mRig->addAddress({1, 3, 0}, QStringLiteral("Jalousie"));
+    mRig->mSession.database().mAddresses.mainGroup(1)->mName = QStringLiteral("Haus");
     mRig->addAddress({4, 0, 0}, QStringLiteral("Wind"));
     mRig->addAddress({4, 0, 1}, QStringLiteral("Regen"));
   }
