@@ -105,11 +105,21 @@ void Main_Window_Dev::updateRecentProjects() {
 /// Editors hand their text over when they lose the focus.
 void Main_Window_Dev::commitEditor() {
   const QPointer<QWidget> editor = focusWidget();
-  if (editor && editor->hasFocus()) {
-    editor->clearFocus();
-    if (editor) {
-      editor->setFocus();
-    }
+  if (!editor || !editor->hasFocus()) {
+    return;
+  }
+  QPointer<QWidget> around = editor->parentWidget();
+  editor->clearFocus();
+  if (editor && editor->isVisible()) {
+    editor->setFocus();
+    return;
+  }
+  // The editor of a cell is gone; the keys belong to its view again.
+  while (around && (around->focusPolicy() & Qt::TabFocus) == 0) {
+    around = around->parentWidget();
+  }
+  if (around) {
+    around->setFocus();
   }
 }
 
@@ -159,6 +169,7 @@ void Main_Window_Dev::onShowWelcome() {
 }
 
 void Main_Window_Dev::onEdit_Undo() {
+  commitEditor();
   const QString step = mSession.history().undoText();
   QString refusal;
   if (mSession.history().undo(&refusal)) {
@@ -169,6 +180,7 @@ void Main_Window_Dev::onEdit_Undo() {
 }
 
 void Main_Window_Dev::onEdit_Redo() {
+  commitEditor();
   const QString step = mSession.history().redoText();
   QString refusal;
   if (mSession.history().redo(&refusal)) {

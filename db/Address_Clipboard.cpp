@@ -283,10 +283,12 @@ Edit_Result Address_Clipboard::paste(Project_Session& session, const QByteArray&
   }
   if (unpacked->mIsMove) {
     const QList<QUuid> keys = keysOf(unpacked->mItems);
+    const qsizetype elsewhere = std::count_if(
+        keys.cbegin(), keys.cend(), [&](const QUuid& key) { return parentFor(tree, unpacked->mLevel, key) != parent; });
     Edit_Result edit = Address_Edits::move(session, keys, parent);
     if (edit) {
       result.mKeys = keys;
-      result.mMoved = keys.size();
+      result.mMoved = elsewhere;
     }
     return edit;
   }

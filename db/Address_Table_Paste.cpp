@@ -9,6 +9,7 @@
 #include "db/Table_Titles.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -56,6 +57,15 @@ struct Layout {
   bool mHasTitles = false;
 };
 
+/// A type cell may carry the name behind the number: "9.001 Temperatur". Empty for the text that stands for a type of
+/// an import that nobody knows.
+QString typeIn(const QString& cell) {
+  if (cell == Address_Type_Text::shown({}, false, cell)) {
+    return {};
+  }
+  return Datapoint_Id::parse(cell) ? cell : cell.section(u' ', 0, 0);
+}
+
 /// Whether a cell is meant for an address or a group, be it one that there can be or not.
 bool isLikeAddress(const QString& cell) {
   static const QRegularExpression form(QStringLiteral(R"(^\s*\d+\s*/\s*(\d+|\*)\s*(/\s*(\d+|\*)\s*)?$)"));
@@ -79,6 +89,18 @@ std::optional<Layout> layoutOfTitles(const QStringList& cells) {
   return isTitles && std::none_of(cells.cbegin(), cells.cend(), isLikeAddress) ? std::optional(layout) : std::nullopt;
 }
 
+/// Whether a column tells types: "9.001", "1.001 Schalten".
+bool areTypes(const Rows& rows, int column) {
+  bool hasType = false;
+  const bool areAll = std::all_of(rows.cbegin(), rows.cend(), [&](const Delimited_Text::Row& row) {
+    const QString cell = row.mFields.value(column).trimmed();
+    const std::optional<Datapoint_Id> type = Datapoint_Id::parse(typeIn(cell));
+    hasType = hasType || (type && type->hasSub());
+    return cell.isEmpty() || type;
+  });
+  return areAll && hasType;
+}
+
 /// Of a table without titles: name, description and type, behind the address when any row begins with one.
 Layout layoutOf(const Rows& rows) {
   Layout layout;
@@ -87,9 +109,11 @@ Layout layoutOf(const Rows& rows) {
                   [](const Delimited_Text::Row& row) { return isLikeAddress(row.mFields.value(0)); })) {
     layout.mAddress = column++;
   }
-  for (const Field field : {Field::Name, Field::Description, Field::Type}) {
-    layout.mColumns.emplace(field, column++);
+  layout.mColumns.emplace(Field::Name, column++);
+  if (!areTypes(rows, column)) {
+    layout.mColumns.emplace(Field::Description, column++);
   }
+  layout.mColumns.emplace(Field::Type, column);
   return layout;
 }
 
@@ -103,15 +127,6 @@ bool isYes(const QString& cell) {
                                QStringLiteral("1"),    QStringLiteral("ein"), QStringLiteral("wahr"),
                                QStringLiteral("true"), QStringLiteral("on")};
   return yes.contains(cell.trimmed().toLower());
-}
-
-/// A type cell may carry the name behind the number: "9.001 Temperatur". Empty for the text that stands for a type of
-/// an import that nobody knows.
-QString typeIn(const QString& cell) {
-  if (cell == Address_Type_Text::shown({}, false, cell)) {
-    return {};
-  }
-  return Datapoint_Id::parse(cell) ? cell : cell.section(u' ', 0, 0);
 }
 
 /// Whether the cell says of the group what it says already. Line breaks do not survive a spreadsheet.
@@ -137,6 +152,7 @@ public:
         mResult(result) {}
 
   void paste(const Delimited_Text::Row& row) {
+    mLine = row.mLine;
     const Edit_Result edit = pasteRow(row.mFields);
     if (!edit) {
       mResult.mFaults.append(tr("Zeile %1: %2").arg(row.mLine).arg(edit.mError));
@@ -199,6 +215,9 @@ private:
   template <class Group, class Add>
   Edit_Result pasteAt(const QStringList& cells, const Group* present, Add&& add) {
     QUuid key = present ? present->mKey : QUuid();
+    if (const auto earlier = mLines.constFind(key); present && earlier != mLines.cend()) {
+      return Edit_Result::refused(tr("Von derselben Adresse ist schon Zeile %1.").arg(*earlier));
+    }
     if (!present) {
       if (Edit_Result edit = add(&key); !edit) {
         return edit;
@@ -221,6 +240,7 @@ private:
     mResult.mAdded += present ? 0 : 1;
     mResult.mChanged += present && isChanged ? 1 : 0;
     mResult.mKeys.append(key);
+    mLines.insert(key, mLine);
     return Edit_Result::done();
   }
 
@@ -229,6 +249,8 @@ private:
   const Layout& mLayout;
   QUuid mTarget;
   Result& mResult;
+  QHash<QUuid, int> mLines; ///< of what was pasted
+  int mLine = 0;
   int mNext = 0;
 };
 

@@ -61,6 +61,9 @@ Address_Tree_Model::Address_Tree_Model(Project_Session& session, QObject* parent
   mPagesTimer.setSingleShot(true);
   mPagesTimer.setInterval(0);
   connect(&mPagesTimer, &QTimer::timeout, this, &Address_Tree_Model::onPagesChanged);
+  mOrderTimer.setSingleShot(true);
+  mOrderTimer.setInterval(0);
+  connect(&mOrderTimer, &QTimer::timeout, this, &Address_Tree_Model::reset);
   const auto later = [this] { mPagesTimer.start(); };
   connect(&database.mFbPages, &DB_Page_List_Signals::structureChanged, this, later);
   connect(&database.mWidgetPages, &DB_Page_List_Signals::structureChanged, this, later);
@@ -98,6 +101,9 @@ void Address_Tree_Model::onRecordChanged(const QUuid& key) {
   const QModelIndex first = mIsResetting ? QModelIndex() : indexOf(key);
   if (first.isValid()) {
     emit dataChanged(first, first.siblingAtColumn(Address_Rows::cColumnCount - 1));
+    if (mOrder.mColumn != Address_Rows::cAddress) {
+      mOrderTimer.start(); // the row may stand elsewhere now
+    }
   }
 }
 
@@ -152,6 +158,24 @@ const Address_Use& Address_Tree_Model::useOf(const QModelIndex& index) const {
 QModelIndex Address_Tree_Model::indexOf(const QUuid& key) const {
   const Row* const row = mRows.find(key);
   return row ? createIndex(row->mIndex, 0, row) : QModelIndex();
+}
+
+qsizetype Address_Tree_Model::shownSubGroupCount(const QModelIndex& index) const {
+  switch (kindOf(index)) {
+  case Kind::Sub:
+    return 1;
+  case Kind::Middle:
+    return rowCount(index);
+  case Kind::Main: {
+    qsizetype count = 0;
+    for (const Row& middle : rowOf(index)->mChildren) {
+      count += static_cast<qsizetype>(middle.mChildren.size());
+    }
+    return count;
+  }
+  default:
+    return 0;
+  }
 }
 
 QModelIndex Address_Tree_Model::variablesIndex() const {
@@ -330,7 +354,11 @@ bool Address_Tree_Model::setData(const QModelIndex& index, const QVariant& value
                                                       : Variable_Edits::rename(mSession, key, text));
   }
   if (index.column() == Address_Rows::cAddress) {
-    return tell(Address_Edits::renumber(mSession, key, text));
+    const bool isDone = tell(Address_Edits::renumber(mSession, key, text));
+    if (isDone) {
+      emit renumbered(key);
+    }
+    return isDone;
   }
   return field && !columnOf(index.column()).mFlag && tell(Address_Edits::set(mSession, {key}, *field, text));
 }

@@ -32,6 +32,8 @@ public:
   [[nodiscard]] bool isFiltered() const { return !mWords.isEmpty(); }
   /// Group addresses (third level) that pass the filter.
   [[nodiscard]] qsizetype shownSubGroupCount() const { return mRows.subCount(); }
+  /// Of a group or address; 0 for other rows.
+  [[nodiscard]] qsizetype shownSubGroupCount(const QModelIndex& index) const;
   [[nodiscard]] qsizetype variableCount() const { return static_cast<qsizetype>(mUsage.variables().size()); }
 
   /// The pins and elements that are bound to an address or variable, as they were when the rows were built.
@@ -79,6 +81,8 @@ public:
 signals:
   /// An edit was not done; the German text tells why.
   void refused(const QString& text);
+  /// An edit of the address succeeded; the row may stand elsewhere now.
+  void renumbered(const QUuid& key);
 
 private:
   using Row = Address_Rows::Row;
@@ -103,6 +107,7 @@ private:
   Address_Rows::Order mOrder;
   QStringList mWords;
   QTimer mPagesTimer;
+  QTimer mOrderTimer;
   std::function<QList<QUuid>(const QUuid&)> mTargets;
   bool mIsResetting = false;
 };

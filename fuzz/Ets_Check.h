@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/DB_Text.h"
 #include "tests/db/Ets_Rig.h"
 
 #include <cstdio>
@@ -32,7 +33,7 @@ inline void outcome(const Ets_Rig::Outcome& outcome) {
   }
   for (const Ets_Groups::Address& address : groups.mAddresses) {
     require(address.mAddress.isOnBus() && address.mLine > 0, "addresses are on the bus");
-    require(address.mName == address.mName.simplified(), "names are one line");
+    require(address.mName == DB_Text::singleLine(address.mName), "names are one line");
     require(address.mDpt.mMain >= 0 && address.mDpt.mMain <= Datapoint_Id::cNumberMax, "types have numbers");
   }
 }

@@ -203,7 +203,7 @@ void Address_Import_Preview::updateTexts() {
   if (!isCompared) {
     mHint->setText(mEmptyText);
   } else if (plan.size() == 0) {
-    mHint->setText(tr("Es gibt nichts zu importieren: Das Projekt hat alles so, wie es in der Datei steht."));
+    mHint->setText(tr("Es gibt nichts zu importieren: Mit diesen Optionen bleibt alles, wie es ist."));
   } else {
     mHint->setText(tr("Keine Zeile passt zu dem, was oben gewählt und gesucht ist."));
   }

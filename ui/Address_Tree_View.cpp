@@ -70,6 +70,9 @@ Address_Tree_View::Address_Tree_View(Project_Session& session, Address_Tree_Mode
     return keys.contains(key) ? keys : QList<QUuid>{key};
   });
   connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, &Address_Tree_View::onAboutToBeReset);
+  connect(&model, &Address_Tree_Model::renumbered, this, &Address_Tree_View::showKey, Qt::QueuedConnection);
+  connect(&session, &Project_Session::opened, this, [this] { updateCommands(); });
+  connect(&session, &Project_Session::closed, this, [this] { updateCommands(); });
   // Connected after the base class did, so that the tree is laid out anew already.
   connect(&model, &QAbstractItemModel::modelReset, this, &Address_Tree_View::onReset);
 }
@@ -112,15 +115,13 @@ QMenu* Address_Tree_View::makeSetMenu() {
 void Address_Tree_View::updateCommands() {
   Project_Tree_View::updateCommands();
   const bool mayEdit = mSession.isOpen() && !mSession.state().operatingMode();
-  const Group_Address at = currentAddress();
   const QItemSelection selection = selectionModel() ? selectionModel()->selection() : QItemSelection();
   const bool isEditable = mayEdit && std::any_of(selection.cbegin(), selection.cend(), [this](const auto& range) {
                             return mModel.kindOf(range.topLeft()) <= Kind::Sub;
                           });
-  mAddMain->setEnabled(mayEdit);
-  mAddMiddle->setEnabled(mayEdit && at.main() >= 0);
-  mAddSub->setEnabled(mayEdit && at.main() >= 0);
-  mPaste->setEnabled(mayEdit);
+  for (QAction* const action : {mAddMain, mAddMiddle, mAddSub, mPaste}) {
+    action->setEnabled(mayEdit);
+  }
   for (QAction* const action : {mCut, mDelete, mSet}) {
     action->setEnabled(isEditable);
   }
@@ -128,10 +129,55 @@ void Address_Tree_View::updateCommands() {
 
 /// An edit that moved its row has built the rows anew, and that has closed the editor already.
 void Address_Tree_View::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+  const bool isTab = hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem;
   if (!editor->isHidden()) {
-    Project_Tree_View::closeEditor(editor, hint);
+    // The toolkit's own way would lead to the address of the next row.
+    const QModelIndex cell = indexAt(editor->geometry().center());
+    const QModelIndex next =
+        isTab ? besideCell(cell, hint == QAbstractItemDelegate::EditNextItem ? 1 : -1) : QModelIndex();
+    Project_Tree_View::closeEditor(editor, isTab ? QAbstractItemDelegate::NoHint : hint);
+    if (next.isValid()) {
+      selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
+      edit(next);
+    }
   } else if (hint != QAbstractItemDelegate::NoHint) {
     setFocus(); // which the editor has lost to whatever came next
+  }
+}
+
+QModelIndex Address_Tree_View::besideCell(const QModelIndex& cell, int step) const {
+  for (int at = header()->visualIndex(cell.column()) + step; at >= 0 && at < header()->count(); at += step) {
+    const QModelIndex next = cell.siblingAtColumn(header()->logicalIndex(at));
+    if (next.flags().testFlag(Qt::ItemIsEditable) && !isColumnHidden(next.column())) {
+      return next;
+    }
+  }
+  return {};
+}
+
+void Address_Tree_View::selectAll() {
+  if (!mModel.isFiltered()) {
+    Project_Tree_View::selectAll();
+    return;
+  }
+  QItemSelection hits;
+  addHits({}, hits);
+  selectionModel()->select(hits, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void Address_Tree_View::addHits(const QModelIndex& parent, QItemSelection& hits) const {
+  const int count = mModel.rowCount(parent);
+  for (int row = 0; row < count; ++row) {
+    const QModelIndex index = mModel.index(row, 0, parent);
+    if (mModel.kindOf(index) == Kind::Sub || mModel.kindOf(index) == Kind::Variable) {
+      hits.append(QItemSelectionRange(index, mModel.index(count - 1, 0, parent)));
+      return; // the others are of the same kind
+    }
+    if (mModel.rowCount(index) == 0) {
+      hits.append(QItemSelectionRange(index));
+    } else {
+      addHits(index, hits);
+    }
   }
 }
 
@@ -177,6 +223,15 @@ Group_Address Address_Tree_View::currentAddress() const {
   const DB_Address_Middle_Group* const middle = tree.middleGroup(sub ? sub->mMiddleKey : key);
   const DB_Address_MainGroup* const main = tree.mainGroup(middle ? middle->mMainKey : key);
   return {main ? main->mNumber : -1, middle ? middle->mNumber : -1, sub ? sub->mNumber : -1};
+}
+
+Group_Address Address_Tree_View::placeForNew() const {
+  const Group_Address at = currentAddress();
+  if (at.main() >= 0) {
+    return at;
+  }
+  const auto& mains = mSession.database().mAddresses.mainGroups();
+  return {mains.isEmpty() ? 0 : mains.at(0).mNumber, -1, -1};
 }
 
 void Address_Tree_View::showKey(const QUuid& key) {

@@ -31,6 +31,8 @@ public:
 
   /// Selects the address or group and brings it into view; nothing when it is filtered out.
   void showKey(const QUuid& key);
+  /// While a filter is set only what passes it, not the groups around.
+  void selectAll() override;
   /// The groups, addresses and variables of the selected rows, in the order of the rows.
   [[nodiscard]] QList<QUuid> selectedKeys() const;
 
@@ -54,6 +56,10 @@ private:
   void selectKeys(const QList<QUuid>& keys);
   [[nodiscard]] std::vector<QItemSelectionRange> selectedRanges() const;
   [[nodiscard]] QModelIndex besideSelection() const;
+  [[nodiscard]] qsizetype shownInSelection() const;
+  void addHits(const QModelIndex& parent, QItemSelection& hits) const;
+  /// The next cell to the right, or left, of the row that can be edited; invalid without one.
+  [[nodiscard]] QModelIndex besideCell(const QModelIndex& cell, int step) const;
   void selectOnly(const QModelIndex& index);
   void addCommands();
   [[nodiscard]] QMenu* makeSetMenu();
@@ -64,8 +70,10 @@ private:
 
   /// What the commands work on: selected groups and addresses without variables and uses.
   [[nodiscard]] QList<QUuid> editedKeys() const;
-  /// Where something new goes; invalid numbers (-1) without a selection.
+  /// Invalid numbers (-1) without a selection.
   [[nodiscard]] Group_Address currentAddress() const;
+  /// The same, or the first main group when nothing is selected.
+  [[nodiscard]] Group_Address placeForNew() const;
   void toClipboard(Address_Clipboard::Use use);
   bool tell(const Edit_Result& result);
   void tellAdded(const Edit_Result& result, const QUuid& key);

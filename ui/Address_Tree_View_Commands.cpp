@@ -57,7 +57,7 @@ void Address_Tree_View::tellAdded(const Edit_Result& result, const QUuid& key) {
   }
   emit added(key);
   showKey(key);
-  edit(mModel.indexOf(key).siblingAtColumn(Address_Rows::cName));
+  rename(mModel.indexOf(key));
 }
 
 void Address_Tree_View::onAddMainGroup() {
@@ -70,7 +70,7 @@ void Address_Tree_View::onAddMainGroup() {
 
 void Address_Tree_View::onAddMiddleGroup() {
   QUuid key;
-  const Group_Address at = currentAddress();
+  const Group_Address at = placeForNew();
   const int middle = Address_Edits::freeMiddle(mSession, at.main(), std::max(0, at.middle() + 1));
   tellAdded(middle < 0 ? Edit_Result::refused(tr("In der Hauptgruppe %1 sind alle Mittelgruppen (0..7) vergeben.")
                                                   .arg(Group_Address::mainGroupText(at.main())))
@@ -80,7 +80,7 @@ void Address_Tree_View::onAddMiddleGroup() {
 
 void Address_Tree_View::onAddAddress() {
   QUuid key;
-  Group_Address at = currentAddress();
+  Group_Address at = placeForNew();
   if (at.middle() < 0) {
     at = {at.main(), std::max(0, Address_Edits::freeMiddle(mSession, at.main())), -1}; // made with its first address
   }
@@ -145,6 +145,23 @@ void Address_Tree_View::onPaste() {
   }
 }
 
+/// Addresses that are selected, or stand in a selected group and are not filtered out.
+qsizetype Address_Tree_View::shownInSelection() const {
+  const auto isInSelected = [this](QModelIndex index) {
+    while (index.isValid() && !selectionModel()->isRowSelected(index.row(), index.parent())) {
+      index = index.parent();
+    }
+    return index.isValid();
+  };
+  qsizetype count = 0;
+  for (const QItemSelectionRange& range : selectedRanges()) {
+    for (int row = range.top(); row <= range.bottom() && !isInSelected(range.parent()); ++row) {
+      count += mModel.shownSubGroupCount(mModel.index(row, 0, range.parent()));
+    }
+  }
+  return count;
+}
+
 /// What stands beside the selected rows and is there when they are gone.
 QModelIndex Address_Tree_View::besideSelection() const {
   const std::vector<QItemSelectionRange> ranges = selectedRanges();
@@ -161,11 +178,17 @@ void Address_Tree_View::onDelete() {
   const QList<QUuid> keys = editedKeys();
   const Address_Edits::Deletion deletion =
       Address_Edits::whatRemoves(mSession, keys, Address_Usage(mSession.database()));
-  if (deletion.mUses > 0 &&
-      !Message_Box::askYesNo(this,
-                             tr("Zu löschende Adressen: %1. Auf sie zeigen Verknüpfungen: %2. Diese bleiben und "
-                                "zeigen dann auf keine Adresse mehr.\n\nTrotzdem löschen?")
-                                 .arg(Decimal_Text::count(deletion.mAddresses), Decimal_Text::count(deletion.mUses)))) {
+  const qsizetype hidden = deletion.mAddresses - shownInSelection();
+  QString question = tr("Zu löschende Adressen: %1.").arg(Decimal_Text::count(deletion.mAddresses));
+  if (hidden > 0) {
+    question += u' ' + tr("Davon zeigt die Suche nicht: %1.").arg(Decimal_Text::count(hidden));
+  }
+  if (deletion.mUses > 0) {
+    question += u' ' + tr("Auf sie zeigen Verknüpfungen: %1. Diese bleiben und zeigen dann auf keine Adresse mehr.")
+                           .arg(Decimal_Text::count(deletion.mUses));
+  }
+  if ((hidden > 0 || deletion.mUses > 0) &&
+      !Message_Box::askYesNo(this, question + QStringLiteral("\n\n") + tr("Trotzdem löschen?"))) {
     return;
   }
   const QUuid beside = mModel.keyOf(besideSelection());

@@ -108,6 +108,7 @@ QWidget* Address_View::makeListPage() {
   Theme::setTextRole(*mCount, Theme::Role::SecondaryText);
   mCount->setTextFormat(Qt::PlainText);
   mCount->setIndent(cGap);
+  mCount->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // its text must not widen the window
 
   auto* const layout = new QVBoxLayout(page);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -116,6 +117,10 @@ QWidget* Address_View::makeListPage() {
   bar->setSpacing(cGap);
   bar->addWidget(mFilter, 1);
   bar->addWidget(makeAddButton());
+  // Without addresses there is no tree that could have the focus.
+  QAction* const paste = mTree->newCommands().constLast();
+  paste->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  page->addAction(paste);
   layout->addLayout(bar);
   layout->addWidget(mTreeOrHint, 1);
   layout->addWidget(mCount);
@@ -217,6 +222,7 @@ void Address_View::updateState() {
     }
     mCount->setText(counts.join(QStringLiteral(", ")));
   }
+  mCount->setToolTip(mCount->text());
 }
 
 void Address_View::saveState(App_Settings& settings) const {

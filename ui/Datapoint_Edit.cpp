@@ -42,6 +42,10 @@ Datapoint_Edit::Datapoint_Edit(QWidget* parent)
   setCompleter(completer);
   completer->popup()->installEventFilter(this);
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { search(text); });
+  // What counts is the number at the beginning.
+  connect(
+      completer, qOverload<const QString&>(&QCompleter::activated), this, [this] { setCursorPosition(0); },
+      Qt::QueuedConnection);
   setPlaceholderText(tr("Nummer oder Name"));
 }
 

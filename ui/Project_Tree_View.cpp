@@ -114,9 +114,21 @@ void Project_Tree_View::updateCommands() {
 }
 
 void Project_Tree_View::onRename() {
-  const QModelIndex index = renameIndex();
-  scrollTo(index);
-  edit(index);
+  rename(renameIndex());
+}
+
+void Project_Tree_View::rename(const QModelIndex& index) {
+  const QModelIndex cell = index.siblingAtColumn(mRenameColumn);
+  setColumnHidden(mRenameColumn, false);
+  scrollTo(cell);
+  edit(cell);
+}
+
+/// An editor hands its text over when it loses the focus.
+void Project_Tree_View::finishEditing() {
+  if (state() == EditingState) {
+    setFocus();
+  }
 }
 
 QString Project_Tree_View::selectedText() const {

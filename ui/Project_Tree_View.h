@@ -27,9 +27,16 @@ protected:
   template <class Function>
   QAction* addCommand(const QString& text, const QKeySequence& keys, Function&& function) {
     QAction* const action = addCommand(text, keys);
-    connect(action, &QAction::triggered, this, std::forward<Function>(function));
+    connect(action, &QAction::triggered, this, [this, run = std::forward<Function>(function)]() mutable {
+      finishEditing();
+      run();
+    });
     return action;
   }
+  /// Opens the editor of the column that can be renamed, which is shown for it.
+  void rename(const QModelIndex& index);
+  /// Hands over what is being typed in a cell.
+  void finishEditing();
   /// Which commands are enabled now; called whenever the selection, the current row or the operating mode changes.
   virtual void updateCommands();
   /// Puts the selected rows on the clipboard.

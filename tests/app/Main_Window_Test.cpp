@@ -181,7 +181,12 @@ private slots:
       rig.action("onMenuFileSave")->trigger();
       QCOMPARE(caption(), place);
       QVERIFY(!rig.mSession.isModified());
+      QVERIFY(tree->hasFocus() || place != u"tree");
     }
+    tree->edit(page);
+    QTest::keyClicks(QApplication::focusWidget(), u"undone"_s);
+    rig.action("onEdit_Undo")->trigger();
+    QCOMPARE(caption(), u"panel"_s); // what was being typed is what is taken back
     tree->edit(page);
     QTest::keyClicks(QApplication::focusWidget(), u"quit"_s);
     bool isAsked = false;

@@ -187,6 +187,12 @@ private slots:
         },
         "0/0/1 Eins|1/2/3 Licht 9.001|1/2/4 Jalousie 9.001|1/3/3 Wind|5/0/0 Regen");
     row(
+        "table with types behind the names", [](T& t) { return t.pasteText("1/2/3\tA\t1.001\n1/2/4\tB\t\n"); },
+        "0/0/1 Eins|1/2/3 A 1.001|1/2/4 B|1/3/3 Wind|5/0/0 Regen");
+    row(
+        "table with an address twice", [](T& t) { return t.pasteText("1/2/3\tA\n1/2/3\tB\n"); },
+        "0/0/1 Eins|1/2/3 A|1/2/4 Jalousie|1/3/3 Wind|5/0/0 Regen");
+    row(
         "names only", [](T& t) { return t.pasteText("Erste\nZweite\tBeschreibung\t5.001\n", "1/2/*"); },
         "0/0/1 Eins|1/2/0 Erste|1/2/1 Zweite 5.001|1/2/3 Licht|1/2/4 Jalousie|1/3/3 Wind|5/0/0 Regen");
     row(

@@ -13,6 +13,7 @@
 #include <QMimeData>
 #include <QTextEdit>
 #include <QTimer>
+#include <QToolButton>
 
 /// The tree of group addresses, edited through its keys: 1/2/3 "Licht" and 4/0/0 "Wind" are in use, 1/2/4 "Reserve" is
 /// not, "Merker" is an internal variable.
@@ -59,23 +60,75 @@ private slots:
   void anEmptyProjectIsFilledByHand() {
     cleanup();
     mRig = std::make_unique<Session_Rig>();
-    QVERIFY(mRig->create());
     mView = std::make_unique<Address_View>(mRig->mSession);
     mView->resize(900, 500);
     mView->show();
     QVERIFY(QTest::qWaitForWindowActive(mView.get()));
+    QVERIFY(mRig->create());
     mTree = mView->findChild<Address_Tree_View*>();
     const auto command = [this](int index) { return mTree->newCommands().at(index); };
-    QVERIFY(!command(0)->isEnabled() && command(2)->isEnabled() && command(3)->isEnabled() && !mTree->isVisible());
+    QVERIFY(command(2)->isEnabled() && !mTree->isVisible());
     QGuiApplication::clipboard()->setText(QStringLiteral("5/0/0\tRegen\n"));
-    command(3)->trigger(); // paste
+    mView->findChild<QToolButton*>()->setFocus();
+    QTest::keySequence(mView->window()->windowHandle(), QKeySequence::Paste);
     QVERIFY(mTree->isVisible() && tree().subGroup(Group_Address(5, 0, 0)));
     QVERIFY(mRig->mSession.history().undo());
     QVERIFY(!mTree->isVisible());
-    command(2)->trigger(); // a main group, then an address in it
-    QVERIFY(mTree->isVisible() && tree().mainGroup(0));
-    command(0)->trigger();
-    QVERIFY(tree().subGroup(Group_Address(0, 0, 1)));
+    command(0)->trigger(); // an address, and the groups it needs
+    QVERIFY(mTree->isVisible() && tree().subGroup(Group_Address(0, 0, 1)));
+  }
+
+  void aCommandFinishesWhatIsBeingTyped() {
+    select({1, 2, 3});
+    for (const char* const name : {"Erster", "Zweiter"}) {
+      QTest::keyClick(editor() ? static_cast<QWidget*>(editor()) : mTree, Qt::Key_Insert);
+      QTest::keyClicks(editor(), QString::fromUtf8(name));
+    }
+    QTest::keyClick(editor(), Qt::Key_Return);
+    QTRY_COMPARE(tree().subGroup(Group_Address(1, 2, 6))->mName, QStringLiteral("Zweiter"));
+    QCOMPARE(tree().subGroup(Group_Address(1, 2, 5))->mName, QStringLiteral("Erster"));
+  }
+
+  void renamingShowsTheNameAndTabStaysInTheRow() {
+    mTree->setColumnHidden(Address_Rows::cName, true);
+    select({1, 2, 4});
+    QTest::keyClick(mTree, Qt::Key_F2);
+    QVERIFY(!mTree->isColumnHidden(Address_Rows::cName));
+    QTest::keyClicks(editor(), QStringLiteral("a"));
+    QTest::keyClick(editor(), Qt::Key_Tab);
+    QTRY_COMPARE(mTree->currentIndex(), indexOf({1, 2, 4}).siblingAtColumn(Address_Rows::cDescription));
+    QTest::keyClicks(editor(), QStringLiteral("b"));
+    QTest::keyClick(editor(), Qt::Key_Return);
+    QTRY_COMPARE(tree().subGroup(Group_Address(1, 2, 4))->mDescription, QStringLiteral("b"));
+    QCOMPARE(tree().subGroup(Group_Address(1, 2, 4))->mName, QStringLiteral("a"));
+  }
+
+  void aRowThatMovesStaysInSight() {
+    mRig->addAddress({31, 7, 1}, {});
+    mTree->collapseAll();
+    select({1, 2, 4});
+    mTree->model()->setData(mTree->currentIndex(), QStringLiteral("31/7/255"));
+    QTRY_COMPARE(mTree->currentIndex().data().toString(), QStringLiteral("31/7/255"));
+    QVERIFY(mTree->isExpanded(mTree->currentIndex().parent()));
+    mTree->sortByColumn(Address_Rows::cName, Qt::AscendingOrder);
+    mTree->model()->setData(mTree->currentIndex().siblingAtColumn(Address_Rows::cName), QString());
+    mTree->model()->setData(indexOf({31, 7, 1}).siblingAtColumn(Address_Rows::cName), QStringLiteral("z"));
+    QTRY_COMPARE(indexOf({31, 7, 255}).row(), 0);
+  }
+
+  void aFilterLeavesWhatItHidesAlone() {
+    mRig->addAddress({1, 2, 9}, QStringLiteral("Decke"));
+    auto* const filter = mView->findChild<QLineEdit*>();
+    filter->setText(QStringLiteral("reserve"));
+    QTRY_VERIFY(!indexOf({1, 2, 3}).isValid());
+    mTree->setFocus();
+    QTest::keySequence(mTree, QKeySequence::SelectAll);
+    QCOMPARE(mTree->selectedKeys(), QList<QUuid>{mSample->mUnused});
+    mTree->showKey(tree().middleGroup(1, 2)->mKey);
+    QString question;
+    answerSoon(Qt::Key_N, question);
+    QTest::keyClick(mTree, Qt::Key_Delete);
+    QVERIFY2(question.contains(QStringLiteral("Davon zeigt die Suche nicht: 2.")), qPrintable(question));
   }
 
   void whatMayNotBeIsToldInPlaceAndNotTakenOver() {
@@ -136,14 +189,7 @@ private slots:
     for (const Qt::Key answer : {Qt::Key_N, Qt::Key_J}) {
       select({1, 2, 3});
       QString question;
-      QTimer::singleShot(0, qApp, [&] {
-        QWidget* const box = QApplication::activeModalWidget();
-        QVERIFY(box && QTest::qWaitForWindowExposed(box));
-        for (const auto* const text : box->findChildren<QTextEdit*>()) {
-          question += text->toPlainText();
-        }
-        QTest::keyClick(box->focusWidget(), answer, Qt::AltModifier);
-      });
+      answerSoon(answer, question);
       QTest::keyClick(mTree, Qt::Key_Delete);
       QVERIFY2(question.contains(QStringLiteral("Verknüpfungen: 4")), qPrintable(question));
       QCOMPARE(tree().subGroup(Group_Address(1, 2, 3)) == nullptr, answer == Qt::Key_J);
@@ -250,8 +296,21 @@ private:
   [[nodiscard]] QModelIndex indexOf(const Group_Address& address) const {
     return dynamic_cast<Address_Tree_Model&>(*mTree->model()).indexOf(tree().subGroup(address)->mKey);
   }
+  /// Answers the next question by the mnemonic of a button.
+  static void answerSoon(Qt::Key answer, QString& question) {
+    QTimer::singleShot(0, qApp, [answer, &question] {
+      QWidget* const box = QApplication::activeModalWidget();
+      QVERIFY(box && QTest::qWaitForWindowExposed(box));
+      for (const auto* const text : box->findChildren<QTextEdit*>()) {
+        question += text->toPlainText();
+      }
+      QTest::keyClick(box->focusWidget(), answer, Qt::AltModifier);
+    });
+  }
   void select(const Group_Address& address) { mTree->showKey(tree().subGroup(address)->mKey); }
-  [[nodiscard]] Checked_Line_Edit* editor() const { return mTree->findChild<Checked_Line_Edit*>(); }
+  [[nodiscard]] Checked_Line_Edit* editor() const {
+    return qobject_cast<Checked_Line_Edit*>(QApplication::focusWidget());
+  }
 
   /// Which of 1/2/3, 4/0/0, 1/2/4 are read at start.
   [[nodiscard]] QByteArray flags() const {
