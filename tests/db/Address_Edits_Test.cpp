@@ -63,7 +63,7 @@ private slots:
           t.session().history().commit();
           t.session().history().undo();
           t.session().history().redo();
-          const Edit_Result result = Address_Edits::set(t.session(), {key}, Field::Write, true);
+          Edit_Result result = Address_Edits::set(t.session(), {key}, Field::Write, true);
           t.session().history().undo();
           t.session().history().clear();
           return result;
