@@ -61,9 +61,6 @@ Address_Tree_Model::Address_Tree_Model(Project_Session& session, QObject* parent
   mPagesTimer.setSingleShot(true);
   mPagesTimer.setInterval(0);
   connect(&mPagesTimer, &QTimer::timeout, this, &Address_Tree_Model::onPagesChanged);
-  mOrderTimer.setSingleShot(true);
-  mOrderTimer.setInterval(0);
-  connect(&mOrderTimer, &QTimer::timeout, this, &Address_Tree_Model::reset);
   const auto later = [this] { mPagesTimer.start(); };
   connect(&database.mFbPages, &DB_Page_List_Signals::structureChanged, this, later);
   connect(&database.mWidgetPages, &DB_Page_List_Signals::structureChanged, this, later);
@@ -75,7 +72,14 @@ Address_Tree_Model::Address_Tree_Model(Project_Session& session, QObject* parent
   rebuild();
 }
 
+void Address_Tree_Model::restoreOrder() {
+  if (mIsOrderStale) {
+    reset();
+  }
+}
+
 void Address_Tree_Model::rebuild() {
+  mIsOrderStale = false;
   mRows.build(mSession.database(), mUsage, mWords, mOrder);
 }
 
@@ -100,10 +104,8 @@ void Address_Tree_Model::onRecordChanged(const QUuid& key) {
   // Inside a structure change the rows are out of date, and are all told to be new at its end.
   const QModelIndex first = mIsResetting ? QModelIndex() : indexOf(key);
   if (first.isValid()) {
+    mIsOrderStale = mOrder.mColumn != Address_Rows::cAddress;
     emit dataChanged(first, first.siblingAtColumn(Address_Rows::cColumnCount - 1));
-    if (mOrder.mColumn != Address_Rows::cAddress) {
-      mOrderTimer.start(); // the row may stand elsewhere now
-    }
   }
 }
 

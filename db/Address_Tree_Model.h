@@ -18,7 +18,7 @@ class Project_Session;
 ///
 /// Texts are edited in their cells and flags by their check boxes, each time one undo step, unless the operating mode
 /// is on. The rows are built anew when the structure of the addresses, the filter or the order changes; what is edited
-/// in a cell stays where it is until then. The session outlives the model.
+/// in a cell stays where it is until then or until `restoreOrder`. The session outlives the model.
 class Address_Tree_Model : public QAbstractItemModel {
   Q_OBJECT
 
@@ -35,6 +35,9 @@ public:
   /// Of a group or address; 0 for other rows.
   [[nodiscard]] qsizetype shownSubGroupCount(const QModelIndex& index) const;
   [[nodiscard]] qsizetype variableCount() const { return static_cast<qsizetype>(mUsage.variables().size()); }
+
+  /// Brings records whose cells changed to where the order wants them. Rebuilds the rows, which ends an open editor.
+  void restoreOrder();
 
   /// The pins and elements that are bound to an address or variable, as they were when the rows were built.
   [[nodiscard]] const Address_Usage& usage() const { return mUsage; }
@@ -107,7 +110,7 @@ private:
   Address_Rows::Order mOrder;
   QStringList mWords;
   QTimer mPagesTimer;
-  QTimer mOrderTimer;
   std::function<QList<QUuid>(const QUuid&)> mTargets;
   bool mIsResetting = false;
+  bool mIsOrderStale = false; ///< what a record is sorted by may have changed
 };

@@ -71,6 +71,7 @@ Address_Tree_View::Address_Tree_View(Project_Session& session, Address_Tree_Mode
   });
   connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, &Address_Tree_View::onAboutToBeReset);
   connect(&model, &Address_Tree_Model::renumbered, this, &Address_Tree_View::showKey, Qt::QueuedConnection);
+  connect(&model, &QAbstractItemModel::dataChanged, this, &Address_Tree_View::restoreOrder, Qt::QueuedConnection);
   connect(&session, &Project_Session::opened, this, [this] { updateCommands(); });
   connect(&session, &Project_Session::closed, this, [this] { updateCommands(); });
   // Connected after the base class did, so that the tree is laid out anew already.
@@ -142,6 +143,13 @@ void Address_Tree_View::closeEditor(QWidget* editor, QAbstractItemDelegate::EndE
     }
   } else if (hint != QAbstractItemDelegate::NoHint) {
     setFocus(); // which the editor has lost to whatever came next
+  }
+  QMetaObject::invokeMethod(this, &Address_Tree_View::restoreOrder, Qt::QueuedConnection);
+}
+
+void Address_Tree_View::restoreOrder() {
+  if (state() != EditingState) {
+    mModel.restoreOrder();
   }
 }
 

@@ -61,6 +61,8 @@ private:
   /// The next cell to the right, or left, of the row that can be edited; invalid without one.
   [[nodiscard]] QModelIndex besideCell(const QModelIndex& cell, int step) const;
   void selectOnly(const QModelIndex& index);
+  /// While nothing is being typed.
+  void restoreOrder();
   void addCommands();
   [[nodiscard]] QMenu* makeSetMenu();
   void onAboutToBeReset();

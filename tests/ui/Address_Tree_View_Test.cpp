@@ -116,6 +116,21 @@ private slots:
     QTRY_COMPARE(indexOf({31, 7, 255}).row(), 0);
   }
 
+  void sortingWaitsForTheEditor() {
+    mTree->sortByColumn(Address_Rows::cName, Qt::AscendingOrder);
+    select({1, 2, 3});
+    QTest::keyClick(mTree, Qt::Key_F2);
+    QTest::keyClicks(editor(), QStringLiteral("Zuletzt"));
+    QTest::keyClick(editor(), Qt::Key_Tab);
+    QTest::qWait(50); // whatever follows later
+    QVERIFY(editor());
+    QCOMPARE(indexOf({1, 2, 3}).row(), 0);
+    QTest::keyClicks(editor(), QStringLiteral("b"));
+    QTest::keyClick(editor(), Qt::Key_Return);
+    QTRY_COMPARE(indexOf({1, 2, 3}).row(), 1);
+    QCOMPARE(tree().subGroup(Group_Address(1, 2, 3))->mDescription, QStringLiteral("b"));
+  }
+
   void aFilterLeavesWhatItHidesAlone() {
     mRig->addAddress({1, 2, 9}, QStringLiteral("Decke"));
     auto* const filter = mView->findChild<QLineEdit*>();
