@@ -145,6 +145,11 @@ QString Datapoint_Types::describe(Datapoint_Id id) {
   return known.isEmpty() ? id.toString() : QStringLiteral("%1 (%2)").arg(id.toString(), known);
 }
 
+QString Datapoint_Types::numberIn(const QString& text) {
+  const QString first = text.trimmed().section(u' ', 0, 0);
+  return Datapoint_Id::parse(first) ? first : text;
+}
+
 QList<Datapoint_Id> Datapoint_Types::search(const QString& text) {
   const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
   const Datapoint_Id number = Datapoint_Id::parse(text).value_or(Datapoint_Id());

@@ -31,6 +31,9 @@ struct Value_Text {
 /// the main number is known, the bare number where nothing is, empty for no type.
 [[nodiscard]] QString describe(Datapoint_Id id);
 
+/// Of a text as `describe` makes it the number: "9.001 Temperatur (°C)" becomes "9.001". Other texts stay.
+[[nodiscard]] QString numberIn(const QString& text);
+
 /// The types whose number or description holds every word of the text, in any case: first the one of just this number,
 /// then those that begin with the text, with words that do, and the others. All types for an empty text.
 [[nodiscard]] QList<Datapoint_Id> search(const QString& text);

@@ -22,11 +22,6 @@ constexpr double cUndoLimit = 1000.0;
 constexpr double cSortLimit = 500.0;
 constexpr double cFilterLimit = 300.0;
 
-[[noreturn]] void stop(const QString& reason) {
-  std::fprintf(stderr, "Address_Import_Bench: %s\n", qPrintable(reason));
-  std::exit(2);
-}
-
 QByteArray range(const QByteArray& name, int start, int end) {
   return "<GroupRange Name=\"" + name + "\" RangeStart=\"" + QByteArray::number(start) + "\" RangeEnd=\"" +
          QByteArray::number(end) + "\">\r\n";
@@ -62,7 +57,7 @@ Address_Import_Plan preview(QByteArray bytes, const ProjectDatabase& database) {
   Ets_Groups groups;
   QString error;
   if (!Ets_Reader::read(buffer, {}, groups, error)) {
-    stop(error);
+    Bench_Table::stop(error);
   }
   return Address_Import::compare(database, groups);
 }
@@ -87,15 +82,15 @@ void measure(const QByteArray& bytes, Project_Session& session, Times& times) {
   Address_Import::Result result;
   times.mApply.push_back(Bench_Table::milliseconds([&] {
     if (!Address_Import::apply(session, plan, result)) {
-      stop(QStringLiteral("the import was refused"));
+      Bench_Table::stop(QStringLiteral("the import was refused"));
     }
   }));
   if (session.database().mAddresses.subGroupCount() != cAddresses || model.rowCount() == 0) {
-    stop(QStringLiteral("the export was not imported whole"));
+    Bench_Table::stop(QStringLiteral("the export was not imported whole"));
   }
   times.mAgain.push_back(Bench_Table::milliseconds([&] {
     if (preview(bytes, session.database()).size() > 0) {
-      stop(QStringLiteral("the second comparison finds a difference"));
+      Bench_Table::stop(QStringLiteral("the second comparison finds a difference"));
     }
   }));
   History& history = session.history();
@@ -103,7 +98,7 @@ void measure(const QByteArray& bytes, Project_Session& session, Times& times) {
   times.mRedo.push_back(Bench_Table::milliseconds([&history] { history.redo(); }));
   history.undo();
   if (session.database().mAddresses.subGroupCount() != 0) {
-    stop(QStringLiteral("the undo left addresses behind"));
+    Bench_Table::stop(QStringLiteral("the undo left addresses behind"));
   }
 }
 
@@ -116,7 +111,7 @@ int main(int argc, char** argv) {
   Session_State state;
   Project_Session session(state);
   if (!session.create(folder.filePath(QStringLiteral("Haus.zpro")), {})) {
-    stop(session.lastError());
+    Bench_Table::stop(session.lastError());
   }
   const QByteArray bytes = exportBytes();
   Bench_Table::note("size of the export", double(bytes.size()) / 1024.0 / 1024.0, "MB");

@@ -15,9 +15,6 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 
-#include <cstdio>
-#include <cstdlib>
-
 // The address tree as a user of the largest bus feels it: 65,536 addresses and 10,000 blocks; from the key to the
 // painted result. Painted offscreen into an image of the size that the view has in a full window.
 
@@ -32,8 +29,7 @@ constexpr double cEditLimit = 100;   // ms
 
 void require(bool isTrue, const char* what) {
   if (!isTrue) {
-    std::fprintf(stderr, "Address_View_Bench: %s\n", what);
-    std::exit(2);
+    Bench_Table::stop(QString::fromUtf8(what));
   }
 }
 

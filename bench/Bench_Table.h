@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QString>
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <vector>
 
@@ -24,6 +26,12 @@ public:
   static void note(const char* figure, double measured, const char* unit) {
     std::printf("%-44s %9.1f %-2s\n", figure, measured, unit);
     std::fflush(stdout);
+  }
+
+  /// Ends the program: what was to be measured did not happen.
+  [[noreturn]] static void stop(const QString& reason) {
+    std::fprintf(stderr, "%s\n", qPrintable(reason));
+    std::exit(2);
   }
 
   [[nodiscard]] int missed() const { return mMissed; }

@@ -26,11 +26,6 @@ constexpr QLatin1StringView cGrowthStep("--growth");
 
 using Rows = std::array<std::vector<QByteArray>, DB_Tables::cCount>;
 
-[[noreturn]] void stop(const QString& reason) {
-  std::fprintf(stderr, "ProjectDatabase_Bench: %s\n", qPrintable(reason));
-  std::exit(2);
-}
-
 QByteArray inTable(const char* sql, DB_Table table) {
   return QByteArray(sql) + " `" + DB_Tables::name(table) + '`';
 }
@@ -38,7 +33,7 @@ QByteArray inTable(const char* sql, DB_Table table) {
 void selectAll(const QString& path, Rows& rows) {
   DB_Sqlite database;
   if (!database.open(path, DB_Sqlite::Mode::Immutable)) {
-    stop(database.errorText());
+    Bench_Table::stop(database.errorText());
   }
   for (const DB_Table_Row& row : DB_Tables::all()) {
     DB_Statement select = database.prepare(inTable("SELECT DATA FROM", row.mTable));
@@ -60,13 +55,13 @@ void insertAll(DB_Sqlite& database, const Rows& rows) {
     }
   }
   if (!isOk || !database.execute("END TRANSACTION")) {
-    stop(database.errorText());
+    Bench_Table::stop(database.errorText());
   }
 }
 
 void openIn(ProjectDatabase& store, const QString& path) {
   if (!store.openProject(path, false)) {
-    stop(store.lastError());
+    Bench_Table::stop(store.lastError());
   }
 }
 
@@ -75,7 +70,7 @@ void makeProject(const QString& path) {
   openIn(store, path);
   Big_Project(store).fill();
   if (!store.recordWriteAll(true)) {
-    stop(store.lastError());
+    Bench_Table::stop(store.lastError());
   }
 }
 
@@ -104,7 +99,7 @@ void measureOpen(const QString& path, Bench_Table& table) {
     ProjectDatabase project;
     times.mStore.push_back(Bench_Table::milliseconds([&] { openIn(project, path); }));
     if (project.mAddresses.subGroupCount() != Big_Project::cAddresses || project.loadReport().isDamaged()) {
-      stop(QStringLiteral("the project was not read whole"));
+      Bench_Table::stop(QStringLiteral("the project was not read whole"));
     }
   }
   times.tell("open", cOpenLimit, table);
@@ -116,7 +111,7 @@ void measureSave(const QString& path, const QString& twinPath, Bench_Table& tabl
   DB_Sqlite twin;
   if (!QFile::copy(path, twinPath) || !twin.open(twinPath, DB_Sqlite::Mode::ReadWrite) ||
       !twin.execute("PRAGMA synchronous=NORMAL")) {
-    stop(twin.errorText());
+    Bench_Table::stop(twin.errorText());
   }
   ProjectDatabase project;
   openIn(project, path);
@@ -125,7 +120,7 @@ void measureSave(const QString& path, const QString& twinPath, Bench_Table& tabl
     times.mAlone.push_back(Bench_Table::milliseconds([&] { insertAll(twin, rows); }));
     times.mStore.push_back(Bench_Table::milliseconds([&] {
       if (!project.recordWriteAll(false)) {
-        stop(project.lastError());
+        Bench_Table::stop(project.lastError());
       }
     }));
   }
@@ -162,7 +157,7 @@ QByteArray inChild(const QString& step, const QString& path) {
   child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   child.start(QCoreApplication::applicationFilePath(), {step, path});
   if (!child.waitForFinished(120'000) || child.exitStatus() != QProcess::NormalExit || child.exitCode() != 0) {
-    stop(QStringLiteral("the step %1 failed").arg(step));
+    Bench_Table::stop(QStringLiteral("the step %1 failed").arg(step));
   }
   return child.readAllStandardOutput().trimmed();
 }

@@ -185,7 +185,7 @@ private:
     return group;
   }
 
-  /// What an import leaves in an address beside its name and description comes along where it makes sense.
+  /// What an import left in an address beside its name and description; from outside it may be anything.
   static void checkImported(DB_Address_Sub_Group& sub) {
     const Datapoint_Id dpt = sub.mDpt;
     if (dpt.mMain < 0 || dpt.mMain > Datapoint_Id::cNumberMax || dpt.mSub < Datapoint_Id::cAnySub ||

@@ -40,7 +40,8 @@ struct Result {
 };
 
 /// New and changed ones are ticked, vanished ones and conflicts are not. An incoming value that the file's format
-/// cannot tell is no change, and neither is a guessed type of the size of the present one.
+/// cannot tell is no change, and neither is an empty name or description or a guessed type of the size of the present
+/// one.
 [[nodiscard]] Address_Import_Plan compare(const ProjectDatabase& database, const Ets_Groups& groups,
                                           const Options& options = {});
 

@@ -17,11 +17,8 @@ QString typeText(const Address_Import_Row::Values& values) {
   return Address_Type_Text::shown(values.mDpt, values.mDptGuessed, values.mDptRaw);
 }
 
-/// A cell is one line high; descriptions may hold line breaks. What would be emptied must not be overlooked.
-QString cellText(const QString& text, bool isEmptied) {
-  if (isEmptied) {
-    return Address_Import_Model::tr("(leer)");
-  }
+/// A cell is one line high; descriptions may hold line breaks.
+QString cellText(const QString& text) {
   return text.contains(u'\n') ? text.simplified() : text;
 }
 
@@ -39,11 +36,6 @@ std::optional<Field> fieldOf(int column) {
   default:
     return std::nullopt;
   }
-}
-
-bool isEmptied(const Address_Import_Row& row, int column) {
-  return column == Address_Import_Model::cDescriptionIncoming && row.mDiffering.testFlag(Field::Description) &&
-         row.mIncoming.mDescription.isEmpty();
 }
 
 QString iconName(Level level) {
@@ -244,7 +236,7 @@ QVariant Address_Import_Model::data(const QModelIndex& index, int role) const {
   const int column = index.column();
   switch (role) {
   case Qt::DisplayRole:
-    return cellText(textOf(row, column), isEmptied(row, column));
+    return cellText(textOf(row, column));
   case Qt::ToolTipRole:
     return Model_Roles::toolTip(textOf(row, column));
   case Qt::CheckStateRole:

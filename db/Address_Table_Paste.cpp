@@ -1,5 +1,6 @@
 #include "db/Address_Table_Paste.h"
 
+#include "base/Datapoint_Types.h"
 #include "db/Address_Edits.h"
 #include "db/Address_Type_Text.h"
 #include "db/DB_Text.h"
@@ -57,13 +58,9 @@ struct Layout {
   bool mHasTitles = false;
 };
 
-/// A type cell may carry the name behind the number: "9.001 Temperatur". Empty for the text that stands for a type of
-/// an import that nobody knows.
+/// Empty for the text that stands for a type of an import that nobody knows.
 QString typeIn(const QString& cell) {
-  if (cell == Address_Type_Text::shown({}, false, cell)) {
-    return {};
-  }
-  return Datapoint_Id::parse(cell) ? cell : cell.section(u' ', 0, 0);
+  return cell == Address_Type_Text::shown({}, false, cell) ? QString() : Datapoint_Types::numberIn(cell);
 }
 
 /// Whether a cell is meant for an address or a group, be it one that there can be or not.
@@ -72,7 +69,7 @@ bool isLikeAddress(const QString& cell) {
   return form.match(cell).hasMatch();
 }
 
-/// The layout that a row of titles tells. One title alone is no row of titles: "Zentral" and "Schreiben" are names,
+/// What a row of titles tells. One title alone is no row of titles: "Zentral" and "Schreiben" are names,
 /// too.
 std::optional<Layout> layoutOfTitles(const QStringList& cells) {
   Layout layout;
@@ -101,8 +98,11 @@ bool areTypes(const Rows& rows, int column) {
   return areAll && hasType;
 }
 
-/// Of a table without titles: name, description and type, behind the address when any row begins with one.
+/// Without titles: name, description and type, behind the address when any row begins with one.
 Layout layoutOf(const Rows& rows) {
+  if (const std::optional<Layout> titled = layoutOfTitles(rows.front().mFields)) {
+    return *titled;
+  }
   Layout layout;
   int column = 0;
   if (std::any_of(rows.cbegin(), rows.cend(),
@@ -276,7 +276,7 @@ Edit_Result Address_Table_Paste::paste(Project_Session& session, const QString& 
   if (!scope) {
     return Edit_Result::refused(scope.refusal());
   }
-  const Layout layout = layoutOfTitles(rows.front().mFields).value_or(layoutOf(rows));
+  const Layout layout = layoutOf(rows);
   Paster paster(session, layout, target, result);
   Address_Tree& tree = session.database().mAddresses;
   tree.beginChange();

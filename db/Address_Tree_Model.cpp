@@ -307,6 +307,10 @@ Qt::ItemFlags Address_Tree_Model::flags(const QModelIndex& index) const {
   return flags;
 }
 
+std::optional<Field> Address_Tree_Model::fieldOf(int column) {
+  return columnOf(column).mField;
+}
+
 QString Address_Tree_Model::whyNot(const QModelIndex& index, const QString& text) const {
   if (!index.isValid()) {
     return {}; // the row is gone under its editor
@@ -314,7 +318,7 @@ QString Address_Tree_Model::whyNot(const QModelIndex& index, const QString& text
   if (index.column() == Address_Rows::cAddress) {
     return Address_Edits::checkNumber(mSession, keyOf(index), text).mError;
   }
-  const std::optional<Field> field = columnOf(index.column()).mField;
+  const std::optional<Field> field = fieldOf(index.column());
   if (field == Field::Name && kindOf(index) == Kind::Variable) {
     return Variable_Edits::checkName(text).mError;
   }
@@ -339,7 +343,7 @@ bool Address_Tree_Model::setData(const QModelIndex& index, const QVariant& value
     return false;
   }
   const QUuid key = mRows.keyOf(*row);
-  const std::optional<Field> field = columnOf(index.column()).mField;
+  const std::optional<Field> field = fieldOf(index.column());
   if (role == Qt::CheckStateRole && columnOf(index.column()).mFlag) {
     return tell(Address_Edits::set(mSession, targetsOf(key), *field, value.toInt() == Qt::Checked));
   }

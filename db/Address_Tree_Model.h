@@ -53,6 +53,9 @@ public:
   /// The branch of internal variables; invalid when it is not shown.
   [[nodiscard]] QModelIndex variablesIndex() const;
 
+  /// What is edited in a column; empty for the address and its origin.
+  [[nodiscard]] static std::optional<Address_Edits::Field> fieldOf(int column);
+
   /// Which groups an edit of the cell of that key means; the key alone unless set. So a view with several selected
   /// rows has a check box set for all of them.
   void setTargets(std::function<QList<QUuid>(const QUuid& key)> targets) { mTargets = std::move(targets); }

@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -41,15 +42,10 @@ public:
     while (fields.size() > cConnected + 1 && fields.last().trimmed().isEmpty()) {
       fields.removeLast();
     }
-    const bool hasName =
-        std::any_of(fields.begin() + 1, fields.end(), [](const QString& f) { return !f.trimmed().isEmpty(); });
-    const bool isProject = fields.size() == 1 || !isAddress(addressIn(fields.first()));
-    if (!hasName && mIsFirst && isProject) {
+    if (std::exchange(mIsFirst, false) && isProject(fields)) {
       mCollector.groups().mProjectName = DB_Text::singleLine(fields.first());
-      mIsFirst = false;
       return;
     }
-    mIsFirst = false;
     if (fields.size() == 1 && fields.first().trimmed().isEmpty()) {
       return;
     }
@@ -77,6 +73,13 @@ public:
 
 private:
   enum Column { cGroups, cName, cType, cPriority, cConnected };
+
+  /// Also with empty cells behind it, as a spreadsheet leaves them.
+  [[nodiscard]] static bool isProject(const QStringList& fields) {
+    const bool isAlone =
+        std::all_of(fields.begin() + 1, fields.end(), [](const QString& f) { return f.trimmed().isEmpty(); });
+    return isAlone && (fields.size() == 1 || !isAddress(addressIn(fields.first())));
+  }
 
   void addAddress(const Delimited_Text::Row& row) {
     const QString& groups = row.mFields[cGroups];
@@ -146,10 +149,8 @@ bool Ets_Esf_Reader::read(QIODevice& device, Ets_Collector& collector) {
   }
   lines.nameGroups();
   collector.refuseIfAllFaulty();
-  if (collector.isOk() && collector.groups().mAddresses.empty()) {
-    collector.setError(text->trimmed().startsWith(u'<')
-                           ? tr("Die Datei ist keine ESF-Ausgabe von Gruppenadressen; sie sieht nach XML aus.")
-                           : tr("Die Datei nennt keine Gruppenadresse."));
+  if (collector.isOk() && collector.groups().mAddresses.empty() && text->trimmed().startsWith(u'<')) {
+    collector.setError(tr("Die Datei ist keine ESF-Ausgabe von Gruppenadressen; sie sieht nach XML aus."));
   }
   return collector.isOk();
 }

@@ -12,8 +12,8 @@
 #include "ui/Ets_Reading.h"
 #include "ui/File_Dialog.h"
 #include "ui/Theme.h"
+#include "ui/Wait_Cursor.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -24,6 +24,8 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QStackedWidget>
+
+#include <optional>
 
 namespace {
 
@@ -36,18 +38,6 @@ QHBoxLayout* rowIn(QWidget* widget) {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(cGap);
   return layout;
-}
-
-QString formatText(Ets_Groups::Format format) {
-  switch (format) {
-  case Ets_Groups::Format::Esf:
-    return QStringLiteral("ESF");
-  case Ets_Groups::Format::Csv:
-    return QStringLiteral("CSV");
-  case Ets_Groups::Format::Xml:
-    break;
-  }
-  return QStringLiteral("XML");
 }
 
 /// The one local file among what is dragged; empty when there is none.
@@ -101,7 +91,7 @@ Address_Import_Dialog::Address_Import_Dialog(Project_Session& session, App_Setti
   resize(cSize);
   restoreGeometry(settings.viewState(QStringLiteral("ui:mImportDialog")));
   mPreview->restoreState(settings);
-  showEmpty();
+  showGroups(nullptr);
 }
 
 Address_Import_Dialog::~Address_Import_Dialog() {
@@ -229,7 +219,7 @@ void Address_Import_Dialog::showGroups(const std::shared_ptr<const Ets_Groups>& 
   noteChoices();
   mGroups = groups;
   if (mGroups) {
-    mFileInfo->setText(formatText(mGroups->mFormat));
+    mFileInfo->setText(Address_Import_Settings::formatText(mGroups->mFormat));
     mFileInfo->show();
     mOptions->setFormat(mGroups->mFormat);
     compare();
@@ -263,20 +253,19 @@ void Address_Import_Dialog::compare() {
     return;
   }
   mMessage->setError({});
-  QApplication::setOverrideCursor(Qt::WaitCursor);
+  const Wait_Cursor wait;
   Address_Import_Plan plan = Address_Import::compare(mSession.database(), *mGroups, mOptions->options());
   mChoices.applyTo(plan);
   mPreview->setPlan(std::move(plan));
-  QApplication::restoreOverrideCursor();
 }
 
 void Address_Import_Dialog::onImport() {
   if (!mSession.isOpen() || mReading->isRunning()) {
     return;
   }
-  QApplication::setOverrideCursor(Qt::WaitCursor);
+  std::optional<Wait_Cursor> wait(std::in_place);
   const Edit_Result edit = Address_Import::apply(mSession, mPreview->plan(), mResult);
-  QApplication::restoreOverrideCursor();
+  wait.reset();
   if (edit) {
     accept();
   } else {
@@ -285,13 +274,10 @@ void Address_Import_Dialog::onImport() {
 }
 
 void Address_Import_Dialog::showEmpty() {
-  mGroups = nullptr;
   mMessage->setError({});
   mPreview->setEmpty(tr("Hier steht, was ein Export der ETS am Projekt ändern würde, bevor etwas geschieht: neue, "
                         "geänderte und entfallene Gruppenadressen."),
                      tr("Datei &wählen…"));
-  mFaults->setGroups(mGroups.get());
-  updateButtons();
 }
 
 void Address_Import_Dialog::updateButtons() {

@@ -120,9 +120,8 @@ void Address_Import_Preview::fillFoot() {
   connect(mAll, &QPushButton::clicked, this, [this] { mModel->setShownTicked(true); });
   connect(mNone, &QPushButton::clicked, this, [this] { mModel->setShownTicked(false); });
   Theme::setTextRole(*mCount, Theme::Role::SecondaryText);
-  for (QWidget* const widget : {static_cast<QWidget*>(mAll), static_cast<QWidget*>(mNone)}) {
-    layout->addWidget(widget);
-  }
+  layout->addWidget(mAll);
+  layout->addWidget(mNone);
   layout->addWidget(mCount);
   layout->addStretch(1);
 }
@@ -192,9 +191,8 @@ void Address_Import_Preview::updateTexts() {
   mHead->setVisible(isCompared);
   mFoot->setVisible(isCompared);
   const bool hasRows = mModel->rowCount() > 0;
-  for (QWidget* const widget : {static_cast<QWidget*>(mAll), static_cast<QWidget*>(mNone)}) {
-    widget->setEnabled(hasRows);
-  }
+  mAll->setEnabled(hasRows);
+  mNone->setEnabled(hasRows);
   mFilter->setEnabled(plan.size() > 0);
   mCount->setText(
       hasRows ? tr("%1 von %2 Zeilen").arg(Decimal_Text::count(mModel->rowCount()), Decimal_Text::count(plan.size()))

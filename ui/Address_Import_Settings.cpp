@@ -48,14 +48,24 @@ QCheckBox* Address_Import_Settings::addOption(const QString& name, const QString
   return box;
 }
 
+QString Address_Import_Settings::formatText(Ets_Groups::Format format) {
+  switch (format) {
+  case Ets_Groups::Format::Esf:
+    return QStringLiteral("ESF");
+  case Ets_Groups::Format::Csv:
+    return QStringLiteral("CSV");
+  case Ets_Groups::Format::Xml:
+    break;
+  }
+  return QStringLiteral("XML");
+}
+
 QWidget* Address_Import_Settings::makeFormat() {
   mFormat->setObjectName(QStringLiteral("mFormat"));
   mFormat->setToolTip(tr("Wie die Datei gelesen wird; automatisch heißt: wie ihr Inhalt aussieht."));
   mFormat->addItem(tr("automatisch"));
-  for (const auto& [text, format] : {std::pair(QStringLiteral("XML"), Ets_Groups::Format::Xml),
-                                     std::pair(QStringLiteral("ESF"), Ets_Groups::Format::Esf),
-                                     std::pair(QStringLiteral("CSV"), Ets_Groups::Format::Csv)}) {
-    mFormat->addItem(text, static_cast<int>(format));
+  for (const auto format : {Ets_Groups::Format::Xml, Ets_Groups::Format::Esf, Ets_Groups::Format::Csv}) {
+    mFormat->addItem(formatText(format), static_cast<int>(format));
   }
   connect(mFormat, &QComboBox::currentIndexChanged, this, &Address_Import_Settings::readerOptionsChanged);
   auto* const label = new QLabel(tr("F&ormat:"));

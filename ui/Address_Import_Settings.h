@@ -20,6 +20,9 @@ public:
   [[nodiscard]] Address_Import::Options options() const;
   [[nodiscard]] Ets_Reader::Options readerOptions() const;
 
+  /// "XML", "ESF", "CSV".
+  [[nodiscard]] static QString formatText(Ets_Groups::Format format);
+
   /// Of the file that is read; what only an ESF has is shown for that alone.
   void setFormat(std::optional<Ets_Groups::Format> format);
 

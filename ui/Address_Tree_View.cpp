@@ -1,26 +1,16 @@
 #include "ui/Address_Tree_View.h"
 
-#include "base/Decimal_Text.h"
-#include "db/Address_Edits.h"
-#include "db/Address_Table_Paste.h"
 #include "db/Address_Tree_Model.h"
 #include "db/Project_Session.h"
 #include "ui/Address_Cell_Delegate.h"
-#include "ui/Address_Field_Dialog.h"
-#include "ui/Message_Box.h"
 #include "ui/Theme.h"
-#include "ui/Wait_Cursor.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
-#include <QMimeData>
 #include <QScrollBar>
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 
 namespace {
 
@@ -37,15 +27,6 @@ constexpr Flag_Row cFlags[] = {
     {Address_Rows::cWrite, QT_TRANSLATE_NOOP("Address_Tree_View", "S&chreiben")},
     {Address_Rows::cActive, QT_TRANSLATE_NOOP("Address_Tree_View", "&Aktiv")},
 };
-
-/// Rows from the top level down: comparing them compares what stands higher in the tree.
-std::vector<int> placeOf(QModelIndex index) {
-  std::vector<int> place;
-  for (; index.isValid(); index = index.parent()) {
-    place.insert(place.begin(), index.row());
-  }
-  return place;
-}
 
 } // namespace
 

@@ -19,28 +19,7 @@
 namespace {
 
 using Kind = Address_Rows::Kind;
-using Field = Address_Edits::Field;
-
 constexpr qsizetype cMostFaults = 10;
-
-Field fieldOf(int column) {
-  switch (column) {
-  case Address_Rows::cDescription:
-    return Field::Description;
-  case Address_Rows::cType:
-    return Field::Type;
-  case Address_Rows::cReadAtStart:
-    return Field::ReadAtStart;
-  case Address_Rows::cReadCyclic:
-    return Field::ReadCyclic;
-  case Address_Rows::cWrite:
-    return Field::Write;
-  case Address_Rows::cActive:
-    return Field::Active;
-  default:
-    return Field::Name;
-  }
-}
 
 } // namespace
 
@@ -155,7 +134,8 @@ qsizetype Address_Tree_View::shownInSelection() const {
   };
   qsizetype count = 0;
   for (const QItemSelectionRange& range : selectedRanges()) {
-    for (int row = range.top(); row <= range.bottom() && !isInSelected(range.parent()); ++row) {
+    const int end = isInSelected(range.parent()) ? range.top() : range.bottom() + 1; // counted there
+    for (int row = range.top(); row < end; ++row) {
       count += mModel.shownSubGroupCount(mModel.index(row, 0, range.parent()));
     }
   }
@@ -201,7 +181,7 @@ void Address_Tree_View::onDelete() {
 }
 
 void Address_Tree_View::onSetText(int column) {
-  Address_Field_Dialog dialog(fieldOf(column), this);
+  Address_Field_Dialog dialog(*Address_Tree_Model::fieldOf(column), this);
   const QString present = currentIndex().siblingAtColumn(column).data(Qt::EditRole).toString();
   dialog.setText(present);
   if (dialog.exec() == QDialog::Accepted && mSession.isOpen()) {
@@ -216,7 +196,7 @@ void Address_Tree_View::onSetFlag(int column, bool isOn) {
 void Address_Tree_View::setForSelected(int column, const QVariant& value) {
   const Wait_Cursor wait;
   const QList<QUuid> keys = editedKeys();
-  if (tell(Address_Edits::set(mSession, keys, fieldOf(column), value))) {
+  if (tell(Address_Edits::set(mSession, keys, *Address_Tree_Model::fieldOf(column), value))) {
     emit info(tr("Gesetzt für die Auswahl, Zeilen: %1.").arg(Decimal_Text::count(keys.size())));
   }
 }

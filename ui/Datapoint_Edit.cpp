@@ -14,12 +14,6 @@ namespace {
 constexpr int cShownTypes = 12;
 constexpr int cListWidth = 320;
 
-/// Of "9.001 Temperatur (°C)" the number.
-QString numberIn(const QString& text) {
-  const QString first = text.trimmed().section(QLatin1Char(' '), 0, 0);
-  return Datapoint_Id::parse(first) ? first : text;
-}
-
 QStringList typesWith(const QString& text) {
   QStringList types;
   for (const Datapoint_Id& id : Datapoint_Types::search(text)) {
@@ -32,7 +26,9 @@ QStringList typesWith(const QString& text) {
 
 Datapoint_Edit::Datapoint_Edit(QWidget* parent)
     : Checked_Line_Edit(
-          [](const QString& text) { return Address_Edits::check(Address_Edits::Field::Type, numberIn(text)).mError; },
+          [](const QString& text) {
+            return Address_Edits::check(Address_Edits::Field::Type, Datapoint_Types::numberIn(text)).mError;
+          },
           parent),
       mFound(new QStringListModel(this)) {
   auto* const completer = new QCompleter(mFound, this);
@@ -54,7 +50,7 @@ void Datapoint_Edit::search(const QString& text) {
 }
 
 Datapoint_Id Datapoint_Edit::type() const {
-  return Datapoint_Id::parse(numberIn(text())).value_or(Datapoint_Id());
+  return Datapoint_Id::parse(Datapoint_Types::numberIn(text())).value_or(Datapoint_Id());
 }
 
 /// While the list is open the words in the field are a search.
@@ -81,7 +77,7 @@ bool Datapoint_Edit::eventFilter(QObject* watched, QEvent* event) {
 /// The arrow shows all types when nothing is typed yet.
 void Datapoint_Edit::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Down && !completer()->popup()->isVisible()) {
-    search(numberIn(text()));
+    search(Datapoint_Types::numberIn(text()));
     completer()->complete();
     return;
   }

@@ -13,18 +13,8 @@
 
 #include <map>
 #include <utility>
-#include <vector>
 
 namespace {
-
-/// Rows from the top level down: comparing them compares what stands higher in the tree.
-std::vector<int> placeOf(QModelIndex index) {
-  std::vector<int> rows;
-  for (; index.isValid(); index = index.parent()) {
-    rows.insert(rows.begin(), index.row());
-  }
-  return rows;
-}
 
 QString cellText(const QModelIndex& index) {
   if (const QVariant check = index.data(Qt::CheckStateRole); check.isValid()) {
@@ -129,6 +119,14 @@ void Project_Tree_View::finishEditing() {
   if (state() == EditingState) {
     setFocus();
   }
+}
+
+std::vector<int> Project_Tree_View::placeOf(QModelIndex index) {
+  std::vector<int> rows;
+  for (; index.isValid(); index = index.parent()) {
+    rows.insert(rows.begin(), index.row());
+  }
+  return rows;
 }
 
 QString Project_Tree_View::selectedText() const {

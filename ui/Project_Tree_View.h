@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QTreeView>
 
+#include <vector>
+
 class Session_State;
 
 /// A tree of project records: in-place renaming of one column by double click or F2, Ctrl+C for the selected rows as
@@ -33,6 +35,8 @@ protected:
     });
     return action;
   }
+  /// Rows from the top level down: comparing them compares what stands higher in the tree.
+  [[nodiscard]] static std::vector<int> placeOf(QModelIndex index);
   /// Opens the editor of the column that can be renamed, which is shown for it.
   void rename(const QModelIndex& index);
   /// Hands over what is being typed in a cell.

@@ -234,9 +234,9 @@ private slots:
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("told");
     QTest::newRow("name of the project alone")
-        << QByteArray("Leeres Haus\r\n") << QStringLiteral("keine Gruppenadresse");
-    QTest::newRow("no name either") << QByteArray("\r\n") << QStringLiteral("keine Gruppenadresse");
-    QTest::newRow("comments") << QByteArray("# a\n# b") << QStringLiteral("keine Gruppenadresse");
+        << QByteArray("Leeres Haus\r\n") << QStringLiteral("weder Gruppenadressen");
+    QTest::newRow("no name either") << QByteArray("\r\n") << QStringLiteral("weder Gruppenadressen");
+    QTest::newRow("comments") << QByteArray("# a\n# b") << QStringLiteral("weder Gruppenadressen");
     QTest::newRow("XML in one line") << QByteArray("<?xml version='1.0'?><GroupAddress-Export/>")
                                      << QStringLiteral("XML");
   }
