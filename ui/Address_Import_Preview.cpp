@@ -5,13 +5,12 @@
 #include "db/Address_Import_Model.h"
 #include "ui/Address_Import_View.h"
 #include "ui/Empty_Hint.h"
+#include "ui/Filter_Edit.h"
 #include "ui/Theme.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -53,7 +52,7 @@ Address_Import_Preview::Address_Import_Preview(const Session_State& state, QWidg
       mTableOrHint(new QStackedWidget),
       mHint(new Empty_Hint),
       mUnchanged(new QLabel),
-      mFilter(new QLineEdit),
+      mFilter(new Filter_Edit(cFilterDelayMs)),
       mCount(new QLabel) {
   fillHead();
   fillFoot();
@@ -92,19 +91,13 @@ void Address_Import_Preview::fillHead() {
   layout->addStretch(1);
 
   mFilter->setObjectName(QStringLiteral("mImportFilter"));
-  mFilter->setPlaceholderText(tr("Suchen"));
   mFilter->setAccessibleName(tr("Zeilen suchen"));
   mFilter->setToolTip(
       tr("Zeigt die Zeilen, in denen jedes Wort vorkommt. Strg+F führt hierher, Escape leert das Feld."));
-  mFilter->addAction(Theme::icon(QStringLiteral("search-white")), QLineEdit::LeadingPosition);
-  mFilter->setClearButtonEnabled(true);
   mFilter->setFixedWidth(cFilterWidth);
-  mFilter->installEventFilter(this);
   layout->addWidget(mFilter);
-  mFilterDelay.setSingleShot(true);
-  mFilterDelay.setInterval(cFilterDelayMs);
-  connect(&mFilterDelay, &QTimer::timeout, this, &Address_Import_Preview::applyFilter);
-  connect(mFilter, &QLineEdit::textChanged, &mFilterDelay, qOverload<>(&QTimer::start));
+  connect(mFilter, &Filter_Edit::filterChanged, mModel, &Address_Import_Model::setFilter);
+  connect(mFilter, &Filter_Edit::listWanted, this, &Address_Import_Preview::enterRows);
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, mFilter,
           [this] { mFilter->setFocus(Qt::ShortcutFocusReason); });
 }
@@ -126,38 +119,12 @@ void Address_Import_Preview::fillFoot() {
   layout->addStretch(1);
 }
 
-bool Address_Import_Preview::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == mFilter && event->type() == QEvent::KeyPress) {
-    switch (static_cast<QKeyEvent*>(event)->key()) {
-    case Qt::Key_Escape:
-      if (!mFilter->text().isEmpty()) {
-        mFilter->clear();
-        return true;
-      }
-      break;
-    case Qt::Key_Down:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      enterRows();
-      return true;
-    default:
-      break;
-    }
-  }
-  return QWidget::eventFilter(watched, event);
-}
-
 void Address_Import_Preview::enterRows() {
-  applyFilter();
+  mFilter->apply();
   if (!mView->currentIndex().isValid()) {
     mView->setCurrentIndex(mModel->index(0, 0));
   }
   mView->setFocus(Qt::OtherFocusReason);
-}
-
-void Address_Import_Preview::applyFilter() {
-  mFilterDelay.stop();
-  mModel->setFilter(mFilter->text());
 }
 
 const Address_Import_Plan& Address_Import_Preview::plan() const {

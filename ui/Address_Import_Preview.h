@@ -2,7 +2,6 @@
 
 #include "db/Address_Import_Plan.h"
 
-#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -11,8 +10,8 @@ class Address_Import_Model;
 class Address_Import_View;
 class App_Settings;
 class Empty_Hint;
+class Filter_Edit;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QStackedWidget;
 class Session_State;
@@ -42,15 +41,11 @@ signals:
   /// The button of the empty place.
   void stepRequested();
 
-protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
   using Kind = Address_Import_Row::Kind;
 
   void fillHead();
   void fillFoot();
-  void applyFilter();
   void updateTexts();
 
   Address_Import_Model* mModel;
@@ -61,11 +56,10 @@ private:
   Empty_Hint* mHint;
   std::array<QPushButton*, 4> mKinds{};
   QLabel* mUnchanged;
-  QLineEdit* mFilter;
+  Filter_Edit* mFilter;
   QPushButton* mAll = nullptr;
   QPushButton* mNone = nullptr;
   QLabel* mCount;
-  QTimer mFilterDelay;
   QString mEmptyText; ///< while there is no comparison
   QString mEmptyStep;
 };

@@ -3,13 +3,13 @@
 #include "base/Decimal_Text.h"
 #include "db/Project_Session.h"
 #include "fb/model/FB_Types.h"
+#include "ui/Filter_Edit.h"
 #include "ui/Result_List.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 
 namespace {
 constexpr int cAddressShare = 3;

@@ -8,13 +8,12 @@
 #include "fb/model/FB_Types.h"
 #include "ui/Address_Tree_View.h"
 #include "ui/Empty_Hint.h"
+#include "ui/Filter_Edit.h"
 #include "ui/Theme.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QShortcut>
 #include <QStackedLayout>
@@ -26,7 +25,7 @@
 namespace {
 
 constexpr int cGap = 4;
-constexpr int cFilterDelayMs = 0; // several keys that wait already are one filtering
+constexpr int cFilterDelayMs = 0;
 constexpr int cNameWidth = 200;
 constexpr int cDescriptionWidth = 110;
 
@@ -42,7 +41,7 @@ Address_View::Address_View(Project_Session& session, QWidget* parent)
       mModel(new Address_Tree_Model(session, this)),
       mPages(new QStackedLayout(this)),
       mEmpty(new Empty_Hint),
-      mFilter(new QLineEdit),
+      mFilter(new Filter_Edit(cFilterDelayMs)),
       mTreeOrHint(new QStackedWidget),
       mTree(new Address_Tree_View(session, *mModel)),
       mNoHit(new Empty_Hint),
@@ -52,11 +51,8 @@ Address_View::Address_View(Project_Session& session, QWidget* parent)
   mPages->addWidget(mEmpty);
   mPages->addWidget(makeListPage());
 
-  mFilterDelay.setSingleShot(true);
-  mFilterDelay.setInterval(cFilterDelayMs);
-  connect(&mFilterDelay, &QTimer::timeout, this, &Address_View::applyFilter);
-  connect(mFilter, &QLineEdit::textChanged, &mFilterDelay, qOverload<>(&QTimer::start));
-  connect(mFilter, &QLineEdit::returnPressed, this, &Address_View::enterTree);
+  connect(mFilter, &Filter_Edit::filterChanged, mModel, &Address_Tree_Model::setFilter);
+  connect(mFilter, &Filter_Edit::listWanted, this, &Address_View::enterTree);
   connect(mNoAddress, &Empty_Hint::stepRequested, this, &Address_View::importRequested);
   connect(mModel, &QAbstractItemModel::modelReset, this, &Address_View::updateState);
   // A box in the middle of committing an editor would take its focus and commit it again.
@@ -81,13 +77,9 @@ Address_View::~Address_View() {
 QWidget* Address_View::makeListPage() {
   auto* const page = new QWidget;
   mFilter->setObjectName(QStringLiteral("ui:mAddressFilter"));
-  mFilter->setPlaceholderText(tr("Suchen"));
   mFilter->setAccessibleName(tr("Adressen suchen"));
   mFilter->setToolTip(tr("Zeigt die Zeilen, in denen jedes Wort vorkommt: in Adresse, Name, Beschreibung, "
                          "Datenpunkttyp oder Herkunft. Escape leert das Feld."));
-  mFilter->addAction(Theme::icon(QStringLiteral("search-white")), QLineEdit::LeadingPosition);
-  mFilter->setClearButtonEnabled(true);
-  mFilter->installEventFilter(this);
   // Escape belongs to whoever stands around this view while there is nothing to clear.
   auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), page);
   escape->setContext(Qt::WidgetWithChildrenShortcut);
@@ -166,31 +158,16 @@ void Address_View::showAddress(const QUuid& key) {
   mTree->showKey(key);
 }
 
-bool Address_View::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == mFilter && event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down) {
-    enterTree();
-    return true;
-  }
-  return QWidget::eventFilter(watched, event);
-}
-
 void Address_View::enterTree() {
-  applyFilter();
   if (!mTree->currentIndex().isValid()) {
     mTree->setCurrentIndex(mModel->index(0, 0));
   }
   mTree->setFocus(Qt::ShortcutFocusReason);
 }
 
-void Address_View::applyFilter() {
-  mFilterDelay.stop();
-  mModel->setFilter(mFilter->text());
-}
-
 void Address_View::clearFilter() {
   mFilter->clear();
-  applyFilter();
+  mFilter->apply();
 }
 
 void Address_View::updateState() {

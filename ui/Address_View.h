@@ -1,15 +1,14 @@
 #pragma once
 
-#include <QTimer>
 #include <QWidget>
 
 class Address_Tree_Model;
 class Address_Tree_View;
 class App_Settings;
 class Empty_Hint;
+class Filter_Edit;
 class Project_Session;
 class QLabel;
-class QLineEdit;
 class QStackedLayout;
 class QStackedWidget;
 class QUuid;
@@ -40,14 +39,10 @@ signals:
   /// A use of a variable was chosen: the page it stands on.
   void pageChosen(const QUuid& pageGuid);
 
-protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
   [[nodiscard]] QWidget* makeListPage();
   [[nodiscard]] QWidget* makeAddButton();
   void setUpColumns();
-  void applyFilter();
   void clearFilter();
   void enterTree();
   void updateState();
@@ -56,11 +51,10 @@ private:
   Address_Tree_Model* mModel;
   QStackedLayout* mPages;
   Empty_Hint* mEmpty;
-  QLineEdit* mFilter;
+  Filter_Edit* mFilter;
   QStackedWidget* mTreeOrHint;
   Address_Tree_View* mTree;
   Empty_Hint* mNoHit;
   Empty_Hint* mNoAddress;
   QLabel* mCount;
-  QTimer mFilterDelay;
 };

@@ -3,10 +3,10 @@
 #include "base/Decimal_Text.h"
 #include "db/Project_Session.h"
 #include "fb/model/FB_Types.h"
+#include "ui/Filter_Edit.h"
 #include "ui/Result_List.h"
 
 #include <QHeaderView>
-#include <QLineEdit>
 
 #include <array>
 #include <utility>

@@ -2,15 +2,13 @@
 
 #include "base/App_Settings.h"
 #include "db/Project_Session.h"
+#include "ui/Filter_Edit.h"
 #include "ui/Result_List.h"
 #include "ui/Theme.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSplitter>
 
 #include <algorithm>
@@ -29,7 +27,7 @@ Result_Dialog::Result_Dialog(Project_Session& session, App_Settings& settings, c
       mSettings(settings),
       mWatch(session),
       mTop(new QHBoxLayout),
-      mFilter(new QLineEdit),
+      mFilter(new Filter_Edit(cFilterDelayMs)),
       mBody(new QSplitter(Qt::Vertical)),
       mCount(new QLabel) {
   setObjectName(name);
@@ -82,27 +80,13 @@ void Result_Dialog::makeFilter() {
   mFilter->setPlaceholderText(tr("1/2/3, 1/2/*, 1/* oder Wörter"));
   mFilter->setToolTip(tr("Zeigt die Zeilen, in denen jedes Wort vorkommt. 1/2/3 ist genau diese Adresse, 1/2/* und 1/* "
                          "sind alle der Gruppe. Escape leert das Feld."));
-  mFilter->addAction(Theme::icon(QStringLiteral("search-white")), QLineEdit::LeadingPosition);
-  mFilter->setClearButtonEnabled(true);
-  mFilter->installEventFilter(this);
+  connect(mFilter, &Filter_Edit::filterChanged, this, &Result_Dialog::applyFilter);
+  connect(mFilter, &Filter_Edit::listWanted, this, [this] { mainList().enter(); });
   auto* const label = new QLabel(tr("&Suchen:"));
   label->setBuddy(mFilter);
   mTop->setSpacing(cGap);
   mTop->addWidget(label);
   mTop->addWidget(mFilter, 1);
-
-  // Escape closes the window when there is nothing to clear.
-  auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), mFilter);
-  escape->setContext(Qt::WidgetShortcut);
-  escape->setEnabled(false);
-  connect(escape, &QShortcut::activated, mFilter, &QLineEdit::clear);
-  connect(mFilter, &QLineEdit::textChanged, escape,
-          [escape](const QString& text) { escape->setEnabled(!text.isEmpty()); });
-
-  mFilterDelay.setSingleShot(true);
-  mFilterDelay.setInterval(cFilterDelayMs);
-  connect(&mFilterDelay, &QTimer::timeout, this, &Result_Dialog::filterNow);
-  connect(mFilter, &QLineEdit::textChanged, &mFilterDelay, qOverload<>(&QTimer::start));
 }
 
 const ProjectDatabase& Result_Dialog::database() const {
@@ -131,27 +115,6 @@ void Result_Dialog::bringUp() {
   show();
   raise();
   activateWindow();
-}
-
-void Result_Dialog::filterNow() {
-  mFilterDelay.stop();
-  applyFilter();
-}
-
-void Result_Dialog::enterList() {
-  filterNow();
-  mainList().enter();
-}
-
-bool Result_Dialog::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == mFilter && event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter) {
-      enterList();
-      return true;
-    }
-  }
-  return QDialog::eventFilter(watched, event);
 }
 
 void Result_Dialog::showEvent(QShowEvent* event) {

@@ -4,14 +4,13 @@
 
 #include <QDialog>
 #include <QList>
-#include <QTimer>
 #include <QUuid>
 
 class App_Settings;
 class Project_Session;
 class QBoxLayout;
 class QLabel;
-class QLineEdit;
+class Filter_Edit;
 class QSplitter;
 class Result_List;
 
@@ -48,30 +47,26 @@ protected:
   void showLists(const QList<bool>& seen);
   void setCountText(const QString& text);
   [[nodiscard]] QBoxLayout& top() { return *mTop; }
-  [[nodiscard]] QLineEdit& filter() const { return *mFilter; }
+  [[nodiscard]] Filter_Edit& filter() const { return *mFilter; }
   [[nodiscard]] const ProjectDatabase& database() const;
   [[nodiscard]] const Address_Usage& usage() { return mWatch.usage(); }
 
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
   Project_Session& mSession;
 
 private:
   void makeFilter();
   void placeBesideTabs();
-  void filterNow();
-  void enterList();
   void remember();
 
   App_Settings& mSettings;
   Address_Usage_Watch mWatch;
   QBoxLayout* mTop;
-  QLineEdit* mFilter;
+  Filter_Edit* mFilter;
   QSplitter* mBody;
   QLabel* mCount;
-  QTimer mFilterDelay;
   QList<Result_List*> mLists;
   QList<int> mShares; ///< of the height, while all lists are seen
 };
