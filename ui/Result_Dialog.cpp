@@ -7,8 +7,10 @@
 #include "ui/Theme.h"
 
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QSplitter>
 
 #include <algorithm>
