@@ -56,6 +56,9 @@ template <class Write>
 void roundTrip(const Ets_Groups& groups, Ets_Groups::Format format, const Write& write) {
   Address_Tree tree;
   Ets_Rig::fill(tree, groups);
+  if (tree.mainGroups().isEmpty()) {
+    return; // such a file is refused
+  }
   const QByteArray written = Ets_Rig::bytesOf([&](QIODevice& device) { write(tree, device); });
   Ets_Reader::Options options;
   options.mFormat = format;
