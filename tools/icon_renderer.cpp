@@ -1,30 +1,27 @@
 // Renders icons while building: icon_renderer FOLDER DRAWING.svg...
-// writes NAME.png (24 px) and NAME@2x.png (48 px) for each drawing, and 256 px for the program's own mark.
-// Needs no display. Ends with 1 and a message when a drawing cannot be read or a picture not be written.
-#include <QCoreApplication>
+// writes NAME.png (24 px), NAME@2x.png (48 px), NAME_16.png, NAME_20.png and NAME_32.png for each drawing, and 256 px
+// for the program's own mark. icon_renderer --sheet FILE.png DRAWING.svg... writes one picture that shows all drawings,
+// to look at. Needs no display. Ends with 1 and a message when a drawing cannot be read or a picture not be written.
+#include "tools/Icon_Drawing.h"
+#include "tools/Icon_Sheet.h"
+
 #include <QDir>
-#include <QFileInfo>
-#include <QImage>
-#include <QPainter>
+#include <QGuiApplication>
 #include <QStringList>
-#include <QSvgRenderer>
 
 #include <cstdio>
+#include <cstring>
+#include <memory>
 #include <utility>
 
 namespace {
 
-constexpr int iconSize = 24;
-constexpr int denseIconSize = 48;
+constexpr std::pair<int, const char*> pictures[]{
+    {16, "_16"}, {20, "_20"}, {24, ""}, {32, "_32"}, {48, "@2x"},
+};
 constexpr int markSize = 256;
 
-bool render(QSvgRenderer& drawing, int size, const QString& file) {
-  QImage picture(size, size, QImage::Format_ARGB32_Premultiplied);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  drawing.render(&painter, QRectF(0, 0, size, size));
-  painter.end();
+bool save(const QImage& picture, const QString& file) {
   if (!picture.save(file, "PNG")) {
     std::fprintf(stderr, "%s: cannot be written\n", qPrintable(file));
     return false;
@@ -33,29 +30,27 @@ bool render(QSvgRenderer& drawing, int size, const QString& file) {
 }
 
 bool renderAll(const QString& source, const QDir& folder) {
-  QSvgRenderer drawing(source);
+  Icon_Drawing drawing(source);
   if (!drawing.isValid()) {
     std::fprintf(stderr, "%s: is no drawing\n", qPrintable(source));
     return false;
   }
-  const QString name = QFileInfo(source).completeBaseName();
-  bool written = render(drawing, iconSize, folder.filePath(name + ".png")) &&
-                 render(drawing, denseIconSize, folder.filePath(name + "@2x.png"));
-  if (name == QLatin1String("quarna-studio")) {
-    written = written && render(drawing, markSize, folder.filePath(name + "-256.png"));
+  bool written = true;
+  for (const auto& [size, suffix] : pictures) {
+    written = written && save(drawing.picture(size), folder.filePath(drawing.name() + suffix + ".png"));
+  }
+  if (drawing.name() == QLatin1String("quarna-studio")) {
+    written = written && save(drawing.picture(markSize), folder.filePath(drawing.name() + "-256.png"));
   }
   return written;
 }
 
-} // namespace
+int renderSheet(const QStringList& arguments) {
+  const QImage sheet = Icon_Sheet::make({arguments.begin() + 1, arguments.end()});
+  return save(sheet, arguments.first()) ? 0 : 1;
+}
 
-int main(int argc, char* argv[]) {
-  const QCoreApplication app(argc, argv);
-  QStringList drawings = QCoreApplication::arguments().mid(1);
-  if (drawings.isEmpty()) {
-    std::fprintf(stderr, "usage: icon_renderer FOLDER DRAWING.svg...\n");
-    return 1;
-  }
+int renderPictures(QStringList drawings) {
   const QDir folder(drawings.takeFirst());
   if (!folder.mkpath(".")) {
     std::fprintf(stderr, "%s: cannot be made\n", qPrintable(folder.path()));
@@ -66,4 +61,21 @@ int main(int argc, char* argv[]) {
     good = renderAll(drawing, folder) && good;
   }
   return good ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+  // Only names need fonts, and only fonts need more than the core.
+  const bool isSheet = argc > 1 && std::strcmp(argv[1], "--sheet") == 0;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const std::unique_ptr<QCoreApplication> app(isSheet ? new QGuiApplication(argc, argv)
+                                                      : new QCoreApplication(argc, argv));
+  const QStringList arguments = QCoreApplication::arguments().mid(isSheet ? 2 : 1);
+  if (arguments.size() < 2) {
+    std::fprintf(stderr, "usage: icon_renderer FOLDER DRAWING.svg...\n"
+                         "       icon_renderer --sheet FILE.png DRAWING.svg...\n");
+    return 1;
+  }
+  return isSheet ? renderSheet(arguments) : renderPictures(arguments);
 }
