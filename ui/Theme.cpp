@@ -1,12 +1,11 @@
 #include "ui/Theme.h"
 
+#include "ui/Theme_Icon.h"
 #include "ui/Theme_Sheet.h"
 #include "ui/Theme_Style.h"
 
 #include <QApplication>
-#include <QPainter>
 #include <QPalette>
-#include <QPixmap>
 #include <QToolTip>
 
 #include <array>
@@ -15,18 +14,6 @@
 namespace {
 
 using Theme::Role;
-
-constexpr qreal cDisabledOpacity = 0.35;
-
-QPixmap paler(const QPixmap& pixmap) {
-  QPixmap result(pixmap.size());
-  result.setDevicePixelRatio(pixmap.devicePixelRatio());
-  result.fill(Qt::transparent);
-  QPainter painter(&result);
-  painter.setOpacity(cDisabledOpacity);
-  painter.drawPixmap(0, 0, pixmap);
-  return result;
-}
 
 QPalette darkPalette() {
   constexpr std::array roles{
@@ -133,20 +120,11 @@ QColor Theme::color(Role role) {
 }
 
 QIcon Theme::icon(const QString& name) {
-  QIcon icon;
-  for (const char* const density : {"", "@2x"}) {
-    QPixmap pixmap(QStringLiteral(":/icons/%1%2.png").arg(name, QLatin1String(density)));
-    if (!pixmap.isNull()) {
-      icon.addPixmap(pixmap);
-      // Without a picture of its own the style would tint it.
-      icon.addPixmap(pixmap, QIcon::Selected);
-      icon.addPixmap(paler(pixmap), QIcon::Disabled);
-    }
-  }
-  if (icon.isNull()) {
+  if (!Theme_Icon::exists(name)) {
     qWarning("There is no icon \"%s\".", qPrintable(name));
+    return {};
   }
-  return icon;
+  return QIcon(new Theme_Icon(name));
 }
 
 void Theme::setTextRole(QWidget& label, Role role) {

@@ -2,6 +2,9 @@
 #include "ui/Theme_Sheet.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <QPainter>
 #include <QtTest>
 
 #include <algorithm>
@@ -22,6 +25,30 @@ double luminance(const QColor& color) {
 double contrast(const QColor& a, const QColor& b) {
   const auto [low, high] = std::minmax({luminance(a), luminance(b)});
   return (high + 0.05) / (low + 0.05);
+}
+
+/// The names of all drawings.
+QStringList iconNames() {
+  QStringList result;
+  for (const QString& file : QDir(QStringLiteral(":/icons")).entryList({QStringLiteral("*_16.png")})) {
+    result.append(file.chopped(int(qstrlen("_16.png"))));
+  }
+  return result;
+}
+
+QImage plain(QImage image) {
+  image.setDevicePixelRatio(1);
+  return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+qint64 opacity(const QImage& image) {
+  qint64 sum = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      sum += qAlpha(image.pixel(x, y));
+    }
+  }
+  return sum;
 }
 
 } // namespace
@@ -57,6 +84,59 @@ private slots:
     check({Role::Accent, Role::Indicator, Role::Error}, {Role::Bar, Role::Window, Role::Input}, cShape);
     check({Role::WireAddress, Role::WireVariable, Role::WireTrue, Role::WireFalse, Role::SelectedFrame}, {Role::Canvas},
           cShape);
+  }
+
+  void iconsFitExactly_data() {
+    QTest::addColumn<int>("size");
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<QString>("suffix");
+    QTest::newRow("menu") << 16 << 1.0 << "_16";
+    QTest::newRow("menu, 125 %") << 16 << 1.25 << "_20";
+    QTest::newRow("menu, 150 %") << 16 << 1.5 << "";
+    QTest::newRow("menu, dense") << 16 << 2.0 << "_32";
+    QTest::newRow("20 pixels") << 20 << 1.0 << "_20";
+    QTest::newRow("20 pixels, dense: made smaller") << 20 << 2.0 << QString();
+    QTest::newRow("tool bar") << 24 << 1.0 << "";
+    QTest::newRow("tool bar, dense") << 24 << 2.0 << "@2x";
+    QTest::newRow("32 pixels") << 32 << 1.0 << "_32";
+    QTest::newRow("48 pixels") << 48 << 1.0 << "@2x";
+  }
+
+  void iconsFitExactly() {
+    QFETCH(int, size);
+    QFETCH(double, ratio);
+    QFETCH(QString, suffix);
+    const QStringList names = iconNames();
+    QVERIFY(names.size() > 1);
+    for (const QString& name : names) {
+      const QIcon icon = Theme::icon(name);
+      const QPixmap pixmap = icon.pixmap(QSize(size, size), ratio);
+      QVERIFY2(pixmap.size() == QSize(size, size) * ratio && pixmap.devicePixelRatio() == ratio, qPrintable(name));
+      const QImage shown = plain(pixmap.toImage());
+      if (!suffix.isNull()) {
+        const QImage file = plain(QImage(QStringLiteral(":/icons/%1%2.png").arg(name, suffix)));
+        QVERIFY2(shown == file, qPrintable(name));
+      }
+      const qint64 full = opacity(shown);
+      QVERIFY2(full > 0, qPrintable(name));
+      const qint64 disabled = opacity(plain(icon.pixmap(QSize(size, size), ratio, QIcon::Disabled).toImage()));
+      QVERIFY2(disabled > full / 4 && disabled < full / 2, qPrintable(name));
+    }
+  }
+
+  void iconIsDrawnInTheMiddle() {
+    QImage screen(60, 80, QImage::Format_ARGB32_Premultiplied);
+    screen.fill(Qt::transparent);
+    screen.setDevicePixelRatio(2);
+    QPainter painter(&screen);
+    Theme::icon(QStringLiteral("plus_white")).paint(&painter, QRect(3, 0, 24, 40));
+    painter.end();
+    QCOMPARE(plain(screen).copy(6, 16, 48, 48), plain(QImage(QStringLiteral(":/icons/plus_white@2x.png"))));
+  }
+
+  void unknownIcon() {
+    QTest::ignoreMessage(QtWarningMsg, "There is no icon \"no such\".");
+    QVERIFY(Theme::icon(QStringLiteral("no such")).isNull());
   }
 
   void sheetIsWhole() { QVERIFY2(!Theme_Sheet::text().contains(QLatin1Char('@')), "a role is misspelt"); }
