@@ -1,5 +1,6 @@
 // Renders icons while building: icon_renderer FOLDER DRAWING.svg...
-// writes NAME.png (24 px) and NAME@2x.png (48 px) for each drawing, and 256 px for the program's own mark.
+// writes NAME.png (24 px) and NAME@2x.png (48 px) for each drawing, and for the program's own mark NAME-128.png and
+// NAME-256.png.
 // Needs no display. Ends with 1 and a message when a drawing cannot be read or a picture not be written.
 #include <QCoreApplication>
 #include <QDir>
@@ -16,7 +17,7 @@ namespace {
 
 constexpr int iconSize = 24;
 constexpr int denseIconSize = 48;
-constexpr int markSize = 256;
+constexpr int markSizes[] = {128, 256};
 
 bool render(QSvgRenderer& drawing, int size, const QString& file) {
   QImage picture(size, size, QImage::Format_ARGB32_Premultiplied);
@@ -42,7 +43,9 @@ bool renderAll(const QString& source, const QDir& folder) {
   bool written = render(drawing, iconSize, folder.filePath(name + ".png")) &&
                  render(drawing, denseIconSize, folder.filePath(name + "@2x.png"));
   if (name == QLatin1String("quarna-studio")) {
-    written = written && render(drawing, markSize, folder.filePath(name + "-256.png"));
+    for (const int size : markSizes) {
+      written = written && render(drawing, size, folder.filePath(QStringLiteral("%1-%2.png").arg(name).arg(size)));
+    }
   }
   return written;
 }
