@@ -139,6 +139,8 @@ class X_Screen:
         made["XDG_RUNTIME_DIR"] = f"{home}/runtime"
         for path in list(made.values())[2:]:
             Path(path).mkdir(mode=0o700, parents=True, exist_ok=True)
+        # No bus lies there: the user's own must not be met, and a missing address would start one that outlives the trial.
+        made["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={made['XDG_RUNTIME_DIR']}/bus"
         return {name: value for name, value in os.environ.items() if name != "WAYLAND_DISPLAY"} | made
 
     def event(self, process, deadline):
