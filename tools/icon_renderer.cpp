@@ -1,7 +1,8 @@
 // Renders icons while building: icon_renderer FOLDER DRAWING.svg...
-// writes NAME.png (24 px), NAME@2x.png (48 px), NAME_16.png, NAME_20.png and NAME_32.png for each drawing, and 256 px
-// for the program's own mark. icon_renderer --sheet FILE.png DRAWING.svg... writes one picture that shows all drawings,
-// to look at. Needs no display. Ends with 1 and a message when a drawing cannot be read or a picture not be written.
+// writes NAME.png (24 px), NAME@2x.png (48 px), NAME_16.png, NAME_20.png and NAME_32.png for each drawing, and for the
+// program's own mark NAME-128.png and NAME-256.png. icon_renderer --sheet FILE.png DRAWING.svg... writes one picture
+// that shows all drawings, to look at. Needs no display. Ends with 1 and a message when a drawing cannot be read or a
+// picture not be written.
 #include "tools/Icon_Drawing.h"
 #include "tools/Icon_Sheet.h"
 
@@ -19,7 +20,7 @@ namespace {
 constexpr std::pair<int, const char*> pictures[]{
     {16, "_16"}, {20, "_20"}, {24, ""}, {32, "_32"}, {48, "@2x"},
 };
-constexpr int markSize = 256;
+constexpr int markSizes[] = {128, 256};
 
 bool save(const QImage& picture, const QString& file) {
   if (!picture.save(file, "PNG")) {
@@ -40,7 +41,10 @@ bool renderAll(const QString& source, const QDir& folder) {
     written = written && save(drawing.picture(size), folder.filePath(drawing.name() + suffix + ".png"));
   }
   if (drawing.name() == QLatin1String("quarna-studio")) {
-    written = written && save(drawing.picture(markSize), folder.filePath(drawing.name() + "-256.png"));
+    for (const int size : markSizes) {
+      const QString file = QStringLiteral("%1-%2.png").arg(drawing.name()).arg(size);
+      written = written && save(drawing.picture(size), folder.filePath(file));
+    }
   }
   return written;
 }
