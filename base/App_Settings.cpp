@@ -5,11 +5,13 @@
 
 namespace {
 
-constexpr int cLastProjectsLimit = 12;
-constexpr int cHighestPort = 65535;
+constexpr qsizetype cLastProjectsLimit = 12;
+constexpr qsizetype cFavoriteProjectsLimit = 100;
 
 const QString cGroup = QStringLiteral("Settings/");
 const QString cLastProjectsKey = QStringLiteral("mLastProjectsList");
+const QString cFavoriteProjectsKey = QStringLiteral("mFavoriteProjectsList");
+const QString cGerman = QStringLiteral("de");
 const QString cPathKey = QStringLiteral("path");
 
 std::unique_ptr<QSettings> openStore(const QString& file) {
@@ -37,11 +39,11 @@ App_Settings::App_Settings(const QString& file) : mStore(openStore(file)) {
   }
 }
 
-QVariant App_Settings::value(const QString& key) const {
+QVariant App_Settings::stored(const QString& key) const {
   return mStore->value(cGroup + key);
 }
 
-void App_Settings::setValue(const QString& key, const QVariant& value, const QVariant& defaultValue) {
+void App_Settings::store(const QString& key, const QVariant& value, const QVariant& defaultValue) {
   if (value == defaultValue) {
     mStore->remove(cGroup + key);
   } else {
@@ -49,43 +51,73 @@ void App_Settings::setValue(const QString& key, const QVariant& value, const QVa
   }
 }
 
+int App_Settings::value(Setting setting) const {
+  const Setting_Row& row = Setting_Table::row(setting);
+  const QString text = stored(QString::fromLatin1(row.mKey)).toString();
+  // The store of one's own hand writes switches as words.
+  if (row.mKind == Setting_Row::Kind::Switch && (text == u"true" || text == u"false")) {
+    return text == u"true" ? 1 : 0;
+  }
+  bool isOk = false;
+  const int value = text.toInt(&isOk);
+  return isOk ? Setting_Table::valid(setting, value) : row.mDefault;
+}
+
+void App_Settings::setValue(Setting setting, int value) {
+  value = Setting_Table::valid(setting, value);
+  if (value != this->value(setting)) {
+    const Setting_Row& row = Setting_Table::row(setting);
+    store(QString::fromLatin1(row.mKey), value, row.mDefault);
+    emit changed(setting);
+  }
+}
+
 QString App_Settings::languageDev() const {
-  const QString code = value(QStringLiteral("LanguageDev")).toString();
-  return code.isEmpty() ? QStringLiteral("de") : code;
+  const QString code = stored(QStringLiteral("LanguageDev")).toString();
+  return code.isEmpty() ? cGerman : code;
 }
 
 void App_Settings::setLanguageDev(const QString& code) {
-  setValue(QStringLiteral("LanguageDev"), code, QStringLiteral("de"));
+  store(QStringLiteral("LanguageDev"), code, cGerman);
+}
+
+QString App_Settings::languageUsr() const {
+  return stored(QStringLiteral("LanguageUsr")).toString();
+}
+
+void App_Settings::setLanguageUsr(const QString& code) {
+  store(QStringLiteral("LanguageUsr"), code, QString());
 }
 
 QByteArray App_Settings::windowState() const {
-  return value(QStringLiteral("WindowState")).toByteArray();
+  return stored(QStringLiteral("WindowState")).toByteArray();
 }
 
 void App_Settings::setWindowState(const QByteArray& state) {
-  setValue(QStringLiteral("WindowState"), state, QByteArray());
+  store(QStringLiteral("WindowState"), state, QByteArray());
 }
 
 QByteArray App_Settings::windowGeometry() const {
-  return value(QStringLiteral("WindowGeometry")).toByteArray();
+  return stored(QStringLiteral("WindowGeometry")).toByteArray();
 }
 
 void App_Settings::setWindowGeometry(const QByteArray& geometry) {
-  setValue(QStringLiteral("WindowGeometry"), geometry, QByteArray());
+  store(QStringLiteral("WindowGeometry"), geometry, QByteArray());
 }
 
 QByteArray App_Settings::viewState(const QString& name) const {
-  return value(name).toByteArray();
+  return stored(name).toByteArray();
 }
 
 void App_Settings::setViewState(const QString& name, const QByteArray& state) {
-  setValue(name, state, QByteArray());
+  store(name, state, QByteArray());
 }
 
-QStringList App_Settings::lastProjects() const {
+QStringList App_Settings::projects(const QString& key) const {
   QStringList paths;
-  const int size = qMin(mStore->beginReadArray(cGroup + cLastProjectsKey), cLastProjectsLimit);
-  for (int i = 0; i < size; ++i) {
+  const int size = mStore->beginReadArray(cGroup + key);
+  // A broken store may tell any size.
+  for (int i = 0; i < size && i < cFavoriteProjectsLimit; ++i) {
     mStore->setArrayIndex(i);
     const QString path = mStore->value(cPathKey).toString();
     if (!path.isEmpty() && !paths.contains(path)) {
@@ -96,44 +128,66 @@ QStringList App_Settings::lastProjects() const {
   return paths;
 }
 
-void App_Settings::addLastProject(const QString& path) {
-  QStringList paths = lastProjects();
-  paths.removeAll(path);
-  paths.prepend(path);
-  paths = paths.first(qMin<qsizetype>(paths.size(), cLastProjectsLimit));
-  mStore->remove(cGroup + cLastProjectsKey);
-  mStore->beginWriteArray(cGroup + cLastProjectsKey, static_cast<int>(paths.size()));
+void App_Settings::storeProjects(const QString& key, const QStringList& paths) {
+  mStore->remove(cGroup + key);
+  mStore->beginWriteArray(cGroup + key, static_cast<int>(paths.size()));
   for (int i = 0; i < paths.size(); ++i) {
     mStore->setArrayIndex(i);
     mStore->setValue(cPathKey, paths[i]);
   }
   mStore->endArray();
+  emit projectListsChanged();
+}
+
+QStringList App_Settings::lastProjects() const {
+  QStringList paths = projects(cLastProjectsKey);
+  paths.resize(qMin(paths.size(), cLastProjectsLimit));
+  return paths;
+}
+
+void App_Settings::addLastProject(const QString& path) {
+  QStringList paths = lastProjects();
+  paths.removeAll(path);
+  paths.prepend(path);
+  paths.resize(qMin(paths.size(), cLastProjectsLimit));
+  storeProjects(cLastProjectsKey, paths);
 }
 
 void App_Settings::removeLastProject(const QString& path) {
-  const QStringList paths = lastProjects();
-  mStore->remove(cGroup + cLastProjectsKey);
-  for (qsizetype i = paths.size() - 1; i >= 0; --i) {
-    if (paths[i] != path) {
-      addLastProject(paths[i]);
-    }
+  QStringList paths = lastProjects();
+  paths.removeAll(path);
+  storeProjects(cLastProjectsKey, paths);
+}
+
+QStringList App_Settings::favoriteProjects() const {
+  return projects(cFavoriteProjectsKey);
+}
+
+void App_Settings::setFavoriteProject(const QString& path, bool isFavorite) {
+  QStringList paths = favoriteProjects();
+  if (paths.contains(path) == isFavorite || (isFavorite && paths.size() >= cFavoriteProjectsLimit)) {
+    return;
   }
+  if (isFavorite) {
+    paths.append(path);
+  } else {
+    paths.removeAll(path);
+  }
+  storeProjects(cFavoriteProjectsKey, paths);
 }
 
 QString App_Settings::lastProjectDir() const {
-  return value(QStringLiteral("mLastProjectDir")).toString();
+  return stored(QStringLiteral("mLastProjectDir")).toString();
 }
 
 void App_Settings::setLastProjectDir(const QString& dir) {
-  setValue(QStringLiteral("mLastProjectDir"), dir, QString());
+  store(QStringLiteral("mLastProjectDir"), dir, QString());
 }
 
-int App_Settings::mcpPort() const {
-  bool ok = false;
-  const int port = value(QStringLiteral("mMcpPort")).toInt(&ok);
-  return ok && port >= 0 && port <= cHighestPort ? port : 0;
+QString App_Settings::defaultConnection() const {
+  return stored(QStringLiteral("mAppDefaultConnection")).toString();
 }
 
-void App_Settings::setMcpPort(int port) {
-  setValue(QStringLiteral("mMcpPort"), port, 0);
+void App_Settings::setDefaultConnection(const QString& name) {
+  store(QStringLiteral("mAppDefaultConnection"), name, QString());
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "base/Setting_Table.h"
+
 #include <QByteArray>
+#include <QObject>
 #include <QSettings>
 #include <QString>
 #include <QStringList>
@@ -11,7 +14,9 @@
 ///
 /// A value equal to its default is not stored, a stored value outside its range reads as the default. Settings of a
 /// project are records of the project, not here.
-class App_Settings {
+class App_Settings : public QObject {
+  Q_OBJECT
+
 public:
   /// `file` names an INI file; empty for the user's own store.
   explicit App_Settings(const QString& file = {});
@@ -19,8 +24,17 @@ public:
   /// Reason why a named settings file cannot be used (German), empty when it can.
   [[nodiscard]] QString error() const { return mError; }
 
+  /// A switch that is on has the value 1. Out of range is the default.
+  [[nodiscard]] int value(Setting setting) const;
+  [[nodiscard]] bool isOn(Setting setting) const { return value(setting) != 0; }
+  void setValue(Setting setting, int value);
+
+  /// Language of the studio's own texts, as a code like "de" or "pt_BR"; it takes effect at the next start.
   [[nodiscard]] QString languageDev() const;
   void setLanguageDev(const QString& code);
+  /// Language in which the visualisation is shown; empty for that of the studio.
+  [[nodiscard]] QString languageUsr() const;
+  void setLanguageUsr(const QString& code);
 
   [[nodiscard]] QByteArray windowState() const;
   void setWindowState(const QByteArray& state);
@@ -36,18 +50,29 @@ public:
   void addLastProject(const QString& path);
   void removeLastProject(const QString& path);
 
+  /// In the order in which they were made favourites.
+  [[nodiscard]] QStringList favoriteProjects() const;
+  void setFavoriteProject(const QString& path, bool isFavorite);
+
+  /// Name of the connection that a project without one of its own begins with; empty for none.
+  [[nodiscard]] QString defaultConnection() const;
+  void setDefaultConnection(const QString& name);
+
   [[nodiscard]] QString lastProjectDir() const;
   void setLastProjectDir(const QString& dir);
 
-  /// Port of the assistant server, 0 (off) to 65535.
-  [[nodiscard]] int mcpPort() const;
-  void setMcpPort(int port);
-
   void sync() { mStore->sync(); }
 
+signals:
+  void changed(Setting setting);
+  /// The recent or the favourite projects.
+  void projectListsChanged();
+
 private:
-  [[nodiscard]] QVariant value(const QString& key) const;
-  void setValue(const QString& key, const QVariant& value, const QVariant& defaultValue);
+  [[nodiscard]] QVariant stored(const QString& key) const;
+  void store(const QString& key, const QVariant& value, const QVariant& defaultValue);
+  [[nodiscard]] QStringList projects(const QString& key) const;
+  void storeProjects(const QString& key, const QStringList& paths);
 
   std::unique_ptr<QSettings> mStore;
   QString mError;

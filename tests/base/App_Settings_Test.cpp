@@ -37,8 +37,37 @@ private slots:
       QSettings store(mFile, QSettings::IniFormat);
       store.setValue(QStringLiteral("Settings/mMcpPort"), QString::fromLatin1(stored));
       store.sync();
-      QCOMPARE(App_Settings(mFile).mcpPort(), port);
+      QCOMPARE(App_Settings(mFile).value(Setting::McpPort), port);
     }
+  }
+
+  void everySettingStoresWhatDiffersFromItsDefault() {
+    for (const Setting_Row& row : Setting_Table::rows()) {
+      const QString key = QStringLiteral("Settings/") + QLatin1String(row.mKey);
+      App_Settings settings(mFile);
+      QSignalSpy changes(&settings, &App_Settings::changed);
+      QCOMPARE(settings.value(row.mSetting), row.mDefault);
+      const int other = row.mDefault == row.mMaximum ? row.mMinimum : row.mMaximum;
+      settings.setValue(row.mSetting, other);
+      settings.sync();
+      QCOMPARE(App_Settings(mFile).value(row.mSetting), other);
+      settings.setValue(row.mSetting, row.mMaximum + 1);
+      QCOMPARE(settings.value(row.mSetting), row.mDefault);
+      settings.sync();
+      QVERIFY2(!QSettings(mFile, QSettings::IniFormat).contains(key), row.mKey);
+      QCOMPARE(changes.size(), 2);
+    }
+  }
+
+  void favoritesKeepTheirOrder() {
+    App_Settings settings(mFile);
+    for (const int i : {2, 1, 2, 3}) {
+      settings.setFavoriteProject(path(i), true);
+    }
+    settings.setFavoriteProject(path(1), false);
+    settings.setFavoriteProject(path(9), false);
+    settings.sync();
+    QCOMPARE(App_Settings(mFile).favoriteProjects(), QStringList({path(2), path(3)}));
   }
 
   void errors() {
