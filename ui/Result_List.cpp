@@ -95,6 +95,15 @@ void Result_List::enter() {
   mTree->setFocus(Qt::ShortcutFocusReason);
 }
 
+bool Result_List::showRow(int row) {
+  const QModelIndex shown = mModel->mapFromSource(mModel->sourceModel()->index(row, 0));
+  if (shown.isValid()) {
+    mTree->setCurrentIndex(shown);
+    mTree->scrollTo(shown);
+  }
+  return shown.isValid();
+}
+
 void Result_List::updatePage() {
   setCurrentIndex(mModel->rowCount() > 0 ? 0 : 1);
 }

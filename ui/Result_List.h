@@ -39,6 +39,8 @@ public:
   [[nodiscard]] std::vector<int> selectedRows() const;
   /// Takes the keyboard focus, to the first row when none is current.
   void enter();
+  /// Selects a row of the table and scrolls to it; false when the filter hides it.
+  bool showRow(int row);
 
   /// Width and order of the columns, and what they are sorted by.
   void saveState(App_Settings& settings) const;
