@@ -1,8 +1,10 @@
 #include "app/Action_Table.h"
 
+#include "base/Access_Key.h"
 #include "base/Session_State.h"
 
 #include <QCoreApplication>
+#include <QKeySequence>
 
 namespace {
 
@@ -14,69 +16,66 @@ QString tr(const char* text) {
   return QCoreApplication::translate("Action_Table", text);
 }
 
-// clang-format off
-constexpr Action_Row cRows[] = {
-    {"onMenuFileNew", QT_TRANSLATE_NOOP("Action_Table", "&Neues Projekt"), "file_new_white", "Ctrl+N",
-     QT_TRANSLATE_NOOP("Action_Table", "Legt ein neues Projekt an"), Menu::File, 0, Bar::Project, When::Window},
-    {"onMenuFileOpen", QT_TRANSLATE_NOOP("Action_Table", "Ö&ffnen…"), "folder_open_white", "Ctrl+O",
-     QT_TRANSLATE_NOOP("Action_Table", "Öffnet ein Projekt"), Menu::File, 0, Bar::Project, When::Window},
-    {"mMenuLastProjects", QT_TRANSLATE_NOOP("Action_Table", "&Zuletzt geöffnet"), "folder_open_white", "",
-     QT_TRANSLATE_NOOP("Action_Table", "Öffnet eines der zuletzt geöffneten Projekte"), Menu::File, 0, Bar::None,
-     When::Window, true},
-    {"onMenuFileDemo", QT_TRANSLATE_NOOP("Action_Table", "&Demo-Projekt öffnen"), "star_white", "",
-     QT_TRANSLATE_NOOP("Action_Table", "Öffnet das Demo-Projekt, ein zweigeschossiges Wohnhaus"), Menu::File, 0,
-     Bar::None, When::Window},
-    {"onMenuFileSave", QT_TRANSLATE_NOOP("Action_Table", "&Speichern"), "file_save_white", "Ctrl+S",
-     QT_TRANSLATE_NOOP("Action_Table", "Speichert das Projekt"), Menu::File, 1, Bar::Project, When::Open},
-    {"onMenuFileSaveAs", QT_TRANSLATE_NOOP("Action_Table", "Speichern &unter"), "file_save_as_white", "Ctrl+Shift+S",
-     QT_TRANSLATE_NOOP("Action_Table", "Speichert das Projekt in einer anderen Datei und bearbeitet diese weiter"),
-     Menu::File, 1, Bar::None, When::Open},
-    {"onMenuFileClose", QT_TRANSLATE_NOOP("Action_Table", "S&chließen"), "file_close_white", "Ctrl+W",
-     QT_TRANSLATE_NOOP("Action_Table", "Schließt das Projekt"), Menu::File, 1, Bar::None, When::Open},
-    {"onMenuFileQuit", QT_TRANSLATE_NOOP("Action_Table", "&Beenden"), "quit_white", "Ctrl+Q",
-     QT_TRANSLATE_NOOP("Action_Table", "Beendet das Studio"), Menu::File, 2, Bar::None, When::Always},
-
-    {"onEdit_Undo", QT_TRANSLATE_NOOP("Action_Table", "&Rückgängig"), "undo_white", "Ctrl+Z",
-     QT_TRANSLATE_NOOP("Action_Table", "Nimmt den letzten Schritt zurück"), Menu::Edit, 0, Bar::Edit, When::Undo},
-    {"onEdit_Redo", QT_TRANSLATE_NOOP("Action_Table", "&Wiederherstellen"), "redo_white", "Ctrl+Y",
-     QT_TRANSLATE_NOOP("Action_Table", "Stellt den zurückgenommenen Schritt wieder her"), Menu::Edit, 0, Bar::Edit,
-     When::Redo},
-    {"onEditGeopos", QT_TRANSLATE_NOOP("Action_Table", "&Geographische Position (Block)"), "location_white", "",
-     QT_TRANSLATE_NOOP("Action_Table", "Legt fest, wo das Gebäude steht, für Sonnenstand und Dämmerung"), Menu::Edit, 1,
-     Bar::None, When::Editable},
-
-    {"onShowWelcome", QT_TRANSLATE_NOOP("Action_Table", "&Startseite"), "home_menu_white", "",
-     QT_TRANSLATE_NOOP("Action_Table", "Zeigt die Startseite; das Projekt bleibt geöffnet"), Menu::View, 0,
-     Bar::Project, When::Window},
-
-    {"onEdit_ODBC_Import", QT_TRANSLATE_NOOP("Action_Table", "&Adressen ODBC Import (ESF/XML)"), "import_white", "",
-     QT_TRANSLATE_NOOP("Action_Table", "Übernimmt die Gruppenadressen eines ETS-Exports in das Projekt"), Menu::Extras,
-     0, Bar::None, When::Editable},
-    {"onEdit_ODBC_Export", QT_TRANSLATE_NOOP("Action_Table", "Adressen ODBC E&xport"), "export_white", "",
-     QT_TRANSLATE_NOOP("Action_Table", "Schreibt die Gruppenadressen als XML für die ETS oder als ESF"), Menu::Extras, 0,
-     Bar::None, When::Open},
-    {"onEdit_Search_Unused", QT_TRANSLATE_NOOP("Action_Table", "Adressen nach Ver&wendung suchen…"), "search-white", "",
-     QT_TRANSLATE_NOOP("Action_Table", "Zeigt, welche Adressen wo oder gar nicht verwendet sind"), Menu::Extras, 1,
-     Bar::None, When::Open},
-    {"onEdit_CheckValidAddress",
-     QT_TRANSLATE_NOOP("Action_Table", "Verknüpfungen auf &ungültige Adressen prüfen"), "warning_white", "",
-     QT_TRANSLATE_NOOP("Action_Table", "Zeigt Verknüpfungen, deren Adresse es nicht mehr gibt"), Menu::Extras, 1,
-     Bar::None, When::Open},
-
-    {"onShowAboutDlg", QT_TRANSLATE_NOOP("Action_Table", "&Quarna-Studio"), "info_white", "",
-     QT_TRANSLATE_NOOP("Action_Table", "Zeigt die Version des Studios"), Menu::Help, 0, Bar::None, When::Window},
-};
-// clang-format on
-
 QString stepTip(const Action_Row& row, const QString& step) {
-  return step.isEmpty() ? tr(row.mTip) : Action_Table::text(row).remove(u'&') + QStringLiteral(": ") + step;
+  return step.isEmpty() ? tr(row.mTip) : Action_Table::text(row) + QStringLiteral(": ") + step;
+}
+
+bool isMet(When when, const Action_State& state) {
+  switch (when) {
+  case When::Undo:
+    return state.mCanUndo;
+  case When::Redo:
+    return state.mCanRedo;
+  case When::Page:
+    return state.mIsPageShown;
+  case When::Pages:
+    return state.mTabCount > 1;
+  case When::Cut:
+    return state.mCanCut;
+  case When::Copy:
+    return state.mCanCopy;
+  case When::Paste:
+    return state.mCanPaste;
+  case When::Delete:
+    return state.mCanDelete;
+  case When::SelectAll:
+    return state.mCanSelectAll;
+  default:
+    return true;
+  }
+}
+
+QString reason(When when) {
+  switch (when) {
+  case When::Undo:
+    return tr("Es gibt keinen Schritt, der zurückgenommen werden kann.");
+  case When::Redo:
+    return tr("Es gibt keinen zurückgenommenen Schritt.");
+  case When::Page:
+    return tr("Es wird keine Seite gezeigt.");
+  case When::Pages:
+    return tr("Es ist keine weitere Seite geöffnet.");
+  case When::Cut:
+  case When::Delete:
+    return tr("Es ist nichts ausgewählt, was gelöscht werden kann.");
+  case When::Copy:
+    return tr("Es ist nichts ausgewählt, was kopiert werden kann.");
+  case When::Paste:
+    return tr("Hier kann nichts eingefügt werden.");
+  case When::SelectAll:
+    return tr("Hier gibt es nichts auszuwählen.");
+  default:
+    return {};
+  }
+}
+
+/// These belong to fields and lists, with a project or without.
+bool isOfFocus(When when) {
+  return when == When::Cut || when == When::Copy || when == When::Paste || when == When::Delete ||
+         when == When::SelectAll;
 }
 
 } // namespace
-
-std::span<const Action_Row> Action_Table::rows() {
-  return cRows;
-}
 
 QString Action_Table::menuTitle(Action_Menu menu) {
   switch (menu) {
@@ -86,12 +85,19 @@ QString Action_Table::menuTitle(Action_Menu menu) {
     return tr("&Bearbeiten");
   case Menu::View:
     return tr("&Ansicht");
+  case Menu::Program:
+    return tr("&Programm");
+  case Menu::Visu:
+    return tr("&Visualisierung");
+  case Menu::Online:
+    return tr("&Online");
   case Menu::Extras:
     return tr("&Extras");
   case Menu::Help:
     return tr("&Hilfe");
+  default:
+    return {}; // a submenu is called like its row
   }
-  return {};
 }
 
 QString Action_Table::barTitle(Action_Bar bar) {
@@ -102,6 +108,14 @@ QString Action_Table::barTitle(Action_Bar bar) {
     return tr("Projekt");
   case Bar::Edit:
     return tr("Bearbeiten");
+  case Bar::View:
+    return tr("Ansicht");
+  case Bar::Program:
+    return tr("Programm");
+  case Bar::Visu:
+    return tr("Visualisierung");
+  case Bar::Online:
+    return tr("Online");
   }
   return {};
 }
@@ -110,10 +124,18 @@ QString Action_Table::text(const Action_Row& row) {
   return tr(row.mText);
 }
 
-QString Action_Table::tip(const Action_Row& row, const Action_State& state) {
-  QString reason = whyDisabled(row, state);
-  if (!reason.isEmpty()) {
-    return reason;
+QString Action_Table::menuText(const Action_Row& row) {
+  return Access_Key::mark(text(row), row.mAccessKey);
+}
+
+QString Action_Table::barText(const Action_Row& row) {
+  return *row.mBarText ? tr(row.mBarText) : text(row).section(u'\t', 0, 0);
+}
+
+QString Action_Table::statusTip(const Action_Row& row, const Action_State& state) {
+  QString why = whyDisabled(row, state);
+  if (!why.isEmpty()) {
+    return why;
   }
   switch (row.mWhen) {
   case When::Undo:
@@ -125,30 +147,35 @@ QString Action_Table::tip(const Action_Row& row, const Action_State& state) {
   }
 }
 
+QString Action_Table::toolTip(const Action_Row& row, const Action_State& state) {
+  if (*row.mToolTip) {
+    return tr(row.mToolTip);
+  }
+  const QString tip = statusTip(row, state);
+  const QKeySequence keys(QString::fromLatin1(row.mKeys), QKeySequence::PortableText);
+  return keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys.toString(QKeySequence::NativeText));
+}
+
 QString Action_Table::whyDisabled(const Action_Row& row, const Action_State& state) {
-  if (row.mWhen == When::Always) {
+  const When when = row.mWhen;
+  if (when == When::Always) {
     return {};
   }
   if (state.mIsKiosk) {
     return tr("Im Kioskbetrieb nicht möglich.");
   }
-  if (row.mWhen == When::Window) {
+  if (*row.mMissing) {
+    return tr(row.mMissing);
+  }
+  if (when == When::Window) {
     return {};
   }
-  if (!state.mIsOpen) {
+  if (!isOfFocus(when) && !state.mIsOpen) {
     return tr("Es ist kein Projekt geöffnet.");
   }
-  if (row.mWhen == When::Open) {
-    return {};
-  }
-  if (state.mIsOperating) {
+  const bool isEdit = when == When::Editable || when == When::Undo || when == When::Redo;
+  if (isEdit && state.mIsOperating) {
     return Session_State::operatingModeRefusal();
   }
-  if (row.mWhen == When::Undo && !state.mCanUndo) {
-    return tr("Es gibt keinen Schritt, der zurückgenommen werden kann.");
-  }
-  if (row.mWhen == When::Redo && !state.mCanRedo) {
-    return tr("Es gibt keinen zurückgenommenen Schritt.");
-  }
-  return {};
+  return isMet(when, state) ? QString() : reason(when);
 }

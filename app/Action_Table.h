@@ -1,12 +1,33 @@
 #pragma once
 
-#include <QKeySequence>
+#include "base/Setting_Table.h"
+
 #include <QString>
 
+#include <optional>
 #include <span>
 
-enum class Action_Menu { File, Edit, View, Extras, Help };
-enum class Action_Bar { None, Project, Edit };
+enum class Action_Menu {
+  File,
+  Edit,
+  View,
+  Program,
+  Visu,
+  Online,
+  Extras,
+  Help,
+  // Submenus, below the row that opens them.
+  LastProjects, ///< the window fills it, as `Language`
+  Language,
+  ProjectSetup,
+  ProgramAlign,
+  DesignerAlign,
+  UnusedElements,
+  Backup,
+  Controller,
+};
+
+enum class Action_Bar { None, Project, Edit, View, Program, Visu, Online };
 
 /// When an action can be used.
 enum class Action_When {
@@ -16,20 +37,47 @@ enum class Action_When {
   Editable, ///< a project is open and may be edited
   Undo,
   Redo,
+  Page,  ///< a page is shown in a tab
+  Pages, ///< there is more than one tab
+  // What has the keyboard focus can do it.
+  Cut,
+  Copy,
+  Paste,
+  Delete,
+  SelectAll,
+};
+
+/// What an action that can be used changes.
+enum class Action_Effect {
+  None,    ///< it cannot be used yet
+  Project, ///< which project is open, what it holds or whether it is saved
+  View,    ///< what the window shows, or who has the keyboard focus
+  Edit,    ///< text, selection or clipboard of who has the keyboard focus
+  Dialog,  ///< a window opens
+  Menu,    ///< a submenu opens
+  Mode,    ///< the operating mode
+  Window,  ///< the window closes
 };
 
 /// One command of the main window.
 struct Action_Row {
-  const char* mSlot = ""; ///< the window's slot, also the action's object name; a submenu's name when `mIsSubmenu`
-  const char* mText = ""; ///< German, with the access key
-  const char* mIcon = ""; ///< ":/icons/NAME.png"
-  const char* mKeys = ""; ///< portable form; empty for none
-  const char* mTip = "";  ///< German, one sentence without a point
+  const char* mSlot = "";  ///< the window's slot, also the action's object name; a name of its own for a submenu
+  const char* mText = "";  ///< German
+  char16_t mAccessKey = 0; ///< a letter of the text, alone in its menu
+  const char* mIcon = "";  ///< a resource
+  const char* mTip = "";   ///< German, one sentence without a point
   Action_Menu mMenu = Action_Menu::File;
-  int mGroup = 0; ///< a line stands between the groups of a menu
+  int mGroup = 0;         ///< a line stands between the groups of a menu
+  const char* mKeys = ""; ///< portable form; empty for none
   Action_Bar mBar = Action_Bar::None;
+  const char* mBarText = ""; ///< German, when it is not the menu's text
+  const char* mToolTip = ""; ///< German, when it is not made from tip and keys
   Action_When mWhen = Action_When::Always;
-  bool mIsSubmenu = false; ///< the window fills it
+  Action_Effect mEffect = Action_Effect::None;
+  std::optional<Action_Menu> mSubmenu; ///< the menu that the row opens
+  bool mIsCheckable = false;
+  std::optional<Setting> mSetting; ///< the setting that the action switches and shows
+  const char* mMissing = "";       ///< German reason why the action cannot be used yet; it has no slot then
 };
 
 /// What the window's state is, as far as actions depend on it.
@@ -41,6 +89,14 @@ struct Action_State {
   bool mCanRedo = false;
   QString mUndoText; ///< names of the steps
   QString mRedoText;
+  bool mIsPageShown = false;
+  int mTabCount = 0;
+  // Of what has the keyboard focus.
+  bool mCanCut = false;
+  bool mCanCopy = false;
+  bool mCanPaste = false;
+  bool mCanDelete = false;
+  bool mCanSelectAll = false;
 };
 
 /// Every command of the main window, once: menus, tool bars, tips and shortcuts are made from these rows, in this
@@ -49,11 +105,15 @@ namespace Action_Table {
 
 [[nodiscard]] std::span<const Action_Row> rows();
 
-[[nodiscard]] QString menuTitle(Action_Menu menu);
+[[nodiscard]] QString menuTitle(Action_Menu menu); ///< of the menus of the menu bar
 [[nodiscard]] QString barTitle(Action_Bar bar);
 [[nodiscard]] QString text(const Action_Row& row);
-/// For the tool bar and the status line; undo and redo name their step. Tells the reason when the action is disabled.
-[[nodiscard]] QString tip(const Action_Row& row, const Action_State& state);
+/// With "&" before the access key.
+[[nodiscard]] QString menuText(const Action_Row& row);
+[[nodiscard]] QString barText(const Action_Row& row);
+/// For the status line; undo and redo name their step. Tells the reason when the action is disabled.
+[[nodiscard]] QString statusTip(const Action_Row& row, const Action_State& state);
+[[nodiscard]] QString toolTip(const Action_Row& row, const Action_State& state);
 /// Why the action cannot be used now (German); empty when it can.
 [[nodiscard]] QString whyDisabled(const Action_Row& row, const Action_State& state);
 

@@ -1,7 +1,7 @@
 #include "app/Main_Window_Base.h"
 
+#include "app/Page_Tabs.h"
 #include "app/Project_Overview.h"
-#include "app/Start_Page.h"
 #include "base/App_Settings.h"
 #include "db/Project_Session.h"
 #include "ui/Address_View.h"
@@ -15,6 +15,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
 
@@ -36,22 +37,10 @@ Main_Window_Base::Main_Window_Base(Project_Session& session, App_Settings& setti
   setObjectName(QStringLiteral("Main_Window"));
 }
 
-void Main_Window_Base::buildContents(const QList<QAction*>& startActions, const QList<QAction*>& nextSteps) {
-  mStack = new QStackedWidget;
-  mStartPage = new Start_Page(startActions, mStack);
-  mOverview = new Project_Overview(mSession, nextSteps, mStack);
-  mStack->addWidget(mStartPage);
-  mStack->addWidget(mOverview);
-
-  mTabs = new QTabWidget;
-  mTabs->setTabPosition(QTabWidget::South);
-  mTabs->setMovable(true);
-  mPageView = new Page_View(mSession, mTabs);
-  mAddressView = new Address_View(mSession, mTabs);
-  mTabs->addTab(mPageView, tr("Navigation"));
-  mTabs->addTab(mAddressView, tr("Variablen"));
-  mTabs->setCurrentIndex(0);
-
+void Main_Window_Base::buildContents(const QList<QAction*>& startActions, const QList<Start_Page::Step>& firstSteps,
+                                     const QList<QAction*>& nextSteps) {
+  buildStack(startActions, firstSteps, nextSteps);
+  buildTabs();
   mSplitterMain = new QSplitter(Qt::Horizontal);
   mSplitterMain->setObjectName(QStringLiteral("ui:mSplitterMain"));
   mSplitterMain->setChildrenCollapsible(false);
@@ -68,7 +57,39 @@ void Main_Window_Base::buildContents(const QList<QAction*>& startActions, const 
   }
   menuBar()->setVisible(!mIsKiosk);
 
+  connectParts();
+  resize(QSize(cDefaultWidth, cDefaultHeight).boundedTo(screen()->availableSize()));
+  restoreViews();
+  updateTitle();
+}
+
+void Main_Window_Base::buildStack(const QList<QAction*>& startActions, const QList<Start_Page::Step>& firstSteps,
+                                  const QList<QAction*>& nextSteps) {
+  mStack = new QStackedWidget;
+  mStartPage = new Start_Page(startActions, firstSteps, mStack);
+  mOverview = new Project_Overview(mSession, nextSteps, mStack);
+  mPageTabs = new Page_Tabs(mSession, mSettings, *mOverview, mStack);
+  mStack->addWidget(mStartPage);
+  mStack->addWidget(mPageTabs);
+}
+
+void Main_Window_Base::buildTabs() {
+  mTabs = new QTabWidget;
+  mTabs->setObjectName(QStringLiteral("ui:mTabs"));
+  mTabs->setTabPosition(QTabWidget::South);
+  mTabs->setMovable(true);
+  mPageView = new Page_View(mSession, mTabs);
+  mPageView->setObjectName(QStringLiteral("Navigation"));
+  mAddressView = new Address_View(mSession, mTabs);
+  mAddressView->setObjectName(QStringLiteral("Variablen"));
+  mTabs->addTab(mPageView, tr("Navigation"));
+  mTabs->addTab(mAddressView, tr("Variablen"));
+  mTabs->setCurrentIndex(0);
+}
+
+void Main_Window_Base::connectParts() {
   connect(mPageView, &Page_View::refused, this, &Main_Window_Base::showInfo);
+  connect(mPageView, &Page_View::pageChosen, this, &Main_Window_Base::showPage);
   connect(mAddressView, &Address_View::refused, this, &Main_Window_Base::showInfo);
   connect(mAddressView, &Address_View::info, this, &Main_Window_Base::showInfo);
   connect(mStartPage, &Start_Page::backRequested, this, &Main_Window_Base::showProjectPage);
@@ -76,10 +97,6 @@ void Main_Window_Base::buildContents(const QList<QAction*>& startActions, const 
   connect(&mSession, &Project_Session::closed, this, &Main_Window_Base::updateTitle);
   connect(&mSession, &Project_Session::pathChanged, this, &Main_Window_Base::updateTitle);
   connect(&mSession.history(), &History::changed, this, &Main_Window_Base::updateTitle);
-
-  resize(QSize(cDefaultWidth, cDefaultHeight).boundedTo(screen()->availableSize()));
-  restoreViews();
-  updateTitle();
 }
 
 QList<QSplitter*> Main_Window_Base::splitters() const {
@@ -98,6 +115,30 @@ void Main_Window_Base::restoreViews() {
     splitter->setOrientation(orientation); // a broken setting may turn it
   }
   mAddressView->restoreState(mSettings);
+  restoreTabs();
+}
+
+/// The names of the lower tabs in their order, the current one first.
+void Main_Window_Base::rememberTabs() {
+  QByteArrayList names{mTabs->currentWidget()->objectName().toLatin1()};
+  for (int i = 0; i < mTabs->count(); ++i) {
+    names.append(mTabs->widget(i)->objectName().toLatin1());
+  }
+  mSettings.setViewState(mTabs->objectName(), names.join(','));
+}
+
+void Main_Window_Base::restoreTabs() {
+  const QByteArrayList names = mSettings.viewState(mTabs->objectName()).split(',');
+  const auto tabOf = [this](const QByteArray& name) {
+    QWidget* const tab = mTabs->findChild<QWidget*>(QString::fromLatin1(name));
+    return tab ? mTabs->indexOf(tab) : -1;
+  };
+  for (int i = 1, to = 0; i < names.size() && to < mTabs->count(); ++i) {
+    if (const int from = tabOf(names[i]); from >= to) {
+      mTabs->tabBar()->moveTab(from, to++);
+    }
+  }
+  mTabs->setCurrentIndex(qMax(0, tabOf(names.first())));
 }
 
 void Main_Window_Base::rememberViews() {
@@ -110,6 +151,7 @@ void Main_Window_Base::rememberViews() {
     mSettings.setViewState(splitter->objectName(), splitter->saveState());
   }
   mAddressView->saveState(mSettings);
+  rememberTabs();
 }
 
 void Main_Window_Base::showAsRemembered() {
@@ -125,7 +167,11 @@ void Main_Window_Base::showStartPage() {
 }
 
 void Main_Window_Base::showProjectPage() {
-  mStack->setCurrentWidget(mOverview);
+  mStack->setCurrentWidget(mPageTabs);
+}
+
+bool Main_Window_Base::isProjectShown() const {
+  return mStack->currentWidget() == mPageTabs;
 }
 
 void Main_Window_Base::showAddresses() {
@@ -138,8 +184,32 @@ void Main_Window_Base::showAddress(const QUuid& key) {
 }
 
 void Main_Window_Base::showPage(const QUuid& guid) {
+  showChild(guid, QUuid());
+}
+
+void Main_Window_Base::showChild(const QUuid& page, const QUuid& child) {
   mTabs->setCurrentWidget(mPageView);
-  mPageView->showPage(guid);
+  mPageView->showPage(page);
+  showProjectPage();
+  mPageTabs->showChild(page, child);
+}
+
+void Main_Window_Base::enterWork() {
+  if (isProjectShown()) {
+    mPageTabs->enter();
+  } else {
+    mStartPage->enter();
+  }
+}
+
+void Main_Window_Base::enterNavigation() {
+  mTabs->setCurrentWidget(mPageView);
+  mPageView->enter();
+}
+
+void Main_Window_Base::enterVariables() {
+  showAddresses();
+  mAddressView->enter();
 }
 
 void Main_Window_Base::showInfo(const QString& text) {

@@ -1,14 +1,16 @@
 #pragma once
 
+#include "app/Start_Page.h"
+
 #include <QList>
 #include <QMainWindow>
 
 class Address_View;
 class App_Settings;
+class Page_Tabs;
 class Page_View;
 class Project_Overview;
 class Project_Session;
-class Start_Page;
 class QAction;
 class QSplitter;
 class QStackedWidget;
@@ -17,7 +19,7 @@ class QUuid;
 
 /// The frame of the main window: its parts and their layout, its title, what it remembers of its looks.
 ///
-///     mSplitterMain   stack (start page | project)   |   tabs (Navigation | Variablen)
+///     mSplitterMain   stack (start page | page tabs)   |   tabs (Navigation | Variablen)
 ///
 /// On a kiosk it fills the screen, without menus and tool bars, and remembers nothing.
 class Main_Window_Base : public QMainWindow {
@@ -32,7 +34,8 @@ protected:
   Main_Window_Base(Project_Session& session, App_Settings& settings, bool isKiosk);
 
   /// After the menus and tool bars are there.
-  void buildContents(const QList<QAction*>& startActions, const QList<QAction*>& nextSteps);
+  void buildContents(const QList<QAction*>& startActions, const QList<Start_Page::Step>& firstSteps,
+                     const QList<QAction*>& nextSteps);
   /// Stores geometry, bars, splitters and headers.
   void rememberViews();
 
@@ -42,19 +45,32 @@ protected:
   /// Each shows its tab and selects there.
   void showAddress(const QUuid& key);
   void showPage(const QUuid& guid);
+  void showChild(const QUuid& page, const QUuid& child);
+  /// Each takes the keyboard there.
+  void enterWork();
+  void enterNavigation();
+  void enterVariables();
   /// In the status bar, for some seconds.
   void showInfo(const QString& text);
 
   [[nodiscard]] bool isKiosk() const { return mIsKiosk; }
   [[nodiscard]] Start_Page& startPage() { return *mStartPage; }
   [[nodiscard]] Project_Overview& overview() { return *mOverview; }
+  [[nodiscard]] Page_Tabs& pageTabs() const { return *mPageTabs; }
+  [[nodiscard]] bool isProjectShown() const;
   [[nodiscard]] Address_View& addressView() { return *mAddressView; }
 
   Project_Session& mSession;
   App_Settings& mSettings;
 
 private:
+  void buildStack(const QList<QAction*>& startActions, const QList<Start_Page::Step>& firstSteps,
+                  const QList<QAction*>& nextSteps);
+  void buildTabs();
+  void connectParts();
   void restoreViews();
+  void restoreTabs();
+  void rememberTabs();
   void updateTitle();
   [[nodiscard]] QList<QSplitter*> splitters() const;
 
@@ -64,6 +80,7 @@ private:
   QTabWidget* mTabs = nullptr;
   Start_Page* mStartPage = nullptr;
   Project_Overview* mOverview = nullptr;
+  Page_Tabs* mPageTabs = nullptr;
   Page_View* mPageView = nullptr;
   Address_View* mAddressView = nullptr;
 };

@@ -1,30 +1,34 @@
 #include "app/Main_Window_Dev.h"
 
 #include "app/About_Dlg.h"
+#include "app/Address_Exchange.h"
+#include "app/Command_Palette.h"
+#include "app/Edit_Target.h"
 #include "app/Geo_Position_Dlg.h"
+#include "app/Language_Menu.h"
+#include "app/Page_Tabs.h"
 #include "app/Project_Lifecycle.h"
 #include "app/Project_Overview.h"
 #include "app/Recent_Projects_Menu.h"
+#include "app/Settings_Dlg.h"
 #include "app/Start_Page.h"
 #include "app/Window_Actions.h"
 #include "app/Window_Dialogs.h"
 #include "base/App_Settings.h"
-#include "base/Decimal_Text.h"
 #include "base/Session_State.h"
-#include "db/Ets_Export.h"
 #include "db/Project_Edits.h"
 #include "db/Project_Session.h"
-#include "ui/Address_Import_Dialog.h"
 #include "ui/Address_Search_Dialog.h"
 #include "ui/Address_View.h"
 #include "ui/Invalid_Address_Dialog.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCloseEvent>
-#include <QDir>
-#include <QFileInfo>
+#include <QLabel>
 #include <QMimeData>
 #include <QPointer>
+#include <QStatusBar>
 #include <QTimer>
 
 namespace {
@@ -57,49 +61,110 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
     : Main_Window_Base(session, settings, isKiosk),
       mState(state),
       mDialogs(std::make_unique<Window_Dialogs>(*this)),
-      mActions(new Window_Actions(*this)),
-      mLifecycle(new Project_Lifecycle(session, settings, state, *mDialogs, this)) {
+      mActions(new Window_Actions(*this, settings)),
+      mLifecycle(new Project_Lifecycle(session, settings, state, *mDialogs, this)),
+      mExchange(new Address_Exchange(session, settings, *mDialogs, *this)),
+      mEditTarget(new Edit_Target(*this)),
+      mPalette(new Command_Palette(
+          session, [this] { return actionState(); }, this)) {
   if (isKiosk) {
     mState.setOperatingMode(true);
   }
   const auto action = [this](const char* slot) { return mActions->action(QString::fromLatin1(slot)); };
   buildContents({action("onMenuFileNew"), action("onMenuFileOpen"), action("onMenuFileDemo")},
+                {{tr("Ein Projekt anlegen; es beginnt mit einer Programmseite und zwei Visualisierungsseiten."),
+                  action("onMenuFileNew")},
+                 {tr("Die Gruppenadressen des Gebäudes aus der ETS übernehmen."), action("onEdit_ODBC_Import")},
+                 {tr("Festlegen, wo das Gebäude steht."), action("onEditGeopos")},
+                 {tr("Jeden Befehl, jede Seite und Adresse durch Tippen finden."), action("onShowPalette")}},
                 {action("onEdit_ODBC_Import"), action("onEditGeopos")});
   setAcceptDrops(!isKiosk);
+  makeModeMark();
   connectParts();
+  connectProjectLists();
+  connectPalette();
   updateActions();
-  updateRecentProjects();
+  updateProjectLists();
 }
 
 Main_Window_Dev::~Main_Window_Dev() = default;
 
-void Main_Window_Dev::connectParts() {
-  auto* const recent = new Recent_Projects_Menu(*mActions->submenu(QStringLiteral("mMenuLastProjects")), mSettings);
-  connect(recent, &Recent_Projects_Menu::chosen, this, &Main_Window_Dev::onOpenPath);
-  connect(&startPage(), &Start_Page::recentChosen, this, &Main_Window_Dev::onOpenPath);
-  connect(&addressView(), &Address_View::importRequested, this, &Main_Window_Dev::onEdit_ODBC_Import);
+void Main_Window_Dev::makeModeMark() {
+  mModeMark = new QLabel(tr("Bedienmodus"));
+  mModeMark->setToolTip(Session_State::operatingModeRefusal());
+  statusBar()->addPermanentWidget(mModeMark);
+  mModeMark->setVisible(mState.operatingMode());
+  connect(&mState, &Session_State::operatingModeChanged, mModeMark, &QWidget::setVisible);
+}
 
+void Main_Window_Dev::connectParts() {
+  connect(&addressView(), &Address_View::importRequested, this, &Main_Window_Dev::onEdit_ODBC_Import);
   connect(&addressView(), &Address_View::pageChosen, this, &Main_Window_Dev::showPage);
+  connect(mExchange, &Address_Exchange::imported, this, &Main_Window_Dev::showAddresses);
+  connect(mExchange, &Address_Exchange::info, this, &Main_Window_Dev::showInfo);
 
   connect(mLifecycle, &Project_Lifecycle::beginning, this, &Main_Window_Dev::commitEditor);
   connect(mLifecycle, &Project_Lifecycle::info, this, &Main_Window_Dev::showInfo);
-  connect(mLifecycle, &Project_Lifecycle::recentProjectsChanged, this, &Main_Window_Dev::updateRecentProjects);
   connect(mLifecycle, &Project_Lifecycle::buildEditors, this, &Main_Window_Dev::onBuildEditors);
 
+  connect(mActions, &Window_Actions::updateWanted, this, &Main_Window_Dev::updateActions);
+  connect(mEditTarget, &Edit_Target::changed, this, &Main_Window_Dev::updateActions);
+  connect(&pageTabs(), &Page_Tabs::changed, this, &Main_Window_Dev::updateActions);
+  connect(&mSettings, &App_Settings::changed, this, &Main_Window_Dev::updateActions);
   connect(&mState, &Session_State::operatingModeChanged, this, &Main_Window_Dev::updateActions);
   connect(&mSession, &Project_Session::opened, this, &Main_Window_Dev::updateActions);
   connect(&mSession, &Project_Session::closed, this, &Main_Window_Dev::updateActions);
   connect(&mSession.history(), &History::changed, this, &Main_Window_Dev::updateActions);
+
+  auto* const languages = new Language_Menu(mActions->menu(Action_Menu::Language), mSettings);
+  connect(&languages->group(), &QActionGroup::triggered, this, &Main_Window_Dev::onSelectLanguage);
+}
+
+void Main_Window_Dev::connectProjectLists() {
+  auto* const recent = new Recent_Projects_Menu(mActions->menu(Action_Menu::LastProjects), mSettings);
+  connect(recent, &Recent_Projects_Menu::chosen, this, &Main_Window_Dev::onOpenPath);
+  connect(&startPage(), &Start_Page::projectChosen, this, &Main_Window_Dev::onOpenPath);
+  connect(&startPage(), &Start_Page::favoriteWanted, &mSettings, &App_Settings::setFavoriteProject);
+  connect(&startPage(), &Start_Page::removeRecentWanted, &mSettings, &App_Settings::removeLastProject);
+  connect(&startPage(), &Start_Page::removeFavoriteWanted, &mSettings,
+          [this](const QString& path) { mSettings.setFavoriteProject(path, false); });
+  connect(&mSettings, &App_Settings::projectListsChanged, this, &Main_Window_Dev::updateProjectLists);
+}
+
+void Main_Window_Dev::connectPalette() {
+  connect(mPalette, &Command_Palette::actionChosen, this,
+          [this](const QString& slot) { mActions->action(slot)->trigger(); });
+  connect(mPalette, &Command_Palette::pageChosen, this, &Main_Window_Dev::showPage);
+  connect(mPalette, &Command_Palette::addressChosen, this, &Main_Window_Dev::showAddress);
+}
+
+Action_State Main_Window_Dev::actionState() const {
+  using Command = Edit_Target::Command;
+  const History& history = mSession.history();
+  Action_State state;
+  state.mIsKiosk = isKiosk();
+  state.mIsOpen = mSession.isOpen();
+  state.mIsOperating = mState.operatingMode();
+  state.mCanUndo = history.canUndo();
+  state.mCanRedo = history.canRedo();
+  state.mUndoText = history.undoText();
+  state.mRedoText = history.redoText();
+  state.mIsPageShown = !pageTabs().currentPage().isNull();
+  state.mTabCount = pageTabs().count();
+  state.mCanCut = mEditTarget->can(Command::Cut);
+  state.mCanCopy = mEditTarget->can(Command::Copy);
+  state.mCanPaste = mEditTarget->can(Command::Paste);
+  state.mCanDelete = mEditTarget->can(Command::Delete);
+  state.mCanSelectAll = mEditTarget->can(Command::SelectAll);
+  return state;
 }
 
 void Main_Window_Dev::updateActions() {
-  const History& history = mSession.history();
-  mActions->update({isKiosk(), mSession.isOpen(), mState.operatingMode(), history.canUndo(), history.canRedo(),
-                    history.undoText(), history.redoText()});
+  mActions->update(actionState());
 }
 
-void Main_Window_Dev::updateRecentProjects() {
-  startPage().setRecentProjects(mSettings.lastProjects());
+void Main_Window_Dev::updateProjectLists() {
+  startPage().setProjects(mSettings.lastProjects(), mSettings.favoriteProjects());
 }
 
 /// Editors hand their text over when they lose the focus.
@@ -164,7 +229,7 @@ void Main_Window_Dev::onMenuFileQuit() {
 }
 
 void Main_Window_Dev::onShowWelcome() {
-  updateRecentProjects();
+  updateProjectLists(); // files may have come or gone
   showStartPage();
 }
 
@@ -203,21 +268,11 @@ void Main_Window_Dev::onEditGeopos() {
 }
 
 void Main_Window_Dev::onEdit_ODBC_Import() {
-  const QString folder = mImportFolder.isEmpty() ? mSettings.lastProjectDir() : mImportFolder;
-  Address_Import_Dialog dialog(mSession, mSettings, folder, this);
-  const bool isImported = dialog.exec() == QDialog::Accepted;
-  mImportFolder = dialog.folder();
-  if (!isImported || !mSession.isOpen()) {
-    return;
-  }
-  showAddresses();
-  const Address_Import::Result& result = dialog.importResult();
-  const QString text = tr("Adressen importiert: %1.").arg(result.toString());
-  if (result.mSkipped > 0) {
-    mDialogs->showMessage(text);
-  } else {
-    showInfo(text);
-  }
+  mExchange->importAddresses();
+}
+
+void Main_Window_Dev::onEdit_ODBC_Export() {
+  mExchange->exportAddresses();
 }
 
 template <class Dialog>
@@ -238,32 +293,75 @@ void Main_Window_Dev::onEdit_CheckValidAddress() {
   showResults<Invalid_Address_Dialog>(mInvalidAddresses);
 }
 
-void Main_Window_Dev::onEdit_ODBC_Export() {
-  const QString folder = mImportFolder.isEmpty() ? mSettings.lastProjectDir() : mImportFolder;
-  const QString name = QFileInfo(mSession.path()).completeBaseName();
-  const QString filter =
-      tr("ETS-Export XML") + QStringLiteral(" (*.xml);;") + tr("ETS-Export ESF") + QStringLiteral(" (*.esf)");
-  const QString path =
-      mDialogs->chooseSaveFile(tr("Adressen exportieren"), folder + u'/' + name + QStringLiteral(".xml"), filter);
-  if (path.isEmpty() || !mSession.isOpen()) {
-    return;
+void Main_Window_Dev::onEditCut() {
+  mEditTarget->run(Edit_Target::Command::Cut);
+}
+
+void Main_Window_Dev::onEditCopy() {
+  mEditTarget->run(Edit_Target::Command::Copy);
+}
+
+void Main_Window_Dev::onEdit_Paste() {
+  mEditTarget->run(Edit_Target::Command::Paste);
+}
+
+void Main_Window_Dev::onEditDelete() {
+  mEditTarget->run(Edit_Target::Command::Delete);
+}
+
+void Main_Window_Dev::onEditSelectAll() {
+  mEditTarget->run(Edit_Target::Command::SelectAll);
+}
+
+void Main_Window_Dev::onEditChangeView() {
+  showProjectPage();
+  if (!pageTabs().showOtherKind()) {
+    showInfo(tr("Das Projekt hat keine Seite, zu der gewechselt werden kann."));
   }
-  mImportFolder = QFileInfo(path).absolutePath();
-  if (QFileInfo::exists(path) &&
-      !mDialogs->askYesNo(tr("Die Datei \"%1\" ist schon vorhanden. Ersetzen?").arg(QDir::toNativeSeparators(path)))) {
-    return;
-  }
-  Ets_Write_Result result;
-  const Edit_Result written = Ets_Export::write(mSession, path, result);
-  if (!written) {
-    mDialogs->showMessage(written.mError);
-    return;
-  }
-  showInfo(tr("Exportierte Gruppenadressen: %1.").arg(Decimal_Text::count(result.mAddresses)));
-  if (!result.mOmitted.isEmpty()) {
-    mDialogs->showMessage(tr("Exportiert, aber in diesem Format nicht enthalten:") + QStringLiteral("\n\n") +
-                          result.mOmitted.join(u'\n'));
-  }
+}
+
+void Main_Window_Dev::onShowPalette() {
+  mPalette->bringUp();
+}
+
+void Main_Window_Dev::onPagePrevious() {
+  showProjectPage();
+  pageTabs().showPrevious();
+}
+
+void Main_Window_Dev::onPageNext() {
+  showProjectPage();
+  pageTabs().showNext();
+}
+
+void Main_Window_Dev::onPageClose() {
+  pageTabs().closeCurrent();
+}
+
+void Main_Window_Dev::onShowWork() {
+  enterWork();
+}
+
+void Main_Window_Dev::onShowNavigation() {
+  enterNavigation();
+}
+
+void Main_Window_Dev::onShowVariables() {
+  enterVariables();
+}
+
+void Main_Window_Dev::onControlPlay() {
+  commitEditor();
+  mState.setOperatingMode(!mState.operatingMode());
+}
+
+void Main_Window_Dev::onExtrasSettingsDev() {
+  Settings_Dlg(mSettings, this).exec();
+}
+
+void Main_Window_Dev::onSelectLanguage(QAction* action) {
+  mSettings.setLanguageDev(action->data().toString());
+  showInfo(tr("Die Sprache \"%1\" gilt ab dem nächsten Start.").arg(action->text()));
 }
 
 void Main_Window_Dev::onShowAboutDlg() {

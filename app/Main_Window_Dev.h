@@ -1,10 +1,15 @@
 #pragma once
 
+#include "app/Action_Table.h"
 #include "app/Main_Window_Base.h"
 
 #include <memory>
 
+class Address_Exchange;
+class Command_Palette;
+class Edit_Target;
 class Project_Lifecycle;
+class QLabel;
 class Result_Dialog;
 class Session_State;
 class Window_Actions;
@@ -33,11 +38,27 @@ public slots:
   void onShowWelcome();
   void onEdit_Undo();
   void onEdit_Redo();
+  void onEditCut();
+  void onEditCopy();
+  void onEdit_Paste();
+  void onEditDelete();
+  void onEditSelectAll();
+  void onEditChangeView();
   void onEditGeopos();
   void onEdit_ODBC_Import();
   void onEdit_ODBC_Export();
   void onEdit_Search_Unused();
   void onEdit_CheckValidAddress();
+  void onShowPalette();
+  void onPagePrevious();
+  void onPageNext();
+  void onPageClose();
+  void onShowWork();
+  void onShowNavigation();
+  void onShowVariables();
+  void onControlPlay();
+  void onExtrasSettingsDev();
+  void onSelectLanguage(QAction* action);
   void onShowAboutDlg();
 
 protected:
@@ -47,8 +68,12 @@ protected:
 
 private:
   void connectParts();
+  void connectProjectLists();
+  void connectPalette();
+  void makeModeMark();
+  [[nodiscard]] Action_State actionState() const;
   void updateActions();
-  void updateRecentProjects();
+  void updateProjectLists();
   void onOpenPath(const QString& path);
   void commitEditor();
   void onBuildEditors(int percent);
@@ -59,7 +84,10 @@ private:
   std::unique_ptr<Window_Dialogs> mDialogs;
   Window_Actions* mActions;
   Project_Lifecycle* mLifecycle;
+  Address_Exchange* mExchange;
+  Edit_Target* mEditTarget;
+  Command_Palette* mPalette;
+  QLabel* mModeMark = nullptr;             ///< seen while the operating mode is on
   Result_Dialog* mAddressSearch = nullptr; ///< made when first asked for, as the one below
   Result_Dialog* mInvalidAddresses = nullptr;
-  QString mImportFolder; ///< of the last import or export in this run
 };

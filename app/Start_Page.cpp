@@ -1,54 +1,43 @@
 #include "app/Start_Page.h"
 
 #include "app/Page_Parts.h"
+#include "app/Project_List.h"
 #include "ui/Theme.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QHeaderView>
+#include <QAction>
+#include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
-#include <QTimer>
-#include <QTreeWidget>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr int cMarkSize = 48;
-constexpr int cContentWidth = 640;
+constexpr int cGap = 12;
+constexpr int cContentWidth = 1080;
+constexpr int cStepsWidth = 320;
 constexpr int cNameWidth = 200;
-/// Above and below a row's text together.
-constexpr int cRowSpace = 12;
-
-QTreeWidget* makeList() {
-  auto* const list = new QTreeWidget;
-  list->setColumnCount(2);
-  list->setHeaderHidden(true);
-  list->setRootIsDecorated(false);
-  list->setUniformRowHeights(true);
-  list->setAlternatingRowColors(true);
-  list->setTextElideMode(Qt::ElideMiddle);
-  list->header()->resizeSection(0, cNameWidth);
-  return list;
-}
 
 } // namespace
 
-Start_Page::Start_Page(const QList<QAction*>& actions, QWidget* parent)
+Start_Page::Start_Page(const QList<QAction*>& actions, const QList<Step>& steps, QWidget* parent)
     : QWidget(parent),
       mBack(new QPushButton),
+      mButtons(Page_Parts::makeButtons(actions)),
+      mFavoriteTitle(Page_Parts::makeHeading(tr("Favoriten"))),
+      mFavorites(new Project_List(tr("Favoriten"))),
       mRecentHint(new QLabel(tr("Noch kein Projekt geöffnet. Den ersten Blick gibt das Demo-Projekt."))),
-      mRecent(makeList()) {
-  mRecent->setAccessibleName(tr("Zuletzt geöffnet"));
+      mRecent(new Project_List(tr("Zuletzt geöffnet"))) {
   mRecentHint->setWordWrap(true);
-
   mBack->setAutoDefault(true);
+
   auto* const content = new QWidget;
   content->setMaximumWidth(cContentWidth);
   auto* const column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(12);
+  column->setSpacing(cGap);
   auto* const title = new QHBoxLayout;
   auto* const mark = new QLabel;
   mark->setPixmap(QIcon(QStringLiteral(":/icons/quarna-studio-256.png")).pixmap(cMarkSize));
@@ -56,66 +45,94 @@ Start_Page::Start_Page(const QList<QAction*>& actions, QWidget* parent)
   title->addWidget(Page_Parts::makeHeading(QStringLiteral("Quarna-Studio")), 1);
   column->addLayout(title);
   column->addWidget(mBack, 0, Qt::AlignLeft);
-  column->addLayout(Page_Parts::makeButtons(actions));
-  column->addWidget(Page_Parts::makeHeading(tr("Zuletzt geöffnet")));
-  column->addWidget(mRecentHint);
-  column->addWidget(mRecent, 100);
-  column->addStretch();
-  column->addWidget(
-      new QLabel(tr("Eine Projektdatei (.zpro) öffnet sich auch, wenn sie auf das Fenster gezogen wird.")));
+  column->addLayout(mButtons);
+  auto* const body = new QHBoxLayout;
+  body->setSpacing(2 * Page_Parts::cMargin);
+  body->addWidget(makeLists(), 1);
+  body->addWidget(makeSteps(steps), 0, Qt::AlignTop);
+  column->addLayout(body, 1);
 
-  auto* const row = new QHBoxLayout(this);
+  auto* const page = new QWidget;
+  auto* const row = new QHBoxLayout(page);
   row->setContentsMargins(Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin);
   row->addStretch(1);
   row->addWidget(content, 100);
   row->addStretch(1);
+  auto* const area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidget(page);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(area);
 
   connect(mBack, &QPushButton::clicked, this, &Start_Page::backRequested);
-  // Which of the two a click causes is a matter of the style.
-  connect(mRecent, &QTreeWidget::itemClicked, this, &Start_Page::onItemChosen);
-  connect(mRecent, &QTreeWidget::itemActivated, this, &Start_Page::onItemChosen);
-  setRecentProjects({});
+  connectList(*mFavorites);
+  connectList(*mRecent);
+  connect(mFavorites, &Project_List::removeWanted, this, &Start_Page::removeFavoriteWanted);
+  connect(mRecent, &Project_List::removeWanted, this, &Start_Page::removeRecentWanted);
+  setProjects({}, {});
   setOpenProject({});
 }
 
-void Start_Page::setRecentProjects(const QStringList& paths) {
-  mRecent->clear();
-  for (const QString& path : paths) {
-    const QFileInfo info(path);
-    const QString folder = QDir::toNativeSeparators(info.absolutePath());
-    auto* const item = new QTreeWidgetItem(mRecent, {info.completeBaseName(), folder});
-    item->setData(0, Qt::UserRole, path);
-    item->setSizeHint(0, {0, fontMetrics().height() + cRowSpace});
-    item->setForeground(1, Theme::color(Theme::Role::SecondaryText));
-    QString tip = QDir::toNativeSeparators(path);
-    if (!info.exists()) {
-      tip += u'\n' + tr("Die Datei wurde nicht gefunden.");
-      item->setText(0, tr("%1 (fehlt)").arg(item->text(0)));
-      item->setForeground(0, Theme::color(Theme::Role::DisabledText));
-      item->setForeground(1, Theme::color(Theme::Role::DisabledText));
-    }
-    item->setToolTip(0, tip);
-    item->setToolTip(1, tip);
+void Start_Page::connectList(Project_List& list) {
+  connect(&list, &Project_List::chosen, this, &Start_Page::projectChosen);
+  connect(&list, &Project_List::favoriteWanted, this, &Start_Page::favoriteWanted);
+}
+
+QWidget* Start_Page::makeLists() {
+  auto* const lists = new QWidget;
+  auto* const column = new QVBoxLayout(lists);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(cGap);
+  column->addWidget(mFavoriteTitle);
+  column->addWidget(mFavorites);
+  column->addWidget(Page_Parts::makeHeading(tr("Zuletzt geöffnet")));
+  column->addWidget(mRecentHint);
+  column->addWidget(mRecent);
+  auto* const note =
+      new QLabel(tr("Eine Projektdatei (.zpro) öffnet sich auch, wenn sie auf das Fenster gezogen wird."));
+  note->setWordWrap(true);
+  Theme::setTextRole(*note, Theme::Role::SecondaryText);
+  column->addWidget(note);
+  column->addStretch(1);
+  return lists;
+}
+
+QWidget* Start_Page::makeSteps(const QList<Step>& steps) {
+  auto* const box = new QWidget;
+  box->setFixedWidth(cStepsWidth);
+  auto* const column = new QVBoxLayout(box);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(cGap);
+  column->addWidget(Page_Parts::makeHeading(tr("Erste Schritte")));
+  for (qsizetype i = 0; i < steps.size(); ++i) {
+    auto* const text = new QLabel(QStringLiteral("%1. %2").arg(i + 1).arg(steps[i].mText));
+    text->setWordWrap(true);
+    column->addWidget(text);
+    column->addLayout(Page_Parts::makeButtons({steps[i].mAction}));
   }
-  mRecent->setVisible(!paths.isEmpty());
-  mRecentHint->setVisible(paths.isEmpty());
+  return box;
+}
+
+void Start_Page::setProjects(const QStringList& recent, const QStringList& favorites) {
+  mFavorites->setProjects(favorites, favorites);
+  mFavorites->setVisible(!favorites.isEmpty());
+  mFavoriteTitle->setVisible(!favorites.isEmpty());
+  mRecent->setProjects(recent, favorites);
+  mRecent->setVisible(!recent.isEmpty());
+  mRecentHint->setVisible(recent.isEmpty());
 }
 
 void Start_Page::setOpenProject(const QString& name) {
   const QString shown = fontMetrics().elidedText(name, Qt::ElideMiddle, cNameWidth).replace(u'&', QStringLiteral("&&"));
-  mBack->setText(tr("&Zurück zu \"%1\"").arg(shown));
-  mBack->setToolTip(name);
+  mBack->setText(tr("Zurück zu \"%1\"").arg(shown));
+  mBack->setToolTip(name.toHtmlEscaped());
   mBack->setVisible(!name.isEmpty());
 }
 
-void Start_Page::onItemChosen(QTreeWidgetItem* item) {
-  if (mIsChosen) {
-    return;
-  }
-  mIsChosen = true;
-  // Opening changes this list, so the list's own signal must be over.
-  QTimer::singleShot(0, this, [this, path = item->data(0, Qt::UserRole).toString()] {
-    mIsChosen = false;
-    emit recentChosen(path);
-  });
+void Start_Page::enter() {
+  QWidget* const first = mBack->isHidden() ? mButtons->itemAt(0)->widget() : mBack;
+  first->setFocus(Qt::ShortcutFocusReason);
 }

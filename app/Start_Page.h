@@ -4,34 +4,51 @@
 #include <QStringList>
 #include <QWidget>
 
+class Project_List;
 class QAction;
 class QLabel;
 class QPushButton;
-class QTreeWidget;
-class QTreeWidgetItem;
+class QHBoxLayout;
 
-/// What the window shows without a project: the first steps and the recently opened projects.
+/// What the window shows without a project: how to begin, the favourite and the recently opened projects, and the first
+/// steps with a new one.
 class Start_Page : public QWidget {
   Q_OBJECT
 
 public:
-  /// A button for each of the actions, which belong to someone else.
-  Start_Page(const QList<QAction*>& actions, QWidget* parent);
+  /// One of the first steps: what to do, and the action that does it.
+  struct Step {
+    QString mText;
+    QAction* mAction;
+  };
 
-  /// Paths, most recent first.
-  void setRecentProjects(const QStringList& paths);
+  /// A button for each of the actions, which belong to someone else.
+  Start_Page(const QList<QAction*>& actions, const QList<Step>& steps, QWidget* parent);
+
+  /// Paths, most recent first, and the favourites in their order.
+  void setProjects(const QStringList& recent, const QStringList& favorites);
   /// Name of the open project, to which a button leads back; empty when none is open.
   void setOpenProject(const QString& name);
+  /// Takes the keyboard focus: to the first button.
+  void enter();
 
 signals:
-  void recentChosen(const QString& path);
+  void projectChosen(const QString& path);
+  void favoriteWanted(const QString& path, bool isFavorite);
+  /// From the list of recent projects, or from the favourites.
+  void removeRecentWanted(const QString& path);
+  void removeFavoriteWanted(const QString& path);
   void backRequested();
 
 private:
-  void onItemChosen(QTreeWidgetItem* item);
+  [[nodiscard]] QWidget* makeLists();
+  [[nodiscard]] QWidget* makeSteps(const QList<Step>& steps);
+  void connectList(Project_List& list);
 
   QPushButton* mBack;
+  QHBoxLayout* mButtons;
+  QLabel* mFavoriteTitle;
+  Project_List* mFavorites;
   QLabel* mRecentHint;
-  QTreeWidget* mRecent;
-  bool mIsChosen = false; ///< a click may come as two signals
+  Project_List* mRecent;
 };

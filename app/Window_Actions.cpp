@@ -1,8 +1,10 @@
 #include "app/Window_Actions.h"
 
+#include "base/App_Settings.h"
 #include "ui/Theme.h"
 
 #include <QAction>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -30,33 +32,44 @@ QToolBar* bar(QMainWindow& window, Action_Bar id) {
 
 } // namespace
 
-Window_Actions::Window_Actions(QMainWindow& window) : QObject(&window) {
+Window_Actions::Window_Actions(QMainWindow& window, const App_Settings& settings)
+    : QObject(&window),
+      mSettings(settings) {
   for (const Action_Row& row : Action_Table::rows()) {
-    QAction* action = nullptr;
-    if (row.mIsSubmenu) {
-      auto* const submenu = new QMenu(Action_Table::text(row), &window);
-      submenu->setToolTipsVisible(true);
-      action = submenu->menuAction();
-    } else {
-      action = new QAction(Action_Table::text(row), &window);
-      connectSlot(action, window, row.mSlot);
-    }
+    QAction* const action = row.mSubmenu ? makeSubmenu(window, row)->menuAction() : makeAction(window, row);
     action->setObjectName(QString::fromLatin1(row.mSlot));
-    action->setIcon(Theme::icon(QString::fromLatin1(row.mIcon)));
+    action->setText(Action_Table::menuText(row));
+    action->setIconText(Action_Table::barText(row));
+    action->setIcon(Theme::icon(QFileInfo(QString::fromLatin1(row.mIcon)).completeBaseName()));
     action->setShortcut(QKeySequence(QString::fromLatin1(row.mKeys), QKeySequence::PortableText));
+    action->setCheckable(row.mIsCheckable);
+    // Only macOS would move some of them to a menu of its own by their text.
+    action->setMenuRole(QAction::NoRole);
     addTo(window, row, action);
     mActions.insert(action->objectName(), action);
   }
 }
 
-QMenu* Window_Actions::submenu(const QString& name) const {
-  return action(name)->menu();
+QAction* Window_Actions::makeAction(QMainWindow& window, const Action_Row& row) {
+  auto* const action = new QAction(&window);
+  if (!*row.mMissing) {
+    connectSlot(action, window, row.mSlot);
+  }
+  return action;
 }
 
-QMenu* Window_Actions::menu(QMainWindow& window, Action_Menu id) {
-  QMenu*& menu = mMenus[static_cast<int>(id)];
+QMenu* Window_Actions::makeSubmenu(QMainWindow& window, const Action_Row& row) {
+  auto* const submenu = new QMenu(&window);
+  submenu->setToolTipsVisible(true);
+  mMenus.insert(*row.mSubmenu, submenu);
+  return submenu;
+}
+
+QMenu* Window_Actions::menuOf(QMainWindow& window, Action_Menu id) {
+  QMenu*& menu = mMenus[id];
   if (!menu) {
     menu = window.menuBar()->addMenu(Action_Table::menuTitle(id));
+    connect(menu, &QMenu::aboutToShow, this, &Window_Actions::updateWanted);
   }
   return menu;
 }
@@ -64,8 +77,8 @@ QMenu* Window_Actions::menu(QMainWindow& window, Action_Menu id) {
 void Window_Actions::addTo(QMainWindow& window, const Action_Row& row, QAction* action) {
   // Kept by the window as well: its shortcut works while the menu bar is hidden.
   window.addAction(action);
-  QMenu* const target = menu(window, row.mMenu);
-  int& lastGroup = mLastGroups[static_cast<int>(row.mMenu)];
+  QMenu* const target = menuOf(window, row.mMenu);
+  int& lastGroup = mLastGroups[row.mMenu];
   if (row.mGroup != lastGroup) {
     target->addSeparator();
     lastGroup = row.mGroup;
@@ -76,13 +89,21 @@ void Window_Actions::addTo(QMainWindow& window, const Action_Row& row, QAction* 
   }
 }
 
+bool Window_Actions::isChecked(const Action_Row& row, const Action_State& state) const {
+  if (row.mSetting) {
+    return mSettings.isOn(*row.mSetting);
+  }
+  return row.mEffect == Action_Effect::Mode && state.mIsOperating;
+}
+
 void Window_Actions::update(const Action_State& state) {
   for (const Action_Row& row : Action_Table::rows()) {
     QAction* const action = mActions.value(QString::fromLatin1(row.mSlot));
     action->setEnabled(Action_Table::whyDisabled(row, state).isEmpty());
-    const QString tip = Action_Table::tip(row, state);
-    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-    action->setStatusTip(tip);
-    action->setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
+    action->setStatusTip(Action_Table::statusTip(row, state));
+    action->setToolTip(Action_Table::toolTip(row, state));
+    if (row.mIsCheckable) {
+      action->setChecked(isChecked(row, state));
+    }
   }
 }

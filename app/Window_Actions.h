@@ -6,30 +6,40 @@
 #include <QList>
 #include <QObject>
 
+class App_Settings;
 class QAction;
 class QMainWindow;
 class QMenu;
 
 /// The actions of a main window, made from the action table, in its menus and tool bars, each connected to the window's
-/// slot of its name. Menus, bars and actions belong to the window.
+/// slot of its name. Menus, bars and actions belong to the window; the settings outlive it.
 class Window_Actions : public QObject {
   Q_OBJECT
 
 public:
-  explicit Window_Actions(QMainWindow& window);
+  Window_Actions(QMainWindow& window, const App_Settings& settings);
 
   /// By slot name, such as "onMenuFileNew"; must be one of the table.
   [[nodiscard]] QAction* action(const QString& slot) const { return mActions.value(slot); }
-  [[nodiscard]] QMenu* submenu(const QString& name) const;
+  /// Of a menu bar's menu, or one that a row opens.
+  [[nodiscard]] QMenu& menu(Action_Menu id) const { return *mMenus.value(id); }
 
-  /// Enables, disables and explains every action.
+  /// Enables, disables, checks and explains every action.
   void update(const Action_State& state);
 
-private:
-  void addTo(QMainWindow& window, const Action_Row& row, QAction* action);
-  [[nodiscard]] QMenu* menu(QMainWindow& window, Action_Menu id);
+signals:
+  /// A menu is about to be seen, so everything in it must be up to date.
+  void updateWanted();
 
+private:
+  [[nodiscard]] QAction* makeAction(QMainWindow& window, const Action_Row& row);
+  [[nodiscard]] QMenu* makeSubmenu(QMainWindow& window, const Action_Row& row);
+  [[nodiscard]] QMenu* menuOf(QMainWindow& window, Action_Menu id);
+  void addTo(QMainWindow& window, const Action_Row& row, QAction* action);
+  [[nodiscard]] bool isChecked(const Action_Row& row, const Action_State& state) const;
+
+  const App_Settings& mSettings;
   QHash<QString, QAction*> mActions;
-  QHash<int, QMenu*> mMenus;
-  QHash<int, int> mLastGroups; ///< of each menu
+  QHash<Action_Menu, QMenu*> mMenus;
+  QHash<Action_Menu, int> mLastGroups;
 };

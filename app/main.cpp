@@ -3,6 +3,7 @@
 #include "app/Project_Lifecycle.h"
 #include "base/App_Settings.h"
 #include "base/Command_Line.h"
+#include "base/Language_Catalogues.h"
 #include "base/Session_State.h"
 #include "db/Project_Session.h"
 
@@ -55,6 +56,14 @@ void installTranslators(QTranslator& first, QTranslator& second) {
   }
 }
 
+/// The studio's own texts follow the chosen language; German needs no catalogue.
+void installCatalogue(QTranslator& catalogue, const QString& language) {
+  const QString file = Language_Catalogues::fileOf(language, Language_Catalogues::folders());
+  if (!file.isEmpty() && catalogue.load(file)) {
+    QCoreApplication::installTranslator(&catalogue);
+  }
+}
+
 void openAsAsked(Main_Window_Dev& window, const Command_Line& line) {
   if (!line.mProjectPath.isEmpty()) {
     window.lifecycle().open(QFileInfo(line.mProjectPath).absoluteFilePath());
@@ -68,6 +77,8 @@ void openAsAsked(Main_Window_Dev& window, const Command_Line& line) {
 int main(int argc, char* argv[]) {
   QCoreApplication::setOrganizationName(QStringLiteral("Quarna"));
   QCoreApplication::setApplicationName(QStringLiteral("Quarna-Studio"));
+  // Wayland finds menu entry and icon by it.
+  QGuiApplication::setDesktopFileName(QStringLiteral("quarna-studio"));
   if (const std::optional<int> status = answerWithoutWindow(argc, argv)) {
     return *status;
   }
@@ -84,6 +95,8 @@ int main(int argc, char* argv[]) {
     std::fprintf(stderr, "%s\n", qPrintable(settings->error()));
     return cWrongArguments;
   }
+  QTranslator catalogue;
+  installCatalogue(catalogue, settings->languageDev());
   // Numbers and dates follow the chosen language, never the process's locale.
   QLocale::setDefault(QLocale(settings->languageDev()));
 

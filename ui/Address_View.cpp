@@ -165,6 +165,14 @@ void Address_View::enterTree() {
   mTree->setFocus(Qt::ShortcutFocusReason);
 }
 
+void Address_View::enter() {
+  if (mTreeOrHint->currentWidget() == mTree) {
+    enterTree();
+  } else {
+    mFilter->setFocus(Qt::ShortcutFocusReason);
+  }
+}
+
 void Address_View::clearFilter() {
   mFilter->clear();
   mFilter->apply();

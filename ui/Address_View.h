@@ -24,6 +24,8 @@ public:
 
   /// Brings an address, group or variable into view and selects it; a filter that hides it is cleared.
   void showAddress(const QUuid& key);
+  /// Takes the keyboard focus: to the addresses, or the step that leads to them.
+  void enter();
 
   /// Width, order and sorting of the columns, and which are hidden.
   void saveState(App_Settings& settings) const;

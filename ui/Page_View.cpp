@@ -29,6 +29,8 @@ Page_View::Page_View(Project_Session& session, QWidget* parent)
   mTree->setHeaderHidden(true);
   mTree->setSelectionMode(QAbstractItemView::SingleSelection);
   mTree->setModel(mModel);
+  mTree->setEditTriggers(QAbstractItemView::NoEditTriggers); // a double click opens; F2 renames
+  makeOpenCommand();
   auto* const hint = new Empty_Hint;
   hint->setText(tr("Kein Projekt ist geöffnet. Hier stehen die Seiten des Projekts."));
   mTreeOrHint->addWidget(hint);
@@ -59,6 +61,30 @@ Page_View::Page_View(Project_Session& session, QWidget* parent)
   connect(&session, &Project_Session::closed, this, &Page_View::updateState);
   onReset();
   updateState();
+}
+
+void Page_View::makeOpenCommand() {
+  auto* const open = new QAction(tr("Ö&ffnen"), mTree);
+  open->setEnabled(false);
+  mTree->insertAction(mTree->actions().value(0), open);
+  const auto choose = [this](const QModelIndex& index) {
+    if (const QUuid page = mModel->guidOf(index); !page.isNull()) {
+      emit pageChosen(page);
+    }
+  };
+  connect(open, &QAction::triggered, this, [this, choose] { choose(mTree->currentIndex()); });
+  connect(mTree, &QAbstractItemView::activated, this, choose);
+  connect(mTree->selectionModel(), &QItemSelectionModel::currentChanged, open,
+          [this, open](const QModelIndex& current) { open->setEnabled(!mModel->guidOf(current).isNull()); });
+  connect(mModel, &QAbstractItemModel::modelReset, open,
+          [this, open] { open->setEnabled(!mModel->guidOf(mTree->currentIndex()).isNull()); });
+}
+
+void Page_View::enter() {
+  if (!mTree->currentIndex().isValid()) {
+    mTree->setCurrentIndex(mModel->index(0, 0));
+  }
+  mTree->setFocus(Qt::ShortcutFocusReason);
 }
 
 void Page_View::showPage(const QUuid& guid) {

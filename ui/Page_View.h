@@ -23,15 +23,20 @@ public:
 
   /// Selects a page and scrolls to it; nothing when there is no such page.
   void showPage(const QUuid& guid);
+  /// Takes the keyboard focus.
+  void enter();
 
   /// Between tree and details; its object name is "ui:mSplitterRight".
   [[nodiscard]] QSplitter* splitter() { return mSplitter; }
 
 signals:
+  /// A page shall be shown in its tab: by double click, Enter or the context menu.
+  void pageChosen(const QUuid& guid);
   /// An edit was not done; the German text tells why. Comes from the event loop, so a box may be shown.
   void refused(const QString& text);
 
 private:
+  void makeOpenCommand();
   void onAboutToBeReset();
   void onReset();
   void updateState();

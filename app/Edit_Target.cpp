@@ -1,0 +1,145 @@
+#include "app/Edit_Target.h"
+
+#include <QAbstractItemModel>
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QTextEdit>
+#include <QToolBar>
+
+#include <functional>
+
+namespace {
+
+using Command = Edit_Target::Command;
+/// Empty when the command cannot be carried out.
+using Runner = std::function<void()>;
+
+bool isTextInClipboard() {
+  const QMimeData* const data = QApplication::clipboard()->mimeData();
+  return data && data->hasText();
+}
+
+Runner when(bool isPossible, Runner runner) {
+  return isPossible ? std::move(runner) : Runner();
+}
+
+Runner ofLine(QLineEdit* line, Command command) {
+  const bool isSelected = line->hasSelectedText();
+  switch (command) {
+  case Command::Cut:
+    return when(isSelected && !line->isReadOnly(), [line] { line->cut(); });
+  case Command::Copy:
+    return when(isSelected, [line] { line->copy(); });
+  case Command::Paste:
+    return when(!line->isReadOnly() && isTextInClipboard(), [line] { line->paste(); });
+  case Command::Delete:
+    return when(isSelected && !line->isReadOnly(), [line] { line->del(); });
+  case Command::SelectAll:
+    return when(!line->text().isEmpty(), [line] { line->selectAll(); });
+  }
+  return {};
+}
+
+Runner ofText(QTextEdit* text, Command command) {
+  const bool isSelected = text->textCursor().hasSelection();
+  switch (command) {
+  case Command::Cut:
+    return when(isSelected && !text->isReadOnly(), [text] { text->cut(); });
+  case Command::Copy:
+    return when(isSelected, [text] { text->copy(); });
+  case Command::Paste:
+    return when(text->canPaste(), [text] { text->paste(); });
+  case Command::Delete:
+    return when(isSelected && !text->isReadOnly(), [text] { text->textCursor().removeSelectedText(); });
+  case Command::SelectAll:
+    return when(!text->document()->isEmpty(), [text] { text->selectAll(); });
+  }
+  return {};
+}
+
+QKeySequence::StandardKey keyOf(Command command) {
+  switch (command) {
+  case Command::Cut:
+    return QKeySequence::Cut;
+  case Command::Copy:
+    return QKeySequence::Copy;
+  case Command::Paste:
+    return QKeySequence::Paste;
+  case Command::Delete:
+    return QKeySequence::Delete;
+  case Command::SelectAll:
+    return QKeySequence::SelectAll;
+  }
+  return QKeySequence::UnknownKey;
+}
+
+/// A command that the widget, or one around it, has for the usual keys.
+QAction* commandOf(const QWidget* widget, const QWidget& window, Command command) {
+  const QList<QKeySequence> keys = QKeySequence::keyBindings(keyOf(command));
+  for (; widget && widget != &window; widget = widget->parentWidget()) {
+    for (QAction* const action : widget->actions()) {
+      if (action->isEnabled() && keys.contains(action->shortcut())) {
+        return action;
+      }
+    }
+  }
+  return nullptr;
+}
+
+Runner runnerOf(QWidget* target, const QWidget& window, Command command) {
+  if (auto* const line = qobject_cast<QLineEdit*>(target)) {
+    return ofLine(line, command);
+  }
+  if (auto* const text = qobject_cast<QTextEdit*>(target)) {
+    return ofText(text, command);
+  }
+  if (QAction* const action = commandOf(target, window, command)) {
+    return [action] { action->trigger(); };
+  }
+  auto* const list = qobject_cast<QAbstractItemView*>(target);
+  if (list && command == Command::SelectAll) {
+    const auto mode = list->selectionMode();
+    const bool isPossible =
+        (mode == QAbstractItemView::ExtendedSelection || mode == QAbstractItemView::MultiSelection) && list->model() &&
+        list->model()->rowCount() > 0;
+    return when(isPossible, [list] { list->selectAll(); });
+  }
+  const auto* const label = qobject_cast<QLabel*>(target);
+  if (label && command == Command::Copy) {
+    return when(label->hasSelectedText(), [label] { QApplication::clipboard()->setText(label->selectedText()); });
+  }
+  return {};
+}
+
+} // namespace
+
+Edit_Target::Edit_Target(QWidget& window) : QObject(&window), mWindow(window) {
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { onFocusChanged(now); });
+  onFocusChanged(QApplication::focusWidget());
+}
+
+void Edit_Target::onFocusChanged(QWidget* now) {
+  if (!now || now->window() != &mWindow || now == mTarget || qobject_cast<QMenuBar*>(now) ||
+      qobject_cast<QMenu*>(now) || qobject_cast<QToolBar*>(now->parentWidget())) {
+    return;
+  }
+  mTarget = now;
+  emit changed();
+}
+
+bool Edit_Target::can(Command command) const {
+  return static_cast<bool>(runnerOf(mTarget, mWindow, command));
+}
+
+void Edit_Target::run(Command command) {
+  if (const Runner runner = runnerOf(mTarget, mWindow, command)) {
+    runner();
+  }
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+/// What the window's commands cut, copy, paste, delete and select all work on: the field or list of that window that
+/// has the keyboard focus, or had it before the focus went to a menu or another window.
+class Edit_Target : public QObject {
+  Q_OBJECT
+
+public:
+  enum class Command { Cut, Copy, Paste, Delete, SelectAll };
+
+  explicit Edit_Target(QWidget& window);
+
+  [[nodiscard]] bool can(Command command) const;
+  /// Nothing when it cannot be done.
+  void run(Command command);
+
+signals:
+  /// Another field or list has the focus.
+  void changed();
+
+private:
+  void onFocusChanged(QWidget* now);
+
+  QWidget& mWindow;
+  QPointer<QWidget> mTarget;
+};

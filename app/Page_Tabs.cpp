@@ -1,0 +1,208 @@
+#include "app/Page_Tabs.h"
+
+#include "app/Project_Overview.h"
+#include "db/Page_Tree_Model.h"
+#include "db/Project_Session.h"
+#include "ui/Page_Content_View.h"
+#include "ui/Theme.h"
+
+#include <QMouseEvent>
+#include <QTabBar>
+
+namespace {
+
+constexpr int cTitleLetters = 32;
+
+/// Null when there is no such page.
+QString captionOf(const ProjectDatabase& database, const QUuid& guid) {
+  if (const DB_FB_Page* const page = database.mFbPages.page(guid)) {
+    return page->mCaption.isNull() ? QStringLiteral("") : page->mCaption;
+  }
+  const DB_Widget_Page* const page = database.mWidgetPages.page(guid);
+  return page ? (page->mCaption.isNull() ? QStringLiteral("") : page->mCaption) : QString();
+}
+
+QString shortened(QString text) {
+  if (text.size() > cTitleLetters) {
+    text = text.left(cTitleLetters - 1) + QChar(u'…');
+  }
+  return text.replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace
+
+Page_Tabs::Page_Tabs(Project_Session& session, App_Settings& settings, Project_Overview& overview, QWidget* parent)
+    : QTabWidget(parent),
+      mSession(session),
+      mSettings(settings),
+      mOverview(overview) {
+  setObjectName(QStringLiteral("ui:mPageTabs"));
+  setDocumentMode(true);
+  setMovable(true);
+  setTabsClosable(true);
+  setUsesScrollButtons(true);
+  tabBar()->setAccessibleName(tr("Geöffnete Seiten"));
+  tabBar()->installEventFilter(this);
+  addTab(&mOverview, Theme::icon(QStringLiteral("home_menu_white")), tr("Projekt"));
+  for (const QTabBar::ButtonPosition side : {QTabBar::LeftSide, QTabBar::RightSide}) {
+    tabBar()->setTabButton(0, side, nullptr);
+  }
+
+  connect(this, &QTabWidget::tabCloseRequested, this, &Page_Tabs::closeTab);
+  connect(this, &QTabWidget::currentChanged, this, &Page_Tabs::onCurrentChanged);
+  connect(tabBar(), &QTabBar::tabMoved, this, &Page_Tabs::onTabMoved);
+  connect(&session, &Project_Session::aboutToClose, this, &Page_Tabs::closeAll);
+  const DB_Page_List_Signals* const lists[] = {&session.database().mFbPages, &session.database().mWidgetPages};
+  for (const DB_Page_List_Signals* const list : lists) {
+    connect(list, &DB_Page_List_Signals::structureChanged, this, &Page_Tabs::follow);
+    connect(list, &DB_Page_List_Signals::pageChanged, this, &Page_Tabs::follow);
+  }
+}
+
+Page_Content_View* Page_Tabs::viewAt(int index) const {
+  return qobject_cast<Page_Content_View*>(widget(index));
+}
+
+int Page_Tabs::indexOfPage(const QUuid& page) const {
+  for (int i = 0; i < count(); ++i) {
+    const Page_Content_View* const view = viewAt(i);
+    if (view && view->page() == page) {
+      return i;
+    }
+  }
+  return -1;
+}
+
+QUuid Page_Tabs::currentPage() const {
+  const Page_Content_View* const view = viewAt(currentIndex());
+  return view ? view->page() : QUuid();
+}
+
+void Page_Tabs::showPage(const QUuid& guid) {
+  int index = indexOfPage(guid);
+  if (index < 0) {
+    const ProjectDatabase& database = mSession.database();
+    const QString caption = captionOf(database, guid);
+    if (caption.isNull()) {
+      return;
+    }
+    auto* const view = new Page_Content_View(mSession, mSettings, guid);
+    index = addTab(view, Theme::icon(Page_Tree_Model::pageIcon(database, guid)), shortened(caption));
+    setTabToolTip(index, caption.toHtmlEscaped());
+  }
+  setCurrentIndex(index);
+}
+
+void Page_Tabs::showChild(const QUuid& page, const QUuid& child) {
+  showPage(page);
+  if (currentPage() == page) {
+    viewAt(currentIndex())->showChild(child);
+  }
+}
+
+void Page_Tabs::showPrevious() {
+  setCurrentIndex((currentIndex() + count() - 1) % count());
+}
+
+void Page_Tabs::showNext() {
+  setCurrentIndex((currentIndex() + 1) % count());
+}
+
+void Page_Tabs::closeCurrent() {
+  closeTab(currentIndex());
+}
+
+bool Page_Tabs::showOtherKind() {
+  const ProjectDatabase& database = mSession.database();
+  const bool isLogic = database.mFbPages.page(currentPage()) != nullptr;
+  const QUuid last = mLastOfKind[isLogic ? 1 : 0];
+  if (!captionOf(database, last).isNull()) {
+    showPage(last);
+  } else if (isLogic ? !database.mWidgetPages.pages().isEmpty() : !database.mFbPages.pages().isEmpty()) {
+    showPage(isLogic ? database.mWidgetPages.pages().at(0).mGuid : database.mFbPages.pages().at(0).mGuid);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void Page_Tabs::enter() {
+  if (Page_Content_View* const view = viewAt(currentIndex())) {
+    view->enter();
+  } else if (currentWidget() && currentWidget()->focusWidget()) {
+    currentWidget()->focusWidget()->setFocus(Qt::ShortcutFocusReason);
+  } else {
+    tabBar()->setFocus(Qt::ShortcutFocusReason);
+  }
+}
+
+void Page_Tabs::closeTab(int index) {
+  Page_Content_View* const view = viewAt(index);
+  if (!view) {
+    return;
+  }
+  const bool hadFocus = view->isAncestorOf(focusWidget()) || tabBar()->hasFocus();
+  removeTab(index);
+  // It may be in the middle of handling the key that closes it.
+  view->deleteLater();
+  if (hadFocus) {
+    enter();
+  }
+}
+
+void Page_Tabs::closeAll() {
+  for (int i = count() - 1; i > 0; --i) {
+    closeTab(i);
+  }
+  mLastOfKind = {};
+}
+
+/// Pages may be gone or called otherwise.
+void Page_Tabs::follow() {
+  const ProjectDatabase& database = mSession.database();
+  for (int i = count() - 1; i > 0; --i) {
+    const QString caption = captionOf(database, viewAt(i)->page());
+    if (caption.isNull()) {
+      closeTab(i);
+    } else if (const QString text = shortened(caption); tabText(i) != text) {
+      setTabText(i, text);
+      setTabToolTip(i, caption.toHtmlEscaped());
+    }
+  }
+}
+
+void Page_Tabs::onCurrentChanged() {
+  const QUuid page = currentPage();
+  if (!page.isNull()) {
+    mLastOfKind[mSession.database().mFbPages.page(page) ? 0 : 1] = page;
+  }
+  emit changed();
+}
+
+void Page_Tabs::onTabMoved(int from, int to) {
+  // The project stays the first one.
+  if (widget(0) != &mOverview) {
+    tabBar()->moveTab(to, from);
+  }
+}
+
+void Page_Tabs::tabInserted(int index) {
+  QTabWidget::tabInserted(index);
+  emit changed();
+}
+
+void Page_Tabs::tabRemoved(int index) {
+  QTabWidget::tabRemoved(index);
+  emit changed();
+}
+
+bool Page_Tabs::eventFilter(QObject* object, QEvent* event) {
+  if (object == tabBar() && event->type() == QEvent::MouseButtonRelease) {
+    const auto& mouse = static_cast<const QMouseEvent&>(*event);
+    if (mouse.button() == Qt::MiddleButton) {
+      closeTab(tabBar()->tabAt(mouse.position().toPoint()));
+      return true;
+    }
+  }
+  return QTabWidget::eventFilter(object, event);
+}
