@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 using Theme::Role;
 
@@ -132,6 +133,31 @@ private slots:
     Theme::icon(QStringLiteral("plus_white")).paint(&painter, QRect(3, 0, 24, 40));
     painter.end();
     QCOMPARE(plain(screen).copy(6, 16, 48, 48), plain(QImage(QStringLiteral(":/icons/plus_white@2x.png"))));
+  }
+
+  void iconShowsOnColouredGround_data() {
+    QTest::addColumn<QIcon::Mode>("mode");
+    QTest::addColumn<QIcon::State>("state");
+    QTest::addColumn<bool>("isWhite");
+    QTest::newRow("plain") << QIcon::Normal << QIcon::Off << false;
+    QTest::newRow("checked tool button") << QIcon::Normal << QIcon::On << true;
+    QTest::newRow("selected menu item") << QIcon::Active << QIcon::Off << true;
+    QTest::newRow("selected row") << QIcon::Selected << QIcon::Off << true;
+    QTest::newRow("disabled, checked") << QIcon::Disabled << QIcon::On << false;
+  }
+
+  void iconShowsOnColouredGround() {
+    QFETCH(QIcon::Mode, mode);
+    QFETCH(QIcon::State, state);
+    QFETCH(bool, isWhite);
+    // The middle of its arrow has the accent's colour.
+    const QImage shown = Theme::icon(QStringLiteral("import_white")).pixmap(QSize(24, 24), 1, mode, state).toImage();
+    const QColor expected = Theme::color(isWhite ? Role::AccentText : Role::Accent);
+    const QColor found = shown.pixelColor(12, 8);
+    constexpr int cRounding = 3;
+    QVERIFY(std::abs(found.red() - expected.red()) <= cRounding);
+    QVERIFY(std::abs(found.blue() - expected.blue()) <= cRounding);
+    QCOMPARE(found.alpha() < 0xff, mode == QIcon::Disabled);
   }
 
   void unknownIcon() {
