@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr float cDisabledOpacity = 0.35F;
-
 /// Sizes in device pixels and what their file names end with, smallest first.
 constexpr std::pair<int, const char*> cPictures[]{
     {16, "_16"}, {20, "_20"}, {24, ""}, {32, "_32"}, {48, "@2x"},
@@ -35,25 +33,23 @@ QPixmap load(const QString& name, int size) {
   return result;
 }
 
-enum class Look { Plain, Paler, White };
+enum class Look { Plain, Disabled, White };
 
 Look lookOf(QIcon::Mode mode, QIcon::State state) {
   if (mode == QIcon::Disabled) {
-    return Look::Paler;
+    return Look::Disabled;
   }
   // Pressed in, selected or under the pointer: the ground has the accent's colour or comes too close to it.
   return mode == QIcon::Normal && state == QIcon::Off ? Look::Plain : Look::White;
 }
 
-QPixmap made(const QPixmap& pixmap, Look look) {
+QPixmap coloured(const QPixmap& pixmap, Look look) {
   QPixmap result = pixmap;
-  QPainter painter(&result);
-  if (look == Look::Paler) {
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.fillRect(result.rect(), QColor::fromRgbF(0, 0, 0, cDisabledOpacity));
-  } else if (look == Look::White) {
+  if (look != Look::Plain) {
+    using Theme::Role;
+    QPainter painter(&result);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(result.rect(), Theme::color(Theme::Role::AccentText));
+    painter.fillRect(result.rect(), Theme::color(look == Look::Disabled ? Role::DisabledText : Role::AccentText));
   }
   return result;
 }
@@ -89,7 +85,7 @@ QPixmap Theme_Icon::scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::Sta
   const QString cacheKey = QStringLiteral("Theme_Icon/%1/%2/%3").arg(mName).arg(side).arg(int(look));
   QPixmap result;
   if (!QPixmapCache::find(cacheKey, &result)) {
-    result = made(load(mName, side), look);
+    result = coloured(load(mName, side), look);
     QPixmapCache::insert(cacheKey, result);
   }
   return result;

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 using Theme::Role;
 
@@ -40,16 +39,6 @@ QStringList iconNames() {
 QImage plain(QImage image) {
   image.setDevicePixelRatio(1);
   return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
-qint64 opacity(const QImage& image) {
-  qint64 sum = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      sum += qAlpha(image.pixel(x, y));
-    }
-  }
-  return sum;
 }
 
 } // namespace
@@ -118,10 +107,6 @@ private slots:
         const QImage file = plain(QImage(QStringLiteral(":/icons/%1%2.png").arg(name, suffix)));
         QVERIFY2(shown == file, qPrintable(name));
       }
-      const qint64 full = opacity(shown);
-      QVERIFY2(full > 0, qPrintable(name));
-      const qint64 disabled = opacity(plain(icon.pixmap(QSize(size, size), ratio, QIcon::Disabled).toImage()));
-      QVERIFY2(disabled > full / 4 && disabled < full / 2, qPrintable(name));
     }
   }
 
@@ -135,29 +120,25 @@ private slots:
     QCOMPARE(plain(screen).copy(6, 16, 48, 48), plain(QImage(QStringLiteral(":/icons/plus_white@2x.png"))));
   }
 
-  void iconShowsOnColouredGround_data() {
+  void iconShowsOnItsGround_data() {
     QTest::addColumn<QIcon::Mode>("mode");
     QTest::addColumn<QIcon::State>("state");
-    QTest::addColumn<bool>("isWhite");
-    QTest::newRow("plain") << QIcon::Normal << QIcon::Off << false;
-    QTest::newRow("checked tool button") << QIcon::Normal << QIcon::On << true;
-    QTest::newRow("selected menu item") << QIcon::Active << QIcon::Off << true;
-    QTest::newRow("selected row") << QIcon::Selected << QIcon::Off << true;
-    QTest::newRow("disabled, checked") << QIcon::Disabled << QIcon::On << false;
+    QTest::addColumn<Role>("role");
+    QTest::newRow("plain") << QIcon::Normal << QIcon::Off << Role::Accent;
+    QTest::newRow("checked tool button") << QIcon::Normal << QIcon::On << Role::AccentText;
+    QTest::newRow("selected menu item") << QIcon::Active << QIcon::Off << Role::AccentText;
+    QTest::newRow("selected row") << QIcon::Selected << QIcon::Off << Role::AccentText;
+    QTest::newRow("disabled") << QIcon::Disabled << QIcon::Off << Role::DisabledText;
+    QTest::newRow("disabled, checked") << QIcon::Disabled << QIcon::On << Role::DisabledText;
   }
 
-  void iconShowsOnColouredGround() {
+  void iconShowsOnItsGround() {
     QFETCH(QIcon::Mode, mode);
     QFETCH(QIcon::State, state);
-    QFETCH(bool, isWhite);
+    QFETCH(Role, role);
     // The middle of its arrow has the accent's colour.
     const QImage shown = Theme::icon(QStringLiteral("import_white")).pixmap(QSize(24, 24), 1, mode, state).toImage();
-    const QColor expected = Theme::color(isWhite ? Role::AccentText : Role::Accent);
-    const QColor found = shown.pixelColor(12, 8);
-    constexpr int cRounding = 3;
-    QVERIFY(std::abs(found.red() - expected.red()) <= cRounding);
-    QVERIFY(std::abs(found.blue() - expected.blue()) <= cRounding);
-    QCOMPARE(found.alpha() < 0xff, mode == QIcon::Disabled);
+    QCOMPARE(QColor(shown.pixel(12, 8)), Theme::color(role));
   }
 
   void unknownIcon() {
