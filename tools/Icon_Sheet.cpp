@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::array sizes{16, 20, 24, 32, 48};
 constexpr int disabledSize = 24;
-constexpr qreal disabledOpacity = 0.35;
 constexpr int gap = 12;
 constexpr int columns = 5;
 constexpr int largest = 48;
@@ -29,20 +28,26 @@ constexpr int cellWidth = [] {
 
 const QColor ground(0x23, 0x23, 0x23);
 const QColor textColor(0xa8, 0xa8, 0xa8);
+const QColor disabledColor(0x6a, 0x6a, 0x6a);
+
+QImage disabled(QImage picture) {
+  QPainter painter(&picture);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+  painter.fillRect(picture.rect(), disabledColor);
+  return picture;
+}
 
 void drawCell(QPainter& painter, const QString& file, const QPoint& corner) {
   Icon_Drawing drawing(file);
   QPoint place = corner + QPoint(gap, gap);
-  const auto put = [&](int size) {
-    painter.drawImage(place + QPoint(0, (largest - size) / 2), drawing.picture(size));
-    place += QPoint(size + gap, 0);
+  const auto put = [&](const QImage& picture) {
+    painter.drawImage(place + QPoint(0, (largest - picture.height()) / 2), picture);
+    place += QPoint(picture.width() + gap, 0);
   };
   for (const int size : sizes) {
-    put(size);
+    put(drawing.picture(size));
   }
-  painter.setOpacity(disabledOpacity);
-  put(disabledSize);
-  painter.setOpacity(1);
+  put(disabled(drawing.picture(disabledSize)));
   painter.drawText(QRect(corner + QPoint(gap, gap + largest), QSize(cellWidth - gap, textHeight)),
                    Qt::AlignLeft | Qt::AlignVCenter, drawing.name());
 }

@@ -53,8 +53,8 @@ Q_ENUM_NS(Role)
 /// Colours the texts of a label.
 void setTextRole(QWidget& label, Role role);
 
-/// The icon ":/icons/NAME.png", `name` without path and ending, sharp in every size of the program and paler for what
-/// is disabled. A null icon, and a warning in the log, when there is none of that name.
+/// The icon ":/icons/NAME.png", `name` without path and ending, sharp in every size of the program and as pale as
+/// the texts of what is disabled. A null icon, and a warning in the log, when there is none of that name.
 [[nodiscard]] QIcon icon(const QString& name);
 
 /// Style, palette and style sheet of the whole application; called once, before the first window.

@@ -1,5 +1,7 @@
 #include "ui/Theme_Icon.h"
 
+#include "ui/Theme.h"
+
 #include <QFile>
 #include <QPainter>
 #include <QPixmap>
@@ -9,8 +11,6 @@
 #include <utility>
 
 namespace {
-
-constexpr qreal cDisabledOpacity = 0.35;
 
 /// Sizes in device pixels and what their file names end with, smallest first.
 constexpr std::pair<int, const char*> cPictures[]{
@@ -33,12 +33,24 @@ QPixmap load(const QString& name, int size) {
   return result;
 }
 
-QPixmap paler(const QPixmap& pixmap) {
-  QPixmap result(pixmap.size());
-  result.fill(Qt::transparent);
-  QPainter painter(&result);
-  painter.setOpacity(cDisabledOpacity);
-  painter.drawPixmap(0, 0, pixmap);
+enum class Look { Plain, Disabled, White };
+
+Look lookOf(QIcon::Mode mode, QIcon::State state) {
+  if (mode == QIcon::Disabled) {
+    return Look::Disabled;
+  }
+  // Pressed in, selected or under the pointer: the ground has the accent's colour or comes too close to it.
+  return mode == QIcon::Normal && state == QIcon::Off ? Look::Plain : Look::White;
+}
+
+QPixmap coloured(const QPixmap& pixmap, Look look) {
+  QPixmap result = pixmap;
+  if (look != Look::Plain) {
+    using Theme::Role;
+    QPainter painter(&result);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(result.rect(), Theme::color(look == Look::Disabled ? Role::DisabledText : Role::AccentText));
+  }
   return result;
 }
 
@@ -69,14 +81,11 @@ QPixmap Theme_Icon::scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::Sta
   if (side <= 0) {
     return {};
   }
-  const bool isDisabled = mode == QIcon::Disabled;
-  const QString cacheKey = QStringLiteral("Theme_Icon/%1/%2/%3").arg(mName).arg(side).arg(int(isDisabled));
+  const Look look = lookOf(mode, state);
+  const QString cacheKey = QStringLiteral("Theme_Icon/%1/%2/%3").arg(mName).arg(side).arg(int(look));
   QPixmap result;
   if (!QPixmapCache::find(cacheKey, &result)) {
-    result = load(mName, side);
-    if (isDisabled) {
-      result = paler(result);
-    }
+    result = coloured(load(mName, side), look);
     QPixmapCache::insert(cacheKey, result);
   }
   return result;

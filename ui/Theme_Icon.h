@@ -4,7 +4,8 @@
 #include <QString>
 
 /// The pictures of one icon, ":/icons/NAME.png" and its other sizes, 16 to 48 device pixels. Each is read when it is
-/// first shown, and one that fits exactly is never scaled. What is disabled is paler; what is selected stays as it is.
+/// first shown, and one that fits exactly is never scaled. In one colour where two would not be seen: that of disabled
+/// text when disabled, white on the coloured grounds of what is selected, checked or under the pointer.
 class Theme_Icon : public QIconEngine {
 public:
   /// `name` without path and ending; see exists().
