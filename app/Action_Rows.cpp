@@ -219,10 +219,10 @@ constexpr Action_Row cRows[] = {
         .in(Menu::View, 3).keys("Ctrl+1").when(When::Window).changes(Effect::View),
     Row("onShowNavigation", QT_TRANSLATE_NOOP("Action_Table", "Zur Navigation"), u'g', ":/icons/account_tree-white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Bringt die Tastatur zum Baum der Seiten"))
-        .in(Menu::View, 3).keys("Ctrl+2").when(When::Window).changes(Effect::View),
+        .in(Menu::View, 3).keys("Ctrl+2").when(When::Open).changes(Effect::View),
     Row("onShowVariables", QT_TRANSLATE_NOOP("Action_Table", "Zu den Variablen"), u'd', ":/icons/main_group.png",
         QT_TRANSLATE_NOOP("Action_Table", "Bringt die Tastatur zu den Gruppenadressen"))
-        .in(Menu::View, 3).keys("Ctrl+3").when(When::Window).changes(Effect::View),
+        .in(Menu::View, 3).keys("Ctrl+3").when(When::Open).changes(Effect::View),
 
     // Programm
     Row("onEditNewPageProgram", QT_TRANSLATE_NOOP("Action_Table", "Neue Programm Seite"), u'N',

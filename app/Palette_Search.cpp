@@ -16,7 +16,7 @@ namespace {
 
 using Kind = Palette_Entry::Kind;
 
-constexpr int cRankCount = 4;
+constexpr int cRankCount = 5;
 constexpr int cNoRank = cRankCount;
 
 QString tr(const char* text) {
@@ -43,6 +43,7 @@ bool isAtWordStart(const QString& text, const QString& word) {
 /// 0 for the best. `rest` is what may hold a word besides the title.
 int rankOf(const Query& query, const QString& title, const QString& rest) {
   bool isInTitle = true;
+  bool isPartlyInTitle = false;
   bool isAtStart = true;
   for (const QString& word : query.mWords) {
     const bool isHere = title.contains(word, Qt::CaseInsensitive);
@@ -50,12 +51,13 @@ int rankOf(const Query& query, const QString& title, const QString& rest) {
       return cNoRank;
     }
     isInTitle = isInTitle && isHere;
+    isPartlyInTitle = isPartlyInTitle || isHere;
     isAtStart = isAtStart && isHere && isAtWordStart(title, word);
   }
   if (isInTitle && title.startsWith(query.mText, Qt::CaseInsensitive)) {
     return 0;
   }
-  return isAtStart ? 1 : isInTitle ? 2 : 3;
+  return isAtStart ? 1 : isInTitle ? 2 : isPartlyInTitle ? 3 : 4;
 }
 
 /// The best of one kind, at most so many of a rank as are wanted of all.
@@ -89,27 +91,33 @@ QString menuPath(const Action_Row& row) {
                               : menuPath(*opener) + QStringLiteral(", ") + Action_Table::text(*opener);
 }
 
-void findActions(const Query& query, const Action_State& state, std::vector<Palette_Entry>& entries) {
-  Ranked found(query.mWords.isEmpty() ? Action_Table::rows().size() : Palette_Search::cActionLimit);
+Palette_Entry entryOf(const Action_Row& row, const QString& title, const QString& reason) {
+  const QString keys =
+      QKeySequence(QString::fromLatin1(row.mKeys), QKeySequence::PortableText).toString(QKeySequence::NativeText);
+  const QString where = keys.isEmpty() ? menuPath(row) : menuPath(row) + QStringLiteral(", ") + keys;
+  return {Kind::Action,
+          title,
+          reason.isEmpty() ? where : reason,
+          QFileInfo(QString::fromLatin1(row.mIcon)).completeBaseName(),
+          QString::fromLatin1(row.mSlot),
+          QUuid(),
+          reason.isEmpty()};
+}
+
+void findActions(const Query& query, const Action_State& state, Ranked& usable, Ranked& others) {
   for (const Action_Row& row : Action_Table::rows()) {
     if (row.mSubmenu || qstrcmp(row.mSlot, "onShowPalette") == 0) {
       continue;
     }
     const QString title = Action_Table::text(row).section(u'\t', 0, 0);
-    const QString path = menuPath(row);
-    const int rank = rankOf(query, title, path + u'\n' + QCoreApplication::translate("Action_Table", row.mTip));
+    const QString rest = menuPath(row) + u'\n' + QCoreApplication::translate("Action_Table", row.mTip);
+    const int rank = rankOf(query, title, rest);
     const QString reason = Action_Table::whyDisabled(row, state);
-    const bool isOffered = reason.isEmpty() || !query.mWords.isEmpty();
-    if (isOffered && found.wants(rank)) {
-      const QString keys =
-          QKeySequence(QString::fromLatin1(row.mKeys), QKeySequence::PortableText).toString(QKeySequence::NativeText);
-      const QString where = keys.isEmpty() ? path : path + QStringLiteral(", ") + keys;
-      found.add(rank, {Kind::Action, title, reason.isEmpty() ? where : reason,
-                       QFileInfo(QString::fromLatin1(row.mIcon)).completeBaseName(), QString::fromLatin1(row.mSlot),
-                       QUuid(), reason.isEmpty()});
+    Ranked& found = reason.isEmpty() ? usable : others;
+    if (found.wants(rank)) {
+      found.add(rank, entryOf(row, title, reason));
     }
   }
-  found.moveTo(entries);
 }
 
 template <class Page>
@@ -150,13 +158,18 @@ std::vector<Palette_Entry> Palette_Search::find(const QString& text, const Actio
                                                 const ProjectDatabase& database) {
   const Query query(text);
   std::vector<Palette_Entry> entries;
-  findActions(query, state, entries);
+  const bool isAll = query.mWords.isEmpty();
+  Ranked usable(isAll ? Action_Table::rows().size() : cActionLimit);
+  Ranked others(isAll ? 0 : cDisabledLimit);
+  findActions(query, state, usable, others);
+  usable.moveTo(entries);
   Ranked pages(cPageLimit);
   findPages(query, database, database.mFbPages, tr("Programmseite"), pages);
   findPages(query, database, database.mWidgetPages, tr("Visualisierungsseite"), pages);
   pages.moveTo(entries);
-  if (!query.mWords.isEmpty()) {
+  if (!isAll) {
     findAddresses(query, database, entries);
   }
+  others.moveTo(entries);
   return entries;
 }

@@ -28,11 +28,12 @@ namespace Palette_Search {
 
 /// Most of each kind that are offered.
 inline constexpr size_t cActionLimit = 14;
+inline constexpr size_t cDisabledLimit = 8;
 inline constexpr size_t cPageLimit = 20;
 inline constexpr size_t cAddressLimit = 30;
 
-/// Commands first, then pages, then addresses, each in the order of rank and then of menus or project. For an empty
-/// text the commands that can be used now and the pages.
+/// Commands first, then pages, then addresses, at last the commands that cannot be used now; each in the order of rank
+/// and then of menus or project. For an empty text the commands that can be used now and the pages.
 [[nodiscard]] std::vector<Palette_Entry> find(const QString& text, const Action_State& state,
                                               const ProjectDatabase& database);
 

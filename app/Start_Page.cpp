@@ -46,6 +46,7 @@ Start_Page::Start_Page(const QList<QAction*>& actions, const QList<Step>& steps,
   column->addLayout(title);
   column->addWidget(mBack, 0, Qt::AlignLeft);
   column->addLayout(mButtons);
+  column->addSpacing(cGap);
   auto* const body = new QHBoxLayout;
   body->setSpacing(2 * Page_Parts::cMargin);
   body->addWidget(makeLists(), 1);

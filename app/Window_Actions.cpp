@@ -90,6 +90,9 @@ void Window_Actions::addTo(QMainWindow& window, const Action_Row& row, QAction* 
 }
 
 bool Window_Actions::isChecked(const Action_Row& row, const Action_State& state) const {
+  if (*row.mMissing) {
+    return false; // what is not there shows nothing
+  }
   if (row.mSetting) {
     return mSettings.isOn(*row.mSetting);
   }

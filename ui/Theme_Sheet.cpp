@@ -20,6 +20,7 @@ QMenu::item:selected { background: @Selection@; color: @AccentText@; }
 QMenu::item:disabled { color: @DisabledText@; }
 QMenu::item:disabled:selected { background: @Hover@; color: @SecondaryText@; }
 QMenu::icon { padding-left: 8px; }
+QMenu::icon:checked { background: @Accent@; }
 QMenu::separator { height: 1px; background: @MenuSeparator@; margin: 4px 8px; }
 
 QToolBar { border: none; padding: 2px; spacing: 2px; }
@@ -66,7 +67,8 @@ QTableCornerButton::section { background: @Bar@; border: none; }
 
 QTabWidget::pane { border: 1px solid @Border@; }
 QTabBar { outline: none; }
-QTabBar::tab { background: @Bar@; color: @SecondaryText@; border: 1px solid transparent; padding: 4px 12px; }
+QTabBar::tab { background: @Bar@; color: @SecondaryText@; border: 1px solid transparent; padding: 4px 12px;
+  min-height: 20px; }
 QTabBar::tab:hover { color: @Text@; background: @Hover@; }
 QTabBar::tab:selected { background: @Window@; color: @Text@; }
 QTabBar::tab:top:selected { border-top: 2px solid @Accent@; }
@@ -75,6 +77,8 @@ QTabBar::tab:left:selected { border-left: 2px solid @Accent@; }
 QTabBar::tab:right:selected { border-right: 2px solid @Accent@; }
 QTabBar::tab:focus { border: 1px solid @Accent@; }
 QTabBar::tab:disabled { color: @DisabledText@; }
+QTabBar::close-button { image: url(:/icons/close_white_16.png); border-radius: 3px; margin: 2px; }
+QTabBar::close-button:hover { background: @Border@; }
 
 QSplitter::handle { background: @Canvas@; }
 QSplitter::handle:hover { background: @Accent@; }

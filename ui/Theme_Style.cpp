@@ -28,6 +28,9 @@ bool drawAs(const QStyleOption* option, Change&& change, Draw&& draw) {
   if (same) {
     Option copy(*same);
     change(copy.palette);
+    // The focus is seen however it came, not by the keyboard only.
+    copy.state.setFlag(QStyle::State_KeyboardFocusChange, copy.state.testFlag(QStyle::State_HasFocus) ||
+                                                              copy.state.testFlag(QStyle::State_KeyboardFocusChange));
     draw(copy);
   }
   return same != nullptr;
