@@ -69,12 +69,6 @@ QString reason(When when) {
   }
 }
 
-/// These belong to fields and lists, with a project or without.
-bool isOfFocus(When when) {
-  return when == When::Cut || when == When::Copy || when == When::Paste || when == When::Delete ||
-         when == When::SelectAll;
-}
-
 } // namespace
 
 QString Action_Table::menuTitle(Action_Menu menu) {
@@ -156,6 +150,12 @@ QString Action_Table::toolTip(const Action_Row& row, const Action_State& state) 
   return keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys.toString(QKeySequence::NativeText));
 }
 
+bool Action_Table::isOfFocus(const Action_Row& row) {
+  const When when = row.mWhen;
+  return when == When::Cut || when == When::Copy || when == When::Paste || when == When::Delete ||
+         when == When::SelectAll;
+}
+
 QString Action_Table::whyDisabled(const Action_Row& row, const Action_State& state) {
   const When when = row.mWhen;
   if (when == When::Always) {
@@ -170,7 +170,7 @@ QString Action_Table::whyDisabled(const Action_Row& row, const Action_State& sta
   if (when == When::Window) {
     return {};
   }
-  if (!isOfFocus(when) && !state.mIsOpen) {
+  if (!isOfFocus(row) && !state.mIsOpen) {
     return tr("Es ist kein Projekt geöffnet.");
   }
   const bool isEdit = when == When::Editable || when == When::Undo || when == When::Redo;

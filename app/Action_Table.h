@@ -114,6 +114,8 @@ namespace Action_Table {
 /// For the status line; undo and redo name their step. Tells the reason when the action is disabled.
 [[nodiscard]] QString statusTip(const Action_Row& row, const Action_State& state);
 [[nodiscard]] QString toolTip(const Action_Row& row, const Action_State& state);
+/// True when it is a field or list with the keyboard focus that carries the action out, with a project or without.
+[[nodiscard]] bool isOfFocus(const Action_Row& row);
 /// Why the action cannot be used now (German); empty when it can.
 [[nodiscard]] QString whyDisabled(const Action_Row& row, const Action_State& state);
 

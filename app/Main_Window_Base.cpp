@@ -78,6 +78,7 @@ void Main_Window_Base::buildTabs() {
   mTabs->setObjectName(QStringLiteral("ui:mTabs"));
   mTabs->setTabPosition(QTabWidget::South);
   mTabs->setMovable(true);
+  mTabs->tabBar()->setAccessibleName(tr("Navigation und Variablen"));
   mPageView = new Page_View(mSession, mTabs);
   mPageView->setObjectName(QStringLiteral("Navigation"));
   mAddressView = new Address_View(mSession, mTabs);

@@ -164,7 +164,10 @@ void Main_Window_Dev::updateActions() {
 }
 
 void Main_Window_Dev::updateProjectLists() {
-  startPage().setProjects(mSettings.lastProjects(), mSettings.favoriteProjects());
+  // A kiosk shows what it was started with.
+  if (!isKiosk()) {
+    startPage().setProjects(mSettings.lastProjects(), mSettings.favoriteProjects());
+  }
 }
 
 /// Editors hand their text over when they lose the focus.

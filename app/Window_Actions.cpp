@@ -42,6 +42,10 @@ Window_Actions::Window_Actions(QMainWindow& window, const App_Settings& settings
     action->setIconText(Action_Table::barText(row));
     action->setIcon(Theme::icon(QFileInfo(QString::fromLatin1(row.mIcon)).completeBaseName()));
     action->setShortcut(QKeySequence(QString::fromLatin1(row.mKeys), QKeySequence::PortableText));
+    if (Action_Table::isOfFocus(row)) {
+      // Only told here: who has the focus takes these keys itself, and two takers would leave both without effect.
+      action->setShortcutContext(Qt::WidgetShortcut);
+    }
     action->setCheckable(row.mIsCheckable);
     // Only macOS would move some of them to a menu of its own by their text.
     action->setMenuRole(QAction::NoRole);

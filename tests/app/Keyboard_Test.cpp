@@ -1,0 +1,237 @@
+#include "app/Command_Palette.h"
+#include "app/Geo_Position_Dlg.h"
+#include "app/Main_Window_Dev.h"
+#include "app/Page_Tabs.h"
+#include "app/Project_List.h"
+#include "app/Settings_Dlg.h"
+#include "app/Start_Page.h"
+#include "base/Access_Key.h"
+#include "base/App_Settings.h"
+#include "tests/db/Session_Rig.h"
+#include "ui/Address_Import_Dialog.h"
+#include "ui/Address_Search_Dialog.h"
+#include "ui/Invalid_Address_Dialog.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTextEdit>
+#include <QToolBar>
+#include <QTreeView>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a user works with; the parts that such a control is made of, and doubles of menu entries, do not count.
+bool isControl(const QWidget& widget) {
+  const QWidget* const parent = widget.parentWidget();
+  if (!widget.isVisible() || !widget.isEnabled() || qobject_cast<const QToolBar*>(parent) ||
+      qobject_cast<const QLineEdit*>(parent) || qobject_cast<const QAbstractSpinBox*>(parent) ||
+      qobject_cast<const QComboBox*>(parent) || qobject_cast<const QTabBar*>(parent) ||
+      qobject_cast<const QMenuBar*>(parent) || qobject_cast<const QHeaderView*>(&widget)) {
+    return false;
+  }
+  return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QLineEdit*>(&widget) ||
+         qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QAbstractSpinBox*>(&widget) ||
+         qobject_cast<const QAbstractItemView*>(&widget) || qobject_cast<const QTabBar*>(&widget) ||
+         qobject_cast<const QTextEdit*>(&widget);
+}
+
+QString nameOf(const QWidget& widget) {
+  return u"%1 \"%2\" %3"_s.arg(QLatin1String(widget.metaObject()->className()), widget.objectName(),
+                               widget.accessibleName());
+}
+
+/// Controls that the tab key does not reach.
+QStringList unreached(QWidget& window) {
+  QSet<const QWidget*> reached;
+  const QWidget* widget = &window;
+  do {
+    widget = widget->nextInFocusChain();
+    if (widget->focusPolicy() & Qt::TabFocus) {
+      reached.insert(widget->focusProxy() ? widget->focusProxy() : widget);
+    }
+  } while (widget != &window);
+  QStringList names;
+  for (const QWidget* const control : window.findChildren<QWidget*>()) {
+    if (control->window() == &window && isControl(*control) && !reached.contains(control)) {
+      names.append(nameOf(*control));
+    }
+  }
+  return names;
+}
+
+/// Access keys of labels and buttons that stand twice.
+QStringList doubleKeys(const QWidget& window) {
+  QSet<QChar> keys;
+  QStringList names;
+  const auto note = [&](const QWidget& widget, const QString& text) {
+    const QChar key = Access_Key::of(text);
+    if (widget.isVisible() && !key.isNull() && keys.contains(key)) {
+      names.append(text);
+    }
+    keys.insert(key);
+  };
+  for (const QAbstractButton* const button : window.findChildren<QAbstractButton*>()) {
+    if (button->isVisible() && !qobject_cast<const QToolBar*>(button->parentWidget())) {
+      note(*button, button->text());
+    }
+  }
+  for (const QLabel* const label : window.findChildren<QLabel*>()) {
+    if (label->isVisible() && label->buddy()) {
+      note(*label, label->text());
+    }
+  }
+  if (const auto* const bar = window.findChild<QMenuBar*>({}, Qt::FindDirectChildrenOnly)) {
+    for (const QAction* const action : bar->actions()) {
+      note(*bar, action->text());
+    }
+  }
+  return names;
+}
+
+/// Controls that a screen reader has no words for.
+QStringList nameless(const QWidget& window) {
+  QSet<const QWidget*> buddies;
+  for (const QLabel* const label : window.findChildren<QLabel*>()) {
+    buddies.insert(label->buddy());
+  }
+  QStringList names;
+  for (const QWidget* const control : window.findChildren<QWidget*>()) {
+    const auto* const button = qobject_cast<const QAbstractButton*>(control);
+    const bool hasText = button && !button->text().isEmpty();
+    if (control->window() == &window && isControl(*control) && !hasText && control->accessibleName().isEmpty() &&
+        !buddies.contains(control)) {
+      names.append(nameOf(*control));
+    }
+  }
+  return names;
+}
+
+struct Rig : Session_Rig {
+  App_Settings mSettings{path(u"studio.ini"_s)};
+};
+
+} // namespace
+
+/// Every window can be used without a mouse, and by ear.
+class Keyboard_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+  void everyControlIsReachedAndNamed_data() {
+    QTest::addColumn<int>("window");
+    const char* const names[] = {"start page", "project", "variables", "page", "settings",
+                                 "position",   "import",  "search",    "check"};
+    for (int i = 0; i < int(std::size(names)); ++i) {
+      QTest::newRow(names[i]) << i;
+    }
+  }
+  void everyControlIsReachedAndNamed() {
+    QFETCH(int, window);
+    Rig rig;
+    std::unique_ptr<Main_Window_Dev> main;
+    std::unique_ptr<QWidget> dialog;
+    const auto makeMain = [&] {
+      rig.mSettings.addLastProject(rig.path());
+      rig.mSettings.setFavoriteProject(rig.path(), true);
+      main = std::make_unique<Main_Window_Dev>(rig.mSession, rig.mSettings, rig.mState, false);
+    };
+    const auto makeProject = [&] {
+      makeMain();
+      QVERIFY(rig.create());
+      rig.addAddress({1, 2, 3}, u"Licht"_s);
+      emit main->findChild<Start_Page*>()->backRequested();
+    };
+    const std::function<void()> makers[] = {
+        makeMain,
+        makeProject,
+        [&] {
+          makeProject();
+          main->onShowVariables();
+        },
+        [&] {
+          makeProject();
+          main->findChild<Page_Tabs*>()->showPage(rig.mSession.database().mFbPages.pages().at(0).mGuid);
+        },
+        [&] { dialog = std::make_unique<Settings_Dlg>(rig.mSettings, nullptr); },
+        [&] { dialog = std::make_unique<Geo_Position_Dlg>(1, 2, nullptr); },
+        [&] { dialog = std::make_unique<Address_Import_Dialog>(rig.mSession, rig.mSettings, rig.folder(), nullptr); },
+        [&] { dialog = std::make_unique<Address_Search_Dialog>(rig.mSession, rig.mSettings, nullptr); },
+        [&] { dialog = std::make_unique<Invalid_Address_Dialog>(rig.mSession, rig.mSettings, nullptr); },
+    };
+    if (window > 3) {
+      QVERIFY(rig.create());
+    }
+    makers[window]();
+    QWidget& shown = main ? static_cast<QWidget&>(*main) : *dialog;
+    shown.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&shown));
+    QCOMPARE(unreached(shown), QStringList());
+    QCOMPARE(doubleKeys(shown), QStringList());
+    QCOMPARE(nameless(shown), QStringList());
+  }
+
+  void theListOfProjects() {
+    Rig rig;
+    QVERIFY(rig.create());
+    rig.mSettings.addLastProject(rig.path());
+    rig.mSettings.addLastProject(rig.path(u"Weg.zpro"_s));
+    rig.mSession.close();
+    Main_Window_Dev window(rig.mSession, rig.mSettings, rig.mState, false);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const auto lists = window.findChildren<Project_List*>();
+    Project_List* const recent = lists.at(lists.at(0)->accessibleName() == u"Favoriten" ? 1 : 0);
+    Project_List* const favorites = lists.at(recent == lists.at(0) ? 1 : 0);
+    QCOMPARE(recent->topLevelItem(0)->text(3), u"fehlt"_s);
+    recent->setFocus();
+    recent->setCurrentItem(recent->topLevelItem(0));
+    QTest::keyClick(recent, Qt::Key_Delete);
+    QCOMPARE(rig.mSettings.lastProjects(), QStringList{rig.path()});
+    QVERIFY(!favorites->isVisible());
+    recent->setCurrentItem(recent->topLevelItem(0));
+    QTest::keyClick(recent, Qt::Key_Space);
+    QCOMPARE(rig.mSettings.favoriteProjects(), QStringList{rig.path()});
+    QVERIFY(favorites->isVisible());
+    QCOMPARE(recent->currentItem(), recent->topLevelItem(0)); // the same project is still current
+    QTest::keyClick(recent, Qt::Key_Return);
+    QTRY_COMPARE(rig.mSession.path(), rig.path());
+  }
+
+  void thePaletteTakesKeysOnly() {
+    Rig rig;
+    QVERIFY(rig.create());
+    Main_Window_Dev window(rig.mSession, rig.mSettings, rig.mState, false);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_K, Qt::ControlModifier);
+    auto* const palette = window.findChild<Command_Palette*>();
+    QVERIFY(palette->isVisible());
+    auto* const field = palette->findChild<QLineEdit*>();
+    QTest::keyClicks(field, u"programm 1"_s);
+    QTest::keyClick(field, Qt::Key_Return);
+    QVERIFY(!palette->isVisible());
+    QTRY_COMPARE(window.findChild<Page_Tabs*>()->currentPage(), rig.mSession.database().mFbPages.pages().at(0).mGuid);
+    window.onShowPalette();
+    QVERIFY(field->text().isEmpty());
+    QTest::keyClicks(field, u"play"_s);
+    QTest::keyClick(field, Qt::Key_Return);
+    QTRY_VERIFY(rig.mState.operatingMode());
+  }
+};
+
+QTEST_MAIN(Keyboard_Test)
+#include "Keyboard_Test.moc"
