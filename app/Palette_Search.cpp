@@ -139,12 +139,13 @@ void findAddresses(const Query& query, const ProjectDatabase& database, std::vec
   Ranked found(Palette_Search::cAddressLimit);
   for (const auto& main : database.mAddresses.mainGroups()) {
     for (const auto& middle : main->mMiddleGroups) {
+      const QString group = QStringLiteral("%1/%2/").arg(main->mNumber).arg(middle->mNumber);
       for (const auto& sub : middle->mSubGroups) {
-        const Group_Address address(main->mNumber, middle->mNumber, sub->mNumber);
-        const int rank = hasNumber ? rankOf(query, address.toString(), sub->mName) : rankOf(query, sub->mName, {});
+        const QString address = hasNumber ? group + QString::number(sub->mNumber) : QString();
+        const int rank = hasNumber ? rankOf(query, address, sub->mName) : rankOf(query, sub->mName, {});
         if (found.wants(rank)) {
-          found.add(rank, {Kind::Address, address.toString(), sub->mName.simplified(), QStringLiteral("sub_group"),
-                           QString(), sub->mKey, true});
+          found.add(rank, {Kind::Address, group + QString::number(sub->mNumber), sub->mName.simplified(),
+                           QStringLiteral("sub_group"), QString(), sub->mKey, true});
         }
       }
     }
