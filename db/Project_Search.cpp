@@ -38,7 +38,7 @@ private:
     mResult.mPlaces += isSamePlace ? 0 : 1;
     mResult.mMatches += hit.mCount;
     mResult.mHits.push_back(hit);
-    mResult.mHits.back().mState = qHash(text);
+    mResult.mHits.back().mState = static_cast<quint32>(qHash(text));
   }
 
   void addIfFound(const QUuid& id, Kind kind, Field field, int index, const QString& text) {
@@ -54,26 +54,21 @@ private:
     }
   }
 
-  template <class Group, class Address_Text>
-  void findGroup(const Group& group, Kind kind, const Address_Text& addressText) {
-    if (mPattern.isValid()) {
-      const QString address = addressText();
-      if (mPattern.matches(address)) {
-        add({group.mKey, kind, Field::Address, 0, 1}, address);
-      }
+  template <class Group, class... Numbers>
+  void findGroup(const Group& group, Kind kind, Numbers... numbers) {
+    if (mPattern.matches(numbers...)) {
+      add({group.mKey, kind, Field::Address, 0, 1}, addressText(mDatabase, group.mKey));
     }
     findTexts(group, group.mKey, kind);
   }
 
   void findAddresses() {
     for (const auto& main : mDatabase.mAddresses.mainGroups()) {
-      findGroup(*main, Kind::MainGroup, [&main] { return Group_Address::mainGroupText(main->mNumber); });
+      findGroup(*main, Kind::MainGroup, main->mNumber);
       for (const auto& middle : main->mMiddleGroups) {
-        findGroup(*middle, Kind::MiddleGroup,
-                  [&] { return Group_Address::middleGroupText(main->mNumber, middle->mNumber); });
+        findGroup(*middle, Kind::MiddleGroup, main->mNumber, middle->mNumber);
         for (const auto& sub : middle->mSubGroups) {
-          findGroup(*sub, Kind::Address,
-                    [&] { return Group_Address(main->mNumber, middle->mNumber, sub->mNumber).toString(); });
+          findGroup(*sub, Kind::Address, main->mNumber, middle->mNumber, sub->mNumber);
         }
       }
     }

@@ -34,9 +34,9 @@ struct Hit {
   QUuid mId; ///< key of an address, group or variable; GUID of a page, block or element
   Kind mKind = Kind::Address;
   Field mField = Field::Name;
-  int mIndex = 0;    ///< of a parameter; of a variable its place among those of the result
-  int mCount = 0;    ///< matches in the text
-  size_t mState = 0; ///< differs when the text does
+  int mIndex = 0;     ///< of a parameter; of a variable its place among those of the result
+  int mCount = 0;     ///< matches in the text
+  quint32 mState = 0; ///< differs when the text does
 
   friend bool operator==(const Hit&, const Hit&) = default;
 };

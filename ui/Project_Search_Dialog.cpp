@@ -181,8 +181,11 @@ Project_Search::Query Project_Search_Dialog::query() const {
 }
 
 void Project_Search_Dialog::refresh() {
-  // Nothing is asked of the project as long as nothing is sought.
-  mModel.search(filter().text().isEmpty() ? Address_Usage() : usage(), query());
+  const Project_Search::Query query = this->query();
+  // Only the variables are told by what is used, which is a long walk after an edit.
+  const bool isAnyVariable = !query.mText.isEmpty() && (query.mScope == Project_Search::Scope::Everything ||
+                                                        query.mScope == Project_Search::Scope::Addresses);
+  mModel.search(isAnyVariable ? usage() : Address_Usage(), query);
   updateTexts();
 }
 

@@ -79,6 +79,8 @@ private slots:
                                        << QStringList{"Mittelgruppe 1/2/* Küche|Adresse|[1/2/*]",
                                                       "Adresse 1/2/3 Licht|Adresse|[1/2/3]",
                                                       "Adresse 1/2/4 Reserve|Adresse|[1/2/4]"};
+    QTest::newRow("a number beyond all") << "99999999999/*" << Scope::Everything << QStringList();
+    QTest::newRow("another address that ends so") << "2/3" << Scope::Everything << QStringList();
     QTest::newRow("of a main group") << " 4/* " << Scope::Everything
                                      << QStringList{"Hauptgruppe 4/*|Adresse|[4/*]",
                                                     "Mittelgruppe 4/0/*|Adresse|[4/0/*]",
