@@ -143,11 +143,11 @@ constexpr Action_Row cRows[] = {
         .in(Menu::Edit, 1).keys("Ctrl+A").when(When::SelectAll).changes(Effect::Edit),
     Row("onEdit_Search", QT_TRANSLATE_NOOP("Action_Table", "Suchen"), u'S', ":/icons/search-white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Sucht in Adressen, Seiten, Bausteinen und Texten des Projekts"))
-        .in(Menu::Edit, 2).keys("Ctrl+F").bar(Bar::Edit).missing(cOther),
+        .in(Menu::Edit, 2).keys("Ctrl+F").bar(Bar::Edit).when(When::Open).changes(Effect::Dialog),
     Row("onEditFindReplace", QT_TRANSLATE_NOOP("Action_Table", "Suchen und ersetzen"), u'u',
         ":/icons/find_replace_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Ersetzt Texte in Adressen, Seiten und Bausteinen, in einem Schritt"))
-        .in(Menu::Edit, 2).keys("Ctrl+H").missing(cOther),
+        .in(Menu::Edit, 2).keys("Ctrl+H").when(When::Open).changes(Effect::Dialog),
     Row("mMenuProjectSetup", QT_TRANSLATE_NOOP("Action_Table", "Projekteinstellungen"), u'P', ":/icons/gear_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Was die Steuerung über das Gebäude und ihre Dienste wissen muss"))
         .in(Menu::Edit, 3).opens(Menu::ProjectSetup).when(When::Window),

@@ -21,6 +21,7 @@
 #include "ui/Address_Search_Dialog.h"
 #include "ui/Address_View.h"
 #include "ui/Invalid_Address_Dialog.h"
+#include "ui/Project_Search_Dialog.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -279,21 +280,37 @@ void Main_Window_Dev::onEdit_ODBC_Export() {
 }
 
 template <class Dialog>
-void Main_Window_Dev::showResults(Result_Dialog*& dialog) {
+Dialog& Main_Window_Dev::resultDialog(Dialog*& dialog) {
   if (!dialog) {
     dialog = new Dialog(mSession, mSettings, this);
     connect(dialog, &Result_Dialog::addressChosen, this, &Main_Window_Dev::showAddress);
     connect(dialog, &Result_Dialog::pageChosen, this, &Main_Window_Dev::showPage);
+    connect(dialog, &Result_Dialog::childChosen, this, &Main_Window_Dev::showChild);
   }
-  dialog->bringUp();
+  return *dialog;
 }
 
 void Main_Window_Dev::onEdit_Search_Unused() {
-  showResults<Address_Search_Dialog>(mAddressSearch);
+  resultDialog(mAddressSearch).bringUp();
 }
 
 void Main_Window_Dev::onEdit_CheckValidAddress() {
-  showResults<Invalid_Address_Dialog>(mInvalidAddresses);
+  resultDialog(mInvalidAddresses).bringUp();
+}
+
+void Main_Window_Dev::onEdit_Search() {
+  search(false);
+}
+
+void Main_Window_Dev::onEditFindReplace() {
+  search(true);
+}
+
+void Main_Window_Dev::search(bool isReplacing) {
+  commitEditor();
+  Project_Search_Dialog& dialog = resultDialog(mProjectSearch);
+  dialog.setReplaceMode(isReplacing);
+  dialog.bringUp();
 }
 
 void Main_Window_Dev::onEditCut() {

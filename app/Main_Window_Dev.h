@@ -6,11 +6,13 @@
 #include <memory>
 
 class Address_Exchange;
+class Address_Search_Dialog;
 class Command_Palette;
 class Edit_Target;
+class Invalid_Address_Dialog;
 class Project_Lifecycle;
+class Project_Search_Dialog;
 class QLabel;
-class Result_Dialog;
 class Session_State;
 class Window_Actions;
 class Window_Dialogs;
@@ -43,6 +45,8 @@ public slots:
   void onEdit_Paste();
   void onEditDelete();
   void onEditSelectAll();
+  void onEdit_Search();
+  void onEditFindReplace();
   void onEditChangeView();
   void onEditGeopos();
   void onEdit_ODBC_Import();
@@ -78,7 +82,8 @@ private:
   void commitEditor();
   void onBuildEditors(int percent);
   template <class Dialog>
-  void showResults(Result_Dialog*& dialog);
+  Dialog& resultDialog(Dialog*& dialog);
+  void search(bool isReplacing);
 
   Session_State& mState;
   std::unique_ptr<Window_Dialogs> mDialogs;
@@ -87,7 +92,8 @@ private:
   Address_Exchange* mExchange;
   Edit_Target* mEditTarget;
   Command_Palette* mPalette;
-  QLabel* mModeMark = nullptr;             ///< seen while the operating mode is on
-  Result_Dialog* mAddressSearch = nullptr; ///< made when first asked for, as the one below
-  Result_Dialog* mInvalidAddresses = nullptr;
+  QLabel* mModeMark = nullptr;                     ///< seen while the operating mode is on
+  Address_Search_Dialog* mAddressSearch = nullptr; ///< made when first asked for, as the two below
+  Invalid_Address_Dialog* mInvalidAddresses = nullptr;
+  Project_Search_Dialog* mProjectSearch = nullptr;
 };

@@ -34,25 +34,11 @@ Address_Filter_Model::Address_Filter_Model(QAbstractItemModel& table, int addres
   setSourceModel(&table);
 }
 
-bool Address_Filter_Model::Word::isAddress(const QString& text) const {
-  return mAddress.endsWith(QLatin1Char('/')) ? text.startsWith(mAddress) : !mAddress.isEmpty() && text == mAddress;
-}
-
-Address_Filter_Model::Word Address_Filter_Model::wordOf(const QString& text) {
-  static const QRegularExpression address(QStringLiteral("^0*(\\d+)/(?:0*(\\d+)(?:/(?:0*(\\d+)|\\*)?)?|\\*)?$"));
-  const QRegularExpressionMatch match = address.match(text);
-  QString levels;
-  for (int i = 1; i <= match.lastCapturedIndex(); ++i) {
-    levels += match.captured(i) + (i < 3 ? QStringLiteral("/") : QString());
-  }
-  return {text, levels};
-}
-
 void Address_Filter_Model::setFilter(const QString& text) {
   static const QRegularExpression blanks(QStringLiteral("\\s+"));
   std::vector<Word> words;
   for (const QString& word : text.split(blanks, Qt::SkipEmptyParts)) {
-    words.push_back(wordOf(word));
+    words.push_back({word, Address_Pattern(word)});
   }
   const auto isSame = [](const Word& a, const Word& b) { return a.mText == b.mText; };
   if (std::equal(words.begin(), words.end(), mWords.begin(), mWords.end(), isSame)) {
@@ -77,7 +63,7 @@ bool Address_Filter_Model::filterAcceptsRow(int row, const QModelIndex&) const {
     }
   }
   return std::all_of(mWords.begin(), mWords.end(), [&](const Word& word) {
-    const bool isInAddress = word.mAddress.isEmpty() ? address.contains(word.mText) : word.isAddress(address);
+    const bool isInAddress = word.mAddress.isValid() ? word.mAddress.matches(address) : address.contains(word.mText);
     return isInAddress || others.contains(word.mText, Qt::CaseInsensitive);
   });
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "db/Address_Pattern.h"
+
 #include <QSortFilterProxyModel>
 #include <QString>
 
@@ -28,11 +30,9 @@ protected:
 private:
   struct Word {
     QString mText;
-    QString mAddress; ///< "1/2/3", or "1/2/" of a group; empty when the word is no address
-    [[nodiscard]] bool isAddress(const QString& text) const;
+    Address_Pattern mAddress;
   };
 
-  [[nodiscard]] static Word wordOf(const QString& text);
   void rank() const;
 
   int mAddressColumn;

@@ -22,6 +22,9 @@ inline constexpr int cSortKey = Qt::UserRole + 1;
 /// What the row is the same by after the model was built anew; of a type that compares.
 inline constexpr int cIdentity = Qt::UserRole + 2;
 
+/// Which parts of the cell's text were searched for: a `QList<Text_Search::Match>`.
+inline constexpr int cMatches = Qt::UserRole + 3;
+
 /// For the tool tip role: the text as it is. A tool tip would take what looks like mark-up for it.
 [[nodiscard]] inline QVariant toolTip(const QString& text) {
   return text.isEmpty() ? QVariant() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());

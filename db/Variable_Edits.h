@@ -2,6 +2,7 @@
 
 #include "db/Edit_Result.h"
 
+#include <QHash>
 #include <QString>
 #include <QUuid>
 
@@ -14,6 +15,8 @@ namespace Variable_Edits {
 /// A name of 1 to 255 characters in one line.
 [[nodiscard]] Edit_Result checkName(const QString& name);
 Edit_Result rename(Project_Session& session, const QUuid& key, const QString& name);
+/// Several, by their keys; refuses all when one may not be.
+Edit_Result rename(Project_Session& session, const QHash<QUuid, QString>& names);
 
 /// `type` as `Datapoint_Id::parse` reads it, empty for none.
 Edit_Result setType(Project_Session& session, const QUuid& key, const QString& type);

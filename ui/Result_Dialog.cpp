@@ -28,28 +28,29 @@ Result_Dialog::Result_Dialog(Project_Session& session, App_Settings& settings, c
       mSession(session),
       mSettings(settings),
       mWatch(session),
+      mRows(new QVBoxLayout(this)),
       mTop(new QHBoxLayout),
+      mFilterLabel(new QLabel),
       mFilter(new Filter_Edit(cFilterDelayMs)),
       mBody(new QSplitter(Qt::Vertical)),
-      mCount(new QLabel) {
+      mCount(new QLabel),
+      mClose(new QPushButton(tr("S&chließen"))) {
   setObjectName(name);
   makeFilter();
   mBody->setChildrenCollapsible(false);
   mCount->setObjectName(QStringLiteral("ui:mCount"));
   Theme::setTextRole(*mCount, Theme::Role::SecondaryText);
   mCount->setTextFormat(Qt::PlainText);
-  auto* const closeButton = new QPushButton(tr("S&chließen"));
-  closeButton->setAutoDefault(false); // Enter belongs to the lists
-  connect(closeButton, &QPushButton::clicked, this, &QDialog::close);
+  mClose->setAutoDefault(false); // Enter belongs to the lists
+  connect(mClose, &QPushButton::clicked, this, &QDialog::close);
 
   auto* const bottom = new QHBoxLayout;
   bottom->addWidget(mCount, 1);
-  bottom->addWidget(closeButton);
-  auto* const layout = new QVBoxLayout(this);
-  layout->setSpacing(cGap);
-  layout->addLayout(mTop);
-  layout->addWidget(mBody, 1);
-  layout->addLayout(bottom);
+  bottom->addWidget(mClose);
+  mRows->setSpacing(cGap);
+  mRows->addLayout(mTop);
+  mRows->addWidget(mBody, 1);
+  mRows->addLayout(bottom);
 
   connect(&session, &Project_Session::closed, this, &QDialog::close);
   connect(&mWatch, &Address_Usage_Watch::changed, this, [this] {
@@ -79,16 +80,21 @@ void Result_Dialog::placeBesideTabs() {
 }
 
 void Result_Dialog::makeFilter() {
-  mFilter->setPlaceholderText(tr("1/2/3, 1/2/*, 1/* oder Wörter"));
-  mFilter->setToolTip(tr("Zeigt die Zeilen, in denen jedes Wort vorkommt. 1/2/3 ist genau diese Adresse, 1/2/* und 1/* "
-                         "sind alle der Gruppe. Escape leert das Feld."));
+  setFilterTexts(tr("&Suchen:"), tr("1/2/3, 1/2/*, 1/* oder Wörter"),
+                 tr("Zeigt die Zeilen, in denen jedes Wort vorkommt. 1/2/3 ist genau diese Adresse, 1/2/* und 1/* "
+                    "sind alle der Gruppe. Escape leert das Feld."));
   connect(mFilter, &Filter_Edit::filterChanged, this, &Result_Dialog::applyFilter);
   connect(mFilter, &Filter_Edit::listWanted, this, [this] { mainList().enter(); });
-  auto* const label = new QLabel(tr("&Suchen:"));
-  label->setBuddy(mFilter);
+  mFilterLabel->setBuddy(mFilter);
   mTop->setSpacing(cGap);
-  mTop->addWidget(label);
+  mTop->addWidget(mFilterLabel);
   mTop->addWidget(mFilter, 1);
+}
+
+void Result_Dialog::setFilterTexts(const QString& label, const QString& placeholder, const QString& toolTip) {
+  mFilterLabel->setText(label);
+  mFilter->setPlaceholderText(placeholder);
+  mFilter->setToolTip(toolTip);
 }
 
 const ProjectDatabase& Result_Dialog::database() const {
@@ -97,6 +103,7 @@ const ProjectDatabase& Result_Dialog::database() const {
 
 void Result_Dialog::addList(Result_List& list, int share) {
   mBody->addWidget(&list);
+  setTabOrder(list.focusProxy(), mClose);
   mLists.push_back(&list);
   mShares.push_back(share * cAnyHeight);
   list.restoreState(mSettings);

@@ -10,8 +10,10 @@ class App_Settings;
 class Project_Session;
 class QBoxLayout;
 class QLabel;
+class QPushButton;
 class Filter_Edit;
 class QSplitter;
+class QVBoxLayout;
 class Result_List;
 
 /// A window that lists something about the open project and stays open beside the work: a filter field, the lists, a
@@ -28,6 +30,8 @@ public:
 signals:
   void addressChosen(const QUuid& key);
   void pageChosen(const QUuid& guid);
+  /// A block or element, and the page that it stands on.
+  void childChosen(const QUuid& pageGuid, const QUuid& guid);
 
 protected:
   /// Session and settings outlive the window. Its place is remembered under `name`.
@@ -46,7 +50,12 @@ protected:
   /// Which of the lists are seen, in the order of adding.
   void showLists(const QList<bool>& seen);
   void setCountText(const QString& text);
+  /// What the filter field is called, says while it is empty, and tells in its tool tip.
+  void setFilterTexts(const QString& label, const QString& placeholder, const QString& toolTip);
   [[nodiscard]] QBoxLayout& top() { return *mTop; }
+  /// All of the window, one below the other: `top`, the lists, the line that counts.
+  [[nodiscard]] QVBoxLayout& rows() { return *mRows; }
+  [[nodiscard]] QLabel& filterLabel() const { return *mFilterLabel; }
   [[nodiscard]] Filter_Edit& filter() const { return *mFilter; }
   [[nodiscard]] const ProjectDatabase& database() const;
   [[nodiscard]] const Address_Usage& usage() { return mWatch.usage(); }
@@ -63,10 +72,13 @@ private:
 
   App_Settings& mSettings;
   Address_Usage_Watch mWatch;
+  QVBoxLayout* mRows;
   QBoxLayout* mTop;
+  QLabel* mFilterLabel;
   Filter_Edit* mFilter;
   QSplitter* mBody;
   QLabel* mCount;
+  QPushButton* mClose;
   QList<Result_List*> mLists;
   QList<int> mShares; ///< of the height, while all lists are seen
 };

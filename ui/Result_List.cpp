@@ -28,6 +28,7 @@ Result_List::Result_List(QAbstractItemModel& table, int addressColumn, const Ses
   mTree->setSortingEnabled(true);
   addWidget(mTree);
   addWidget(mHint);
+  setFocusProxy(mTree);
 
   connect(mTree, &QAbstractItemView::activated, this, [this](const QModelIndex& index) { emit chosen(rowOf(index)); });
   connect(mTree->selectionModel(), &QItemSelectionModel::selectionChanged, this, &Result_List::selectionChanged);
@@ -67,6 +68,15 @@ QHeaderView& Result_List::header() {
   return *mTree->header();
 }
 
+void Result_List::setDelegate(QAbstractItemDelegate* delegate) {
+  delegate->setParent(mTree);
+  mTree->setItemDelegate(delegate);
+}
+
+void Result_List::updateTexts() {
+  mTree->viewport()->update();
+}
+
 bool Result_List::isFiltered() const {
   return mModel->isFiltered();
 }
@@ -102,6 +112,31 @@ bool Result_List::showRow(int row) {
     mTree->scrollTo(shown);
   }
   return shown.isValid();
+}
+
+int Result_List::current() const {
+  return mTree->currentIndex().row();
+}
+
+void Result_List::setCurrent(int shownRow) {
+  mTree->setCurrentIndex(mModel->index(std::min(shownRow, mModel->rowCount() - 1), 0));
+}
+
+void Result_List::choose(int shownRow) {
+  setCurrent(shownRow);
+  emit chosen(rowOf(mTree->currentIndex()));
+}
+
+void Result_List::chooseNext() {
+  if (const int count = mModel->rowCount(); count > 0) {
+    choose((current() + 1) % count);
+  }
+}
+
+void Result_List::choosePrevious() {
+  if (const int count = mModel->rowCount(); count > 0) {
+    choose((std::max(current(), 0) + count - 1) % count);
+  }
 }
 
 void Result_List::updatePage() {

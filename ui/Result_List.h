@@ -11,6 +11,7 @@ class Address_Filter_Model;
 class App_Settings;
 class Empty_Hint;
 class Project_Tree_View;
+class QAbstractItemDelegate;
 class QAbstractItemModel;
 class QHeaderView;
 class Session_State;
@@ -32,6 +33,10 @@ public:
   /// A command of the context menu that is about the current row; `onRow` gets its number in the table.
   void addCommand(const QString& text, const std::function<void(int row)>& onRow);
   [[nodiscard]] QHeaderView& header();
+  /// Draws the cells in place of the usual one; the list takes it over.
+  void setDelegate(QAbstractItemDelegate* delegate);
+  /// Shows the texts of the rows anew.
+  void updateTexts();
 
   [[nodiscard]] bool isFiltered() const;
   [[nodiscard]] qsizetype shownCount() const;
@@ -41,6 +46,13 @@ public:
   void enter();
   /// Selects a row of the table and scrolls to it; false when the filter hides it.
   bool showRow(int row);
+  /// The current row as it stands in the list, from 0; -1 when there is none.
+  [[nodiscard]] int current() const;
+  /// Makes that row, or the last one when there are fewer, the current and the only selected one.
+  void setCurrent(int shownRow);
+  /// Goes on to the next or previous row, from the last to the first, and chooses it.
+  void chooseNext();
+  void choosePrevious();
 
   /// Width and order of the columns, and what they are sorted by.
   void saveState(App_Settings& settings) const;
@@ -53,6 +65,7 @@ signals:
 
 private:
   [[nodiscard]] int rowOf(const QModelIndex& index) const;
+  void choose(int shownRow);
   void updatePage();
   void onAboutToBeReset();
   void onReset();

@@ -87,6 +87,8 @@ QColor Theme::color(Role role) {
     return {0xff, 0xff, 0xff};
   case Role::SelectedFrame:
     return {202, 192, 0};
+  case Role::Match:
+    return {0x66, 0x5a, 0x00};
   case Role::Text:
     return {0xe6, 0xe6, 0xe6};
   case Role::SecondaryText:

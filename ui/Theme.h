@@ -45,6 +45,7 @@ enum class Role {
   Warning,
   Ok,
   Changed, ///< what differs from what is there
+  Match,   ///< ground of what was searched for
 };
 Q_ENUM_NS(Role)
 

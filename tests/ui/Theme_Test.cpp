@@ -65,7 +65,7 @@ private slots:
     constexpr double cShape = 3;
     check({Role::Text},
           {Role::Bar, Role::Window, Role::Input, Role::AlternateRow, Role::Button, Role::Hover, Role::Canvas,
-           Role::BlockBody},
+           Role::BlockBody, Role::Match},
           cReadable);
     check({Role::SecondaryText, Role::ErrorText, Role::Link, Role::Warning, Role::Ok},
           {Role::Bar, Role::Window, Role::Input, Role::AlternateRow}, cReadable);
