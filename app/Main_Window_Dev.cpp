@@ -2,6 +2,7 @@
 
 #include "app/About_Dlg.h"
 #include "app/Address_Exchange.h"
+#include "app/Autosave.h"
 #include "app/Command_Palette.h"
 #include "app/Edit_Target.h"
 #include "app/Geo_Position_Dlg.h"
@@ -84,6 +85,7 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
   connectParts();
   connectProjectLists();
   connectPalette();
+  makeAutosave();
   updateActions();
   updateProjectLists();
 }
@@ -137,6 +139,14 @@ void Main_Window_Dev::connectPalette() {
           [this](const QString& slot) { mActions->action(slot)->trigger(); });
   connect(mPalette, &Command_Palette::pageChosen, this, &Main_Window_Dev::showPage);
   connect(mPalette, &Command_Palette::addressChosen, this, &Main_Window_Dev::showAddress);
+}
+
+void Main_Window_Dev::makeAutosave() {
+  auto* const autosave = new Autosave(mSession, mState, *mLifecycle, this);
+  connect(autosave, &Autosave::info, this, &Main_Window_Dev::showInfo);
+  const auto follow = [this, autosave] { autosave->setEnabled(mSettings.isOn(Setting::AutosaveProject)); };
+  connect(&mSettings, &App_Settings::changed, autosave, follow);
+  follow();
 }
 
 Action_State Main_Window_Dev::actionState() const {

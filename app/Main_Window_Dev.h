@@ -75,6 +75,7 @@ private:
   void connectProjectLists();
   void connectPalette();
   void makeModeMark();
+  void makeAutosave();
   [[nodiscard]] Action_State actionState() const;
   void updateActions();
   void updateProjectLists();

@@ -49,6 +49,11 @@ bool isReadable(const QString& path) {
   return QFileInfo::exists(path) && probe.openProjectReadOnly(path);
 }
 
+bool isDamaged(const QString& path) {
+  ProjectDatabase probe;
+  return !ProjectDatabase::isOlderLayout(path) && (!probe.openProjectReadOnly(path) || probe.loadReport().isDamaged());
+}
+
 } // namespace
 
 /// Marks the lifecycle as busy while it lives, unless it is already.
@@ -106,6 +111,7 @@ bool Project_Lifecycle::create(const QString& path) {
     mDialogs.showMessage(tr("Fehler beim Speichern der Datei") + u'\n' + mSession.lastError());
     return false;
   }
+  mIsDamaged = false;
   afterLoading(true);
   emit info(tr("Angelegt: %1").arg(native(mSession.path())));
   return true;
@@ -142,8 +148,10 @@ bool Project_Lifecycle::openDemo() {
     return false;
   }
   const QString path = Demo_Project::defaultPath();
-  if (isReadable(path)) {
-    if (!isAlreadyOpenAccepted(path) || !load(path)) {
+  const bool isRecoverable = QFileInfo::exists(path) && Working_Copy::findLeftBehind(path);
+  if (isRecoverable || isReadable(path)) {
+    Opening opening = askHowToOpen(path);
+    if (!opening.mIsAccepted || !load(path, std::move(opening))) {
       return false;
     }
     afterLoading(false);
@@ -158,6 +166,7 @@ bool Project_Lifecycle::openDemo() {
     mDialogs.showMessage(tr("Das Demo-Projekt kann nicht angelegt werden.") + u'\n' + error);
     return false;
   }
+  mIsDamaged = false;
   afterLoading(false);
   return true;
 }
@@ -228,11 +237,6 @@ bool Project_Lifecycle::settleUnsaved() {
   return false;
 }
 
-bool Project_Lifecycle::isAlreadyOpenAccepted(const QString& path) {
-  return Working_Copy::stateOf(path) == Working_Copy::State::Free ||
-         mDialogs.askYesNo(tr("Datei bereits geöffnet, soll diese noch einmal geöffnet werden?"));
-}
-
 bool Project_Lifecycle::isReplacingAccepted(const QString& path) {
   return !QFileInfo::exists(path) ||
          mDialogs.askYesNo(tr("Die Datei \"%1\" ist schon vorhanden. Ersetzen?").arg(native(path)));
@@ -241,7 +245,7 @@ bool Project_Lifecycle::isReplacingAccepted(const QString& path) {
 bool Project_Lifecycle::askBeforeOpening(const QString& path, const QString& target) {
   const QString older = tr("Projekt wurde mit einer älteren Version erstellt, auf neue Version aktualisieren?");
   return (!ProjectDatabase::isOlderLayout(path) || mDialogs.askYesNo(older)) &&
-         (target == path || isReplacingAccepted(target)) && isAlreadyOpenAccepted(target);
+         (target == path || (isReplacingAccepted(target) && isAlreadyOpenAccepted(target)));
 }
 
 bool Project_Lifecycle::openFile(const QString& path) {
@@ -249,14 +253,17 @@ bool Project_Lifecycle::openFile(const QString& path) {
   if (!askBeforeOpening(path, target)) {
     return false;
   }
-  if (target != path) {
+  Opening opening{true, Working_Copy::Others::Remove, {}};
+  if (target == path) {
+    opening = askHowToOpen(path);
+  } else {
     QString error;
     if (!File_Copy::replace(path, target, error)) {
       mDialogs.showMessage(tr("Fehler beim Öffnen der Datei: ") + error);
       return false;
     }
   }
-  if (!load(target)) {
+  if (!opening.mIsAccepted || !load(target, std::move(opening))) {
     return false;
   }
   afterLoading(true);
@@ -265,7 +272,7 @@ bool Project_Lifecycle::openFile(const QString& path) {
 }
 
 /// Leaves the progress shown when it succeeds.
-bool Project_Lifecycle::load(const QString& target) {
+bool Project_Lifecycle::load(const QString& target, Opening opening) {
   const bool wasModified = mSession.isModified();
   mDialogs.showProgress(tr("Öffne Projekt..."), cFirstPercent);
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, cEventLoopMs);
@@ -274,9 +281,8 @@ bool Project_Lifecycle::load(const QString& target) {
     mDialogs.hideProgress();
     return false;
   }
-  if (!mSession.open(target)) {
-    mDialogs.hideProgress();
-    mDialogs.showMessage(tr("Fehler beim Öffnen der Datei: ") + mSession.lastError());
+  const bool isRecovered = !opening.mRecovered.path().isEmpty();
+  if (!openRecords(target, opening)) {
     mSession.close();
     return false;
   }
@@ -287,11 +293,13 @@ bool Project_Lifecycle::load(const QString& target) {
     mSession.close();
     return false;
   }
+  mSession.acceptRecovered();
+  // What is damaged of the project file is lost by saving, also where the working file is sound.
+  mIsDamaged = mSession.database().loadReport().isDamaged() || (isRecovered && isDamaged(target));
   return true;
 }
 
 void Project_Lifecycle::afterLoading(bool isRemembered) {
-  mIsDamaged = mSession.database().loadReport().isDamaged();
   // Before the editors, so that the saved file does not depend on which of them are looked at.
   FB_Normaliser::normalise(mSession.database().mFbPages);
   for (const int percent : cEditorPercents) {
@@ -306,7 +314,7 @@ void Project_Lifecycle::afterLoading(bool isRemembered) {
 }
 
 void Project_Lifecycle::tellDamage() {
-  if (!mIsDamaged) {
+  if (!mSession.database().loadReport().isDamaged()) {
     return;
   }
   QStringList lines = mSession.database().loadReport().lines();

@@ -48,10 +48,19 @@ private:
 
   bool settleUnsaved();
   bool openFile(const QString& path);
+
+  /// What the user wants of what a crash left, and the working file that goes with it.
+  struct Opening {
+    bool mIsAccepted = false;
+    Working_Copy::Others mOthers = Working_Copy::Others::Keep;
+    Working_Copy mRecovered; ///< adopted; without path when the project file is to be opened
+  };
+  [[nodiscard]] Opening askHowToOpen(const QString& path);
+  bool openRecords(const QString& target, Opening& opening);
   [[nodiscard]] bool askBeforeOpening(const QString& path, const QString& target);
   [[nodiscard]] bool isAlreadyOpenAccepted(const QString& path);
   [[nodiscard]] bool isReplacingAccepted(const QString& path);
-  bool load(const QString& target);
+  bool load(const QString& target, Opening opening);
   void afterLoading(bool isRemembered);
   void tellDamage();
   void reportMissing(const QString& path);

@@ -2,6 +2,7 @@
 
 #include "ui/File_Dialog.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QProgressBar>
@@ -29,6 +30,14 @@ bool Window_Dialogs::askYesNo(const QString& text) {
 
 Message_Box::Answer Window_Dialogs::askYesNoCancel(const QString& text, Message_Box::Answer defaultAnswer) {
   return Message_Box::askYesNoCancel(&mWindow, text, defaultAnswer);
+}
+
+Lifecycle_Dialogs::Recovery Window_Dialogs::askRecovery(const QString& text) {
+  constexpr Recovery cAnswers[] = {Recovery::Restore, Recovery::Discard, Recovery::Cancel};
+  const QStringList buttons = {QCoreApplication::translate("Window_Dialogs", "&Wiederherstellen"),
+                               QCoreApplication::translate("Window_Dialogs", "&Verwerfen"),
+                               QCoreApplication::translate("Window_Dialogs", "&Abbrechen")};
+  return cAnswers[Message_Box::choose(&mWindow, text, buttons)];
 }
 
 void Window_Dialogs::showMessage(const QString& text) {

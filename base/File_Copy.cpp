@@ -6,6 +6,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <filesystem>
+#include <system_error>
+
 namespace {
 constexpr qint64 cChunk = 1 << 20;
 } // namespace
@@ -37,5 +40,26 @@ bool File_Copy::replace(const QString& from, const QString& to, QString& error) 
     return fail(target);
   }
   Platform::flushFolder(QFileInfo(to).absolutePath());
+  return true;
+}
+
+bool File_Copy::renameOver(const QString& from, const QString& to) {
+  std::error_code error;
+  std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(), error);
+  return !error;
+}
+
+bool File_Copy::isSame(const QString& one, const QString& other) {
+  QFile first(one);
+  QFile second(other);
+  if (!first.open(QIODevice::ReadOnly) || !second.open(QIODevice::ReadOnly) || first.size() != second.size()) {
+    return false;
+  }
+  while (!first.atEnd()) {
+    const QByteArray chunk = first.read(cChunk);
+    if (chunk.isEmpty() || chunk != second.read(chunk.size())) {
+      return false;
+    }
+  }
   return true;
 }

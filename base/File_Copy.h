@@ -9,4 +9,11 @@ namespace File_Copy {
 /// flushed where the system allows. On failure `to` is as it was and `error` holds the system's text.
 [[nodiscard]] bool replace(const QString& from, const QString& to, QString& error);
 
+/// Gives a file another name in its folder, in the place of a file of that name: at every moment the one or the other
+/// stands there.
+[[nodiscard]] bool renameOver(const QString& from, const QString& to);
+
+/// True when both can be read and hold the same bytes.
+[[nodiscard]] bool isSame(const QString& one, const QString& other);
+
 } // namespace File_Copy

@@ -10,27 +10,54 @@ namespace {
 /// How many bytes the values of one record may yield beyond the size of its text.
 constexpr qsizetype cRepeatedValuesLimit = qsizetype(16) * 1024 * 1024;
 
-/// Texts from outside may carry the marker bytes, which would end an item early: they are left out.
-void appendText(QByteArray& data, const QString& text) {
-  const QByteArray bytes = text.toUtf8();
-  if (!bytes.contains(DB_Data_Reader::cKeyEnd) && !bytes.contains(DB_Data_Reader::cValueEnd)) {
-    data.append(bytes);
-    return;
-  }
-  for (const char c : bytes) {
-    if (c != DB_Data_Reader::cKeyEnd && c != DB_Data_Reader::cValueEnd) {
-      data.append(c);
-    }
-  }
+/// Makes room for so many characters and answers where they go.
+template <class Buffer>
+char* grow(Buffer& buffer, qsizetype size) {
+  const qsizetype at = buffer.size();
+  buffer.resize(at + size);
+  return buffer.data() + at;
 }
 
-template <class Number>
-void appendNumber(QByteArray& data, Number number) {
-  std::array<char, 32> buffer{};
-  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
-  data.append(buffer.data(), result.ptr - buffer.data());
+template <class Buffer, class Number>
+void appendNumber(Buffer& buffer, Number number) {
+  std::array<char, 32> digits{};
+  const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+  buffer.append(digits.data(), result.ptr - digits.data());
 }
 
+constexpr std::array<std::array<char, 2>, 256> makeHexPairs() {
+  std::array<std::array<char, 2>, 256> pairs{};
+  for (size_t i = 0; i < pairs.size(); ++i) {
+    pairs[i] = {"0123456789abcdef"[i >> 4], "0123456789abcdef"[i & 15]};
+  }
+  return pairs;
+}
+constexpr std::array<std::array<char, 2>, 256> cHexPairs = makeHexPairs();
+
+/// As many as there are read, and written without Qt's general way for the same reason.
+char* writeHex(char* out, quint64 number, int bytes) {
+  for (int shift = 8 * (bytes - 1); shift >= 0; shift -= 8) {
+    const std::array<char, 2> pair = cHexPairs[number >> shift & 0xff];
+    *out++ = pair[0];
+    *out++ = pair[1];
+  }
+  return out;
+}
+
+void writeUuid(char* out, const QUuid& uuid) {
+  const auto last = qFromBigEndian<quint64>(uuid.data4);
+  out = writeHex(out, uuid.data1, 4);
+  *out++ = '-';
+  out = writeHex(out, uuid.data2, 2);
+  *out++ = '-';
+  out = writeHex(out, uuid.data3, 2);
+  *out++ = '-';
+  out = writeHex(out, last >> 48, 2);
+  *out++ = '-';
+  writeHex(out, last & 0xffff'ffff'ffff, 6);
+}
+
+constexpr qsizetype cUuidSize = 36;
 constexpr quint8 cNoDigit = 0xff;
 
 constexpr std::array<quint8, 256> makeHexValues() {
@@ -56,7 +83,7 @@ void readUuid(QByteArrayView text, QUuid& uuid) {
     }
     return number;
   };
-  if (text.size() == 36 && text[8] == '-' && text[13] == '-' && text[18] == '-' && text[23] == '-') {
+  if (text.size() == cUuidSize && text[8] == '-' && text[13] == '-' && text[18] == '-' && text[23] == '-') {
     uuid.data1 = static_cast<uint>(hex(0, 8));
     uuid.data2 = static_cast<ushort>(hex(9, 4));
     uuid.data3 = static_cast<ushort>(hex(14, 4));
@@ -147,10 +174,29 @@ void DB_Fields::collect(Key key) {
 }
 
 void DB_Fields::beginItem(Key key) {
-  mWriter->append(mPrefix.constData(), mPrefix.size());
-  mWriter->append(key.data(), static_cast<qsizetype>(key.size()));
-  mWriter->append(mSuffix.constData(), mSuffix.size());
-  mWriter->append(DB_Data_Reader::cKeyEnd);
+  char* out = grow(*mWriter, mPrefix.size() + static_cast<qsizetype>(key.size()) + mSuffix.size() + 1);
+  out = std::copy(mPrefix.cbegin(), mPrefix.cend(), out);
+  out = std::copy(key.begin(), key.end(), out);
+  out = std::copy(mSuffix.cbegin(), mSuffix.cend(), out);
+  *out = DB_Data_Reader::cKeyEnd;
+}
+
+/// Texts from outside may carry the marker bytes, which would end an item early: they are left out.
+void DB_Fields::appendText(const QString& text) {
+  const auto isMarker = [](auto c) { return c == DB_Data_Reader::cKeyEnd || c == DB_Data_Reader::cValueEnd; };
+  const qsizetype size = mWriter->size();
+  char* out = grow(*mWriter, text.size());
+  for (const QChar character : text) {
+    const char16_t unicode = character.unicode();
+    if (unicode >= 0x80 || isMarker(unicode)) {
+      mWriter->resize(size);
+      QByteArray bytes = text.toUtf8();
+      bytes.removeIf(isMarker);
+      mWriter->append(bytes.constData(), bytes.size());
+      return;
+    }
+    *out++ = static_cast<char>(unicode);
+  }
 }
 
 void DB_Fields::text(Key key, QString& value, const QString& defaultValue) {
@@ -165,7 +211,7 @@ void DB_Fields::text(Key key, QString& value, const QString& defaultValue) {
     }
   } else if (mWriter) {
     beginItem(key);
-    appendText(*mWriter, value);
+    appendText(value);
     endItem();
   } else {
     collect(key);
@@ -254,7 +300,7 @@ void DB_Fields::uuid(Key key, QUuid& value) {
   } else if (mWriter) {
     beginItem(key);
     if (!value.isNull()) {
-      mWriter->append(value.toByteArray(QUuid::WithoutBraces));
+      writeUuid(grow(*mWriter, cUuidSize), value);
     }
     endItem();
   } else {

@@ -82,18 +82,18 @@ public:
 
   template <class Record>
   [[nodiscard]] static QByteArray write(Record& record, const QByteArray& unknownItems) {
-    QByteArray data;
-    data.reserve(cUsualDataSize);
-    DB_Fields fields(nullptr, &data, nullptr);
+    Buffer buffer;
+    DB_Fields fields(nullptr, &buffer, nullptr);
     record.fields(fields);
-    data.append(unknownItems);
-    return data;
+    buffer.append(unknownItems.constData(), unknownItems.size());
+    return {buffer.constData(), buffer.size()};
   }
 
 private:
-  static constexpr qsizetype cUsualDataSize = 512;
+  /// Few records are larger.
+  using Buffer = QVarLengthArray<char, 4096>;
 
-  DB_Fields(DB_Data_Reader* reader, QByteArray* writer, Keys* keys) : mReader(reader), mWriter(writer), mKeys(keys) {}
+  DB_Fields(DB_Data_Reader* reader, Buffer* writer, Keys* keys) : mReader(reader), mWriter(writer), mKeys(keys) {}
 
   [[nodiscard]] static QByteArray undeclared(const DB_Data_Reader& reader, const Keys& keys);
 
@@ -107,6 +107,7 @@ private:
   [[nodiscard]] std::optional<QByteArrayView> find(Key key);
   void collect(Key key);
   void beginItem(Key key);
+  void appendText(const QString& text);
   void endItem() { mWriter->append(DB_Data_Reader::cValueEnd); }
   void writeNumber(Key key, qint64 value);
   [[nodiscard]] qint64 readNumber(Key key, qint64 defaultValue, qint64 lowest, qint64 highest);
@@ -148,7 +149,7 @@ private:
   enum class Probe { None, Pending, Missing };
 
   DB_Data_Reader* mReader;
-  QByteArray* mWriter;
+  Buffer* mWriter;
   Keys* mKeys;
   DB_Text_Pool* mTexts = nullptr;
   QVarLengthArray<char, 64> mPrefix;

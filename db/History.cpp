@@ -105,8 +105,9 @@ void History::commit() {
       mSavedPosition = cSavedGone;
     }
     mSteps.erase(mSteps.begin() + static_cast<qsizetype>(mPosition), mSteps.end());
-    mSteps.push_back({mPendingText, std::move(entries)});
+    mSteps.push_back({mPendingText, std::move(entries), ++mLastId});
     if (mSteps.size() > cLimit) {
+      mFirstState = mSteps.front().mId;
       mSteps.pop_front();
       mSavedPosition = std::max<qsizetype>(mSavedPosition - 1, cSavedGone);
     }
@@ -197,7 +198,12 @@ void History::setSaved() {
 
 void History::setChangedOutside() {
   mChangedOutside = true;
+  ++mOutsideChanges;
   emit changed();
+}
+
+History::State History::state() const {
+  return {mPosition > 0 ? mSteps[mPosition - 1].mId : mFirstState, mOutsideChanges};
 }
 
 bool History::isModified() const {
@@ -209,6 +215,7 @@ void History::clear() {
   mPending.clear();
   mPendingKnown.clear();
   mSteps.clear();
+  mFirstState = ++mLastId;
   mPosition = 0;
   mSavedPosition = 0;
   mChangedOutside = false;

@@ -45,6 +45,16 @@ public:
   void setChangedOutside();
   [[nodiscard]] bool isModified() const;
 
+  /// The records as they are between two steps. Undoing and redoing lead back to a state that was there before.
+  struct State {
+    quint64 mStep = 0;
+    quint64 mOutside = 0;
+    friend bool operator==(const State&, const State&) = default;
+  };
+  [[nodiscard]] State state() const;
+  /// Between the first change of a step and its end: the records are on their way from one state to the next.
+  [[nodiscard]] bool isStepOpen() const { return mScopeDepth > 0 || !mPending.empty(); }
+
   /// Forgets every step; the present state counts as saved.
   void clear();
 
@@ -72,6 +82,7 @@ private:
   struct Step {
     QString mText;
     Entries mEntries;
+    quint64 mId = 0;
   };
 
   static constexpr qsizetype cSavedGone = -1;
@@ -91,6 +102,9 @@ private:
   size_t mPosition = 0;
   qsizetype mSavedPosition = 0;
   bool mChangedOutside = false;
+  quint64 mLastId = 0; ///< of steps, never given twice
+  quint64 mFirstState = 0;
+  quint64 mOutsideChanges = 0;
   Entries mPending;
   QSet<std::pair<Undo_Adapter*, QUuid>> mPendingKnown; ///< records of the open step whose copy is taken
   QString mPendingText;

@@ -10,6 +10,27 @@
 
 using DB_Tables::quoted;
 
+namespace {
+
+/// Null for records without a parent.
+QUuid parentOf(const DB_Data_Base& /*record*/) {
+  return {};
+}
+QUuid parentOf(const DB_Address_Middle_Group& record) {
+  return record.mMainKey;
+}
+QUuid parentOf(const DB_Address_Sub_Group& record) {
+  return record.mMiddleKey;
+}
+QUuid parentOf(const DB_FB_Control& record) {
+  return record.mPageGuid;
+}
+QUuid parentOf(const DB_Widget& record) {
+  return record.mPageGuid;
+}
+
+} // namespace
+
 std::array<ProjectDatabase::Single, 8> ProjectDatabase::singles() {
   return {{{DB_Table::Project, &mProject},
            {DB_Table::Connections, &mConnections},
@@ -42,6 +63,7 @@ void ProjectDatabase::close() {
   for (std::vector<QByteArray>& orphans : mOrphans) {
     orphans.clear();
   }
+  mKnownRows = {};
   mNeedsRebuild = false;
   mFileName.clear();
   mDatabase.close();
@@ -212,26 +234,37 @@ QByteArray ProjectDatabase::rowData(DB_Table table, QByteArrayView scrambled) {
   return data;
 }
 
-bool ProjectDatabase::readRows(DB_Table table, const std::function<bool(const QByteArray& data)>& onRow) {
+bool ProjectDatabase::readRows(DB_Table table, const Take_Row& take, int limit) {
   if (mReport.isMissing(table)) {
     return false; // in its place a foreign view may stand, which may have no end
   }
-  DB_Statement statement = mDatabase.prepare("SELECT * FROM " + quoted(table));
+  DB_Statement statement = mDatabase.prepare("SELECT *,rowid FROM " + quoted(table));
+  const bool isNumbered = statement.isValid();
+  if (!isNumbered) {
+    statement = mDatabase.prepare("SELECT * FROM " + quoted(table));
+  }
   if (!statement.isValid()) {
     mReport.setUnreadable(table, mDatabase.errorText());
     return fail(mDatabase.errorText());
   }
-  if (statement.columnCount() != 1 || statement.columnName(0) != "DATA") {
+  if (statement.columnCount() != (isNumbered ? 2 : 1) || statement.columnName(0) != "DATA") {
     mReport.setWrongLayout(table);
   }
-  for (;;) {
+  DB_Table_Writer::Content content;
+  for (int row = 0;; ++row) {
     switch (statement.step()) {
-    case DB_Statement::Step::Row:
-      if (!onRow(rowData(table, statement.text(0)))) {
-        return true;
+    case DB_Statement::Step::Row: {
+      if (limit > 0 && row == limit) {
+        return true; // what follows is not known
       }
+      const QByteArray data = rowData(table, statement.text(0));
+      content.add(take(data), statement.number(statement.columnCount() - 1), data);
       break;
+    }
     case DB_Statement::Step::Done:
+      if (isNumbered) {
+        mKnownRows[static_cast<size_t>(table)] = std::move(content);
+      }
       return true;
     case DB_Statement::Step::Error:
       std::printf("sqlite3_step: %s\n", qPrintable(mDatabase.errorText()));
@@ -243,11 +276,12 @@ bool ProjectDatabase::readRows(DB_Table table, const std::function<bool(const QB
 
 bool ProjectDatabase::readSingle(DB_Table table, DB_Data_Base& record) {
   bool isFound = false;
-  readRows(table, [&](const QByteArray& data) {
+  const auto take = [&](const QByteArray& data) {
     record.setData(data);
     isFound = true;
-    return false; // only the first row is ever read
-  });
+    return QUuid();
+  };
+  readRows(table, take, 1); // only the first row is ever read
   return isFound;
 }
 
@@ -256,17 +290,19 @@ void ProjectDatabase::readList(DB_Table table, const std::function<bool(std::uni
   DB_Text_Pool texts;
   readRows(table, [&](const QByteArray& data) {
     if (data.isEmpty()) {
-      return true;
+      return QUuid();
     }
     auto record = std::make_unique<Record>();
     record->setData(data, texts);
-    if (!place(std::move(record))) {
-      mReport.addOrphan(table);
-      Record orphan;
-      orphan.setData(data);
-      mOrphans[static_cast<size_t>(table)].push_back(orphan.toData());
+    const QUuid parent = parentOf(*record);
+    if (place(std::move(record))) {
+      return parent;
     }
-    return true;
+    mReport.addOrphan(table);
+    Record orphan;
+    orphan.setData(data);
+    mOrphans[static_cast<size_t>(table)].push_back(orphan.toData());
+    return QUuid();
   });
 }
 

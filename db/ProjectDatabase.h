@@ -13,6 +13,7 @@
 #include "db/DB_Sqlite.h"
 #include "db/DB_Statistic.h"
 #include "db/DB_Style.h"
+#include "db/DB_Table_Writer.h"
 #include "db/DB_Tables.h"
 #include "db/DB_TgmMon.h"
 #include "db/DB_Widget_Page.h"
@@ -23,6 +24,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <vector>
 
 /// The project store: the open SQLite database of a project, every record of the project in memory, and the operations
@@ -50,6 +52,11 @@ public:
 
   /// Writes every record in one transaction; with `stampTime` the current time goes into the project record.
   bool recordWriteAll(bool stampTime);
+  /// The same without the time, and only the rows that the file does not hold yet are touched. The file holds either
+  /// everything then or, on failure, what it held before.
+  bool recordWriteChanged();
+  /// True while a write is under way.
+  [[nodiscard]] bool isInTransaction() const { return mDatabase.isInTransaction(); }
 
   /// Gives the room of what was deleted back. A file that turns out to be damaged is made anew from the records.
   bool compact();
@@ -129,11 +136,15 @@ private:
   void noteForeignObjects();
   void configure();
   static void createTables(DB_Sqlite& database);
+  [[nodiscard]] bool needsRebuild() const;
   bool rebuild();
+  bool makeSound() { return !needsRebuild() || rebuild(); }
   bool copyResources(DB_Sqlite& to);
   [[nodiscard]] QByteArray rowData(DB_Table table, QByteArrayView scrambled);
-  /// Hands every row over until `onRow` answers false; the data of an unreadable row is empty.
-  bool readRows(DB_Table table, const std::function<bool(const QByteArray& data)>& onRow);
+  /// Takes a row over, the data of an unreadable one is empty; answers the key of its parent, null without one.
+  using Take_Row = std::function<QUuid(const QByteArray& data)>;
+  /// At most so many rows, if `limit` is not 0.
+  bool readRows(DB_Table table, const Take_Row& take, int limit = 0);
   bool readSingle(DB_Table table, DB_Data_Base& record);
   template <class Record>
   void readList(DB_Table table, const std::function<bool(std::unique_ptr<Record>)>& place);
@@ -141,15 +152,16 @@ private:
   void readAddresses();
   [[nodiscard]] qint64 highestRow(DB_Table table);
 
-  bool writeSingle(DB_Table table, const DB_Data_Base& record);
-  bool writeAddresses();
+  enum class Extent { All, Changed };
+  bool write(Extent extent);
+  bool writeRecords(DB_Sqlite& to, Extent extent);
+  bool writeSingle(DB_Sqlite& to, DB_Table table, const DB_Data_Base& record);
+  bool writeAddresses(DB_Sqlite& to);
   template <class Page>
-  bool writePages(DB_Table pageTable, DB_Table childTable, const DB_Page_List<Page>& list);
-  bool writeOrphans(DB_Table table, DB_Statement& insert);
-  bool beginTable(DB_Table table);
+  bool writePages(DB_Sqlite& to, DB_Table pageTable, DB_Table childTable, const DB_Page_List<Page>& list);
+  bool writeOrphans(DB_Table table, DB_Table_Writer& writer);
+  bool finish(DB_Table_Writer& writer, DB_Table table, bool isOk);
   bool emptyTable(DB_Table table);
-  [[nodiscard]] DB_Statement prepareInsert(DB_Table table);
-  bool writeRow(DB_Statement& insert, const QByteArray& data);
   bool fail(const QString& text);
   bool requireOpen();
   bool checkResourceName(const QString& name);
@@ -159,5 +171,9 @@ private:
   DB_Load_Report mReport;
   /// DATA texts of children whose parent is missing, by table: kept and written again.
   std::array<std::vector<QByteArray>, DB_Tables::cCount> mOrphans;
+  /// What stands in the tables of the open file; none where that is not known.
+  using Known_Rows = std::array<std::optional<DB_Table_Writer::Content>, DB_Tables::cCount>;
+  Known_Rows mKnownRows;
+  Known_Rows mRowsBefore;     ///< while a write is under way: before it
   bool mNeedsRebuild = false; ///< the file is damaged and must not be written to
 };

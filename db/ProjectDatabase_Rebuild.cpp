@@ -1,3 +1,4 @@
+#include "base/File_Copy.h"
 #include "db/ProjectDatabase.h"
 #include "db/Working_Copy.h"
 
@@ -46,12 +47,14 @@ bool ProjectDatabase::copyResources(DB_Sqlite& to) {
                  "Projekt ohne sie."));
 }
 
-/// The engine refuses to write to a damaged file, and a deleted one is no file any more: goes on with a fresh one,
-/// which takes the readable resources over. The records are in memory and are written by the caller.
+/// The engine refuses to write to a damaged file, and a deleted one is no file any more.
+bool ProjectDatabase::needsRebuild() const {
+  return mNeedsRebuild || !QFileInfo::exists(mFileName);
+}
+
+/// Goes on with a fresh file. That holds the readable resources and all records before it takes the old one's place, so
+/// that a studio killed meanwhile leaves one of the two.
 bool ProjectDatabase::rebuild() {
-  if (!mNeedsRebuild && QFileInfo::exists(mFileName)) {
-    return true;
-  }
   QDir().mkpath(QFileInfo(mFileName).absolutePath());
   const QString fresh = mFileName + QStringLiteral(".neu");
   Working_Copy::removeFile(fresh);
@@ -63,15 +66,18 @@ bool ProjectDatabase::rebuild() {
   if (!isOpen) {
     mLastError = database.errorText();
   }
-  if (!isOpen || !copyResources(database)) {
-    database.close();
+  const bool isWhole = isOpen && copyResources(database) && writeRecords(database, Extent::All);
+  database.close();
+  if (!isWhole) {
     Working_Copy::removeFile(fresh);
     return false;
   }
-  database.close();
   mDatabase.close();
-  Working_Copy::removeFile(mFileName);
-  if (!QFile::rename(fresh, mFileName)) {
+  Working_Copy::removeJournals(mFileName);
+  if (!File_Copy::renameOver(fresh, mFileName)) {
+    Working_Copy::removeFile(fresh);
+    attach(mFileName);
+    mKnownRows = {};
     return fail(tr("Die Arbeitsdatei \"%1\" kann nicht erneuert werden.").arg(mFileName));
   }
   mNeedsRebuild = false;

@@ -1,122 +1,99 @@
-#include "db/DB_Scramble.h"
 #include "db/ProjectDatabase.h"
 
 #include <QDateTime>
 
+#include <utility>
+
 using DB_Tables::quoted;
 
-DB_Statement ProjectDatabase::prepareInsert(DB_Table table) {
-  DB_Statement insert = mDatabase.prepare("INSERT INTO " + quoted(table) + "(DATA) VALUES(?)");
-  if (!insert.isValid()) {
-    mLastError = mDatabase.errorText();
-  }
-  return insert;
-}
+namespace {
 
-bool ProjectDatabase::writeRow(DB_Statement& insert, const QByteArray& data) {
-  // On a full disk the engine itself takes the transaction back; rows written after that would stand beside the old
-  // ones.
-  if (!insert.isValid() || !mDatabase.isInTransaction()) {
-    return false;
-  }
-  const QByteArray scrambled = DB_Scramble::scramble(data);
-  const bool isDone = insert.bindText(1, scrambled) && insert.step() == DB_Statement::Step::Done;
-  if (!isDone) {
-    mLastError = mDatabase.errorText();
-  }
-  insert.reset();
-  return isDone;
-}
+const QByteArray cUsualCache = QByteArrayLiteral("-2000"); // KB
+const QByteArray cWritingCache = QByteArrayLiteral("-100000");
 
-bool ProjectDatabase::beginTable(DB_Table table) {
-  return mDatabase.isInTransaction() && emptyTable(table);
-}
+} // namespace
 
 bool ProjectDatabase::emptyTable(DB_Table table) {
   return mDatabase.execute("DELETE FROM " + quoted(table)) || fail(mDatabase.errorText());
 }
 
-bool ProjectDatabase::writeSingle(DB_Table table, const DB_Data_Base& record) {
-  if (!requireOpen()) {
-    return false;
+bool ProjectDatabase::finish(DB_Table_Writer& writer, DB_Table table, bool isOk) {
+  if (!writer.finish() || !isOk) {
+    return fail(writer.errorText());
   }
-  if (!mDatabase.isInTransaction()) {
-    return false;
-  }
-  mDatabase.execute("DELETE FROM " + quoted(table));
-  mLastError.clear();
-  DB_Statement insert = prepareInsert(table);
-  return writeRow(insert, record.toData());
+  mKnownRows[static_cast<size_t>(table)] = std::move(writer.content());
+  return true;
 }
 
-bool ProjectDatabase::writeOrphans(DB_Table table, DB_Statement& insert) {
+bool ProjectDatabase::writeSingle(DB_Sqlite& to, DB_Table table, const DB_Data_Base& record) {
+  DB_Table_Writer writer(to, table, mRowsBefore[static_cast<size_t>(table)]);
+  return finish(writer, table, writer.write({}, record.toData()));
+}
+
+bool ProjectDatabase::writeOrphans(DB_Table table, DB_Table_Writer& writer) {
   bool isOk = true;
   for (const QByteArray& data : mOrphans[static_cast<size_t>(table)]) {
-    isOk = writeRow(insert, data) && isOk;
+    isOk = writer.write({}, data) && isOk;
   }
   return isOk;
 }
 
-bool ProjectDatabase::writeAddresses() {
+bool ProjectDatabase::writeAddresses(DB_Sqlite& to) {
+  const auto before = [this](DB_Table table) { return mRowsBefore[static_cast<size_t>(table)]; };
+  DB_Table_Writer mains(to, DB_Table::Main_Groups, before(DB_Table::Main_Groups));
+  DB_Table_Writer middles(to, DB_Table::Middle_Groups, before(DB_Table::Middle_Groups));
+  DB_Table_Writer subs(to, DB_Table::Sub_Groups, before(DB_Table::Sub_Groups));
   bool isOk = true;
-  for (const DB_Table table : {DB_Table::Main_Groups, DB_Table::Middle_Groups, DB_Table::Sub_Groups}) {
-    isOk = beginTable(table) && isOk;
-  }
-  DB_Statement insertMain = prepareInsert(DB_Table::Main_Groups);
-  DB_Statement insertMiddle = prepareInsert(DB_Table::Middle_Groups);
-  DB_Statement insertSub = prepareInsert(DB_Table::Sub_Groups);
   for (const auto& main : mAddresses.mainGroups()) {
-    isOk = writeRow(insertMain, main->toData()) && isOk;
+    isOk = mains.write({}, main->toData()) && isOk;
     for (const auto& middle : main->mMiddleGroups) {
-      isOk = writeRow(insertMiddle, middle->toData()) && isOk;
+      isOk = middles.write(main->mKey, middle->toData()) && isOk;
       for (const auto& sub : middle->mSubGroups) {
-        isOk = writeRow(insertSub, sub->toData()) && isOk;
+        isOk = subs.write(middle->mKey, sub->toData()) && isOk;
       }
     }
   }
-  isOk = writeOrphans(DB_Table::Middle_Groups, insertMiddle) && isOk;
-  isOk = writeOrphans(DB_Table::Sub_Groups, insertSub) && isOk;
+  isOk = writeOrphans(DB_Table::Middle_Groups, middles) && isOk;
+  isOk = writeOrphans(DB_Table::Sub_Groups, subs) && isOk;
+  isOk = finish(mains, DB_Table::Main_Groups, isOk) && isOk;
+  isOk = finish(middles, DB_Table::Middle_Groups, isOk) && isOk;
+  isOk = finish(subs, DB_Table::Sub_Groups, isOk) && isOk;
   return isOk || fail(QStringLiteral("Error: recordWriteAddress"));
 }
 
 template <class Page>
-bool ProjectDatabase::writePages(DB_Table pageTable, DB_Table childTable, const DB_Page_List<Page>& list) {
-  bool isOk = beginTable(childTable);
-  isOk = beginTable(pageTable) && isOk;
-  DB_Statement insertPage = prepareInsert(pageTable);
-  DB_Statement insertChild = prepareInsert(childTable);
+bool ProjectDatabase::writePages(DB_Sqlite& to, DB_Table pageTable, DB_Table childTable,
+                                 const DB_Page_List<Page>& list) {
+  DB_Table_Writer children(to, childTable, mRowsBefore[static_cast<size_t>(childTable)]);
+  DB_Table_Writer pages(to, pageTable, mRowsBefore[static_cast<size_t>(pageTable)]);
+  bool isOk = true;
   for (const auto& page : list.pages()) {
-    if (!writeRow(insertPage, page->toData())) {
-      return false;
+    if (!pages.write({}, page->toData())) {
+      return fail(isOk ? pages.errorText() : children.errorText());
     }
     for (const auto& child : page->mChildren) {
-      if (!writeRow(insertChild, child->toData())) {
+      if (!children.write(page->mGuid, child->toData())) {
         isOk = false;
         break;
       }
     }
   }
-  return writeOrphans(childTable, insertChild) && isOk;
+  isOk = writeOrphans(childTable, children) && isOk;
+  isOk = finish(children, childTable, isOk);
+  return isOk && finish(pages, pageTable, true);
 }
 
-bool ProjectDatabase::recordWriteAll(bool stampTime) {
-  if (mFileName.isEmpty()) {
-    return fail(QStringLiteral("Empty Filename"));
+/// With `Extent::All` rows after one that failed are written all the same: a save that failed leaves as much in the
+/// working file as it can hold.
+bool ProjectDatabase::writeRecords(DB_Sqlite& to, Extent extent) {
+  mRowsBefore = std::exchange(mKnownRows, {});
+  if (extent == Extent::All) {
+    mRowsBefore = {};
   }
-  if (!requireOpen()) {
-    return false;
-  }
-  mLastError.clear();
-  if (!rebuild()) {
-    return false;
-  }
-  createTables(mDatabase);
-  const qint64 previousTimestamp = mProject.mTimestamp;
-  if (stampTime) {
-    mProject.mTimestamp = QDateTime::currentSecsSinceEpoch();
-  }
-  mDatabase.execute("BEGIN TRANSACTION");
-  bool isOk = writeAddresses();
+  // A table that does not fit is written to the disk twice, and waited for. The room is given back at the end.
+  to.execute("PRAGMA cache_size=" + cWritingCache);
+  to.execute("BEGIN TRANSACTION");
+  bool isOk = writeAddresses(to);
   QString error = mLastError;
   const auto note = [&](bool isStepOk) {
     if (!isStepOk && isOk) {
@@ -125,24 +102,64 @@ bool ProjectDatabase::recordWriteAll(bool stampTime) {
     isOk = isStepOk && isOk;
   };
   for (const Single& single : singles()) {
-    note(writeSingle(single.mTable, *single.mRecord));
+    note(writeSingle(to, single.mTable, *single.mRecord));
   }
-  note(writePages(DB_Table::Visu_Pages, DB_Table::Visu_Elements, mWidgetPages));
-  note(writePages(DB_Table::Logic_Pages, DB_Table::Logic_Blocks, mFbPages));
-  if (!mDatabase.execute("END TRANSACTION")) {
+  note(writePages(to, DB_Table::Visu_Pages, DB_Table::Visu_Elements, mWidgetPages));
+  note(writePages(to, DB_Table::Logic_Pages, DB_Table::Logic_Blocks, mFbPages));
+  const bool isKept = isOk || extent == Extent::All;
+  if (isKept && !to.execute("END TRANSACTION")) {
     // Nothing was committed (a full disk shows here): that is a failed save, and the next one must find no transaction.
-    mLastError = mDatabase.errorText();
+    mLastError = to.errorText();
     note(false);
-    if (mDatabase.isInTransaction()) {
-      mDatabase.execute("ROLLBACK TRANSACTION");
-    }
   }
+  if (to.isInTransaction()) {
+    to.execute("ROLLBACK TRANSACTION");
+  }
+  to.execute("PRAGMA cache_size=" + cUsualCache);
+  mRowsBefore = {};
   if (!isOk) {
-    mProject.mTimestamp = previousTimestamp;
+    mKnownRows = {};
     return fail(error);
   }
   mLastError.clear();
   return true;
+}
+
+bool ProjectDatabase::write(Extent extent) {
+  if (mFileName.isEmpty()) {
+    return fail(QStringLiteral("Empty Filename"));
+  }
+  if (!requireOpen()) {
+    return false;
+  }
+  mLastError.clear();
+  if (needsRebuild()) {
+    return rebuild();
+  }
+  createTables(mDatabase);
+  return writeRecords(mDatabase, extent);
+}
+
+bool ProjectDatabase::recordWriteAll(bool stampTime) {
+  const qint64 previousTimestamp = mProject.mTimestamp;
+  if (stampTime) {
+    mProject.mTimestamp = QDateTime::currentSecsSinceEpoch();
+  }
+  const bool isOk = write(Extent::All);
+  if (!isOk) {
+    mProject.mTimestamp = previousTimestamp;
+  }
+  return isOk;
+}
+
+bool ProjectDatabase::recordWriteChanged() {
+  // What a damaged file turns out to have lost is told at a save, where the user is there to read it.
+  const DB_Load_Report report = mReport;
+  const bool isOk = write(Extent::Changed);
+  if (!isOk) {
+    mReport = report;
+  }
+  return isOk;
 }
 
 bool ProjectDatabase::checkResourceName(const QString& name) {
@@ -163,7 +180,7 @@ bool ProjectDatabase::ressourceWriteRaw(const QString& name, const QByteArray& b
   if (bytes.isEmpty()) {
     return fail(QStringLiteral("ressourceWriteRaw: Error size/data"));
   }
-  if (!checkResourceName(name) || !rebuild()) {
+  if (!checkResourceName(name) || !makeSound()) {
     return false;
   }
   mLastError.clear();
@@ -233,7 +250,7 @@ bool ProjectDatabase::ressourceDelete(const QString& name) {
     return false;
   }
   mLastError.clear();
-  if (!rebuild() || !deleteResource(name)) {
+  if (!makeSound() || !deleteResource(name)) {
     return false;
   }
   tellDeleted();
@@ -245,7 +262,7 @@ bool ProjectDatabase::ressourceDeleteAll() {
     return false;
   }
   mLastError.clear();
-  if (!rebuild() || !emptyTable(DB_Table::Resources)) {
+  if (!makeSound() || !emptyTable(DB_Table::Resources)) {
     return false;
   }
   tellDeleted();

@@ -70,19 +70,19 @@ void Project_Session::close() {
   }
 }
 
-bool Project_Session::claim(Working_Copy& copy, const QString& path) {
+bool Project_Session::claim(Working_Copy& copy, const QString& path, Working_Copy::Others others) {
   // The longest name beside the working file is its journal's.
   constexpr qsizetype cLongestName = 255;
   const QString name = QFileInfo(Working_Copy::pathFor(path)).fileName() + QStringLiteral("-journal");
   if (name.toUtf8().size() > cLongestName) {
     return fail(tr("Der Dateiname \"%1\" ist zu lang.").arg(QFileInfo(path).fileName()));
   }
-  return copy.claim(path) ||
+  return copy.claim(path, others) ||
          fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(Working_Copy::pathFor(path)));
 }
 
-bool Project_Session::copyToWorkingFile(const QString& path) {
-  if (!claim(mWorkingCopy, path)) {
+bool Project_Session::copyToWorkingFile(const QString& path, Working_Copy::Others others) {
+  if (!claim(mWorkingCopy, path, others)) {
     return false;
   }
   QFile source(path);
@@ -94,23 +94,56 @@ bool Project_Session::copyToWorkingFile(const QString& path) {
   return true;
 }
 
-bool Project_Session::open(const QString& path) {
+bool Project_Session::failOpening(const QString& error) {
+  mDatabase.close();
+  mWorkingCopy.release();
+  return fail(error);
+}
+
+void Project_Session::finishOpening(const QString& path) {
+  setPath(path);
+  mHistory.clear();
+  mWorkingState = mHistory.state();
+  Binding_Refresh::all(mDatabase);
+}
+
+bool Project_Session::open(const QString& path, Working_Copy::Others others) {
   close();
   mLastError.clear();
   const QString absolutePath = QFileInfo(path).absoluteFilePath();
   const Fingerprint fingerprint = fingerprintOf(absolutePath);
-  if (!copyToWorkingFile(absolutePath) || !mDatabase.openProject(mWorkingCopy.path(), true)) {
-    const QString error = mLastError.isEmpty() ? mDatabase.lastError() : mLastError;
-    mDatabase.close();
-    mWorkingCopy.release();
-    return fail(error);
+  if (!copyToWorkingFile(absolutePath, others) || !mDatabase.openProject(mWorkingCopy.path(), true)) {
+    return failOpening(mLastError.isEmpty() ? mDatabase.lastError() : mLastError);
   }
-  setPath(absolutePath);
+  finishOpening(absolutePath);
   mFingerprint = fingerprint; // a change during the copying shows at the next save
-  mHistory.clear();
-  Binding_Refresh::all(mDatabase);
   emit opened();
   return true;
+}
+
+bool Project_Session::recover(const QString& path, Working_Copy adopted) {
+  close();
+  mLastError.clear();
+  mWorkingCopy = std::move(adopted);
+  {
+    // What a file is, is told from its bytes: those are right only when the engine has rolled the journal back.
+    DB_Sqlite database;
+    database.open(mWorkingCopy.path(), DB_Sqlite::Mode::ReadWrite);
+    database.execute("SELECT 1 FROM sqlite_master");
+  }
+  if (!mDatabase.openProject(mWorkingCopy.path(), true)) {
+    return failOpening(mDatabase.lastError());
+  }
+  finishOpening(QFileInfo(path).absoluteFilePath());
+  mHistory.setChangedOutside();
+  mWorkingState = mHistory.state();
+  emit opened();
+  return true;
+}
+
+void Project_Session::acceptRecovered() {
+  mWorkingCopy.own();
+  Working_Copy::removeNeedless(mPath);
 }
 
 bool Project_Session::create(const QString& path, const New_Project::Options& options) {
@@ -126,15 +159,33 @@ bool Project_Session::create(const QString& path, const New_Project::Options& op
     isOk = writeTo(absolutePath) == Save_Result::Saved;
   }
   if (!isOk) {
-    const QString error = mLastError.isEmpty() ? mDatabase.lastError() : mLastError;
-    mDatabase.close();
-    mWorkingCopy.release();
-    return fail(error);
+    return failOpening(mLastError.isEmpty() ? mDatabase.lastError() : mLastError);
   }
-  setPath(absolutePath);
-  mHistory.clear();
-  Binding_Refresh::all(mDatabase);
+  finishOpening(absolutePath);
   emit opened();
+  return true;
+}
+
+bool Project_Session::mayAutosave() const {
+  return !mHistory.isStepOpen() && !mDatabase.mAddresses.isChanging() && !mDatabase.isInTransaction();
+}
+
+bool Project_Session::isAutosaveDue() const {
+  return isOpen() && (mHistory.isStepOpen() || mHistory.state() != mWorkingState);
+}
+
+bool Project_Session::autosave() {
+  mLastError.clear();
+  if (!isOpen() || !mayAutosave()) {
+    return fail(tr("Das Projekt wird gerade geändert."));
+  }
+  if (!mWorkingCopy.keepLock()) {
+    return fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(mWorkingCopy.path()));
+  }
+  if ((!mDatabase.isOpen() && !mDatabase.attach(mWorkingCopy.path())) || !mDatabase.recordWriteChanged()) {
+    return fail(mDatabase.lastError());
+  }
+  mWorkingState = mHistory.state();
   return true;
 }
 
@@ -150,13 +201,16 @@ Project_Session::Save_Result Project_Session::writeTo(const QString& path) {
   project.mName = QFileInfo(path).completeBaseName();
   project.mVersion = Version::studio();
   Save_Result result = Save_Result::Saved;
+  mWorkingState.reset();
   if (!mDatabase.recordWriteAll(true) || !mDatabase.compact()) {
     fail(mDatabase.lastError());
     result = Save_Result::WriteFailed;
   } else if (!File_Copy::replace(mWorkingCopy.path(), path, mLastError)) {
     result = Save_Result::PublishFailed;
   }
-  if (result != Save_Result::Saved) {
+  if (result == Save_Result::Saved) {
+    mWorkingState = mHistory.state();
+  } else {
     project = before;
   }
   return result;

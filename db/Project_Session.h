@@ -13,6 +13,8 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 /// The project that is open in the studio: the store with its history, and the way between the project file and its
 /// working copy. It asks nobody: what needs a question is told by a state, and the caller asks before it calls.
 class Project_Session : public QObject {
@@ -32,8 +34,12 @@ public:
   [[nodiscard]] bool isModified() const { return isOpen() && mHistory.isModified(); }
 
   /// Closes what is open, copies the file to a working copy and loads that, converting an older layout. On failure
-  /// nothing is open and `lastError` tells why.
-  bool open(const QString& path);
+  /// nothing is open and `lastError` tells why. `others` is what becomes of what a crash left of the project.
+  bool open(const QString& path, Working_Copy::Others others = Working_Copy::Others::Remove);
+  /// The same with a working file that was left behind, as it stands there; the project file is not read. The project
+  /// is modified then. On failure, and when it is closed before `acceptRecovered`, the working file stays.
+  bool recover(const QString& path, Working_Copy adopted);
+  void acceptRecovered();
   /// Closes what is open and makes a new project file, replacing one of that name at the end only.
   bool create(const QString& path, const New_Project::Options& options);
   /// Deletes working copy and lock; what was not saved is gone.
@@ -48,6 +54,14 @@ public:
   Save_Result save();
   /// Saves under another name and goes on with that; the old file stays as last saved.
   Save_Result saveAs(const QString& path);
+
+  /// Brings the records as they are into the working file; the project file, the history and the modified mark stay.
+  /// On failure the working file holds what it held before, and `lastError` tells why. Fails while `mayAutosave` does.
+  bool autosave();
+  /// False inside a step, an edit scope or a write: the records are on their way from one state to another.
+  [[nodiscard]] bool mayAutosave() const;
+  /// True when the records are not those that the working file holds, also when undoing has led back to what is saved.
+  [[nodiscard]] bool isAutosaveDue() const;
 
   /// True when the project file is not what it was when opened or last saved.
   [[nodiscard]] bool isChangedOnDisk() const;
@@ -81,8 +95,10 @@ private:
   void onAddressChanged(const QUuid& key);
   void onAddressesChanged();
   bool fail(const QString& text);
-  bool claim(Working_Copy& copy, const QString& path);
-  bool copyToWorkingFile(const QString& path);
+  bool claim(Working_Copy& copy, const QString& path, Working_Copy::Others others = Working_Copy::Others::Remove);
+  bool copyToWorkingFile(const QString& path, Working_Copy::Others others);
+  bool failOpening(const QString& error);
+  void finishOpening(const QString& path);
   [[nodiscard]] Save_Result writeTo(const QString& path);
   void setPath(const QString& path);
 
@@ -98,5 +114,7 @@ private:
   Working_Copy mWorkingCopy;
   QString mPath;
   Fingerprint mFingerprint;
+  std::optional<History::State>
+      mWorkingState; ///< what the working file holds; none when that is no state of the history
   QString mLastError;
 };

@@ -1,6 +1,9 @@
 #include "db/Working_Copy.h"
 
+#include "base/File_Copy.h"
+
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
@@ -14,17 +17,32 @@ namespace {
 constexpr int cHighestNumber = 99;
 constexpr qsizetype cHashDigits = 8;
 
+QString lockPathOf(const QString& workingPath) {
+  return workingPath + QStringLiteral(".lock");
+}
+
+QString journalPathOf(const QString& workingPath) {
+  return workingPath + QStringLiteral("-journal");
+}
+
 std::unique_ptr<QLockFile> makeLock(const QString& workingPath) {
-  auto lock = std::make_unique<QLockFile>(workingPath + QStringLiteral(".lock"));
+  auto lock = std::make_unique<QLockFile>(lockPathOf(workingPath));
   lock->setStaleLockTime(0); // however old: it is stale only when its owner is gone
   return lock;
 }
 
+/// An empty file holds nothing: its studio ended before it had copied the project.
+bool isNeedless(const QString& workingPath, const QString& projectPath) {
+  const bool isRolledBack = QFileInfo(journalPathOf(workingPath)).size() == 0;
+  return isRolledBack && (QFileInfo(workingPath).size() == 0 || File_Copy::isSame(workingPath, projectPath));
+}
+
 /// Deletes what studios that are gone left of the project, so that it is asked about only once.
-void removeLeftBehind(const QString& projectPath) {
+template <class Condition>
+void removeLeftBehind(const QString& projectPath, Condition&& condition) {
   for (int number = 1; number <= cHighestNumber; ++number) {
     const QString path = Working_Copy::pathFor(projectPath, number);
-    if (QFileInfo::exists(path)) {
+    if (QFileInfo::exists(path) && condition(path)) {
       const std::unique_ptr<QLockFile> lock = makeLock(path);
       if (lock->tryLock(0)) {
         Working_Copy::removeFile(path);
@@ -38,11 +56,13 @@ void removeLeftBehind(const QString& projectPath) {
 Working_Copy::Working_Copy() = default;
 Working_Copy::Working_Copy(Working_Copy&& other) noexcept
     : mPath(std::exchange(other.mPath, {})),
-      mLock(std::move(other.mLock)) {}
+      mLock(std::move(other.mLock)),
+      mIsKept(other.mIsKept) {}
 
 Working_Copy& Working_Copy::operator=(Working_Copy&& other) noexcept {
   std::swap(mPath, other.mPath);
   std::swap(mLock, other.mLock);
+  std::swap(mIsKept, other.mIsKept);
   return *this;
 }
 
@@ -73,7 +93,7 @@ Working_Copy::State Working_Copy::stateOf(const QString& projectPath) {
   for (int number = 1; number <= cHighestNumber && !projectPath.isEmpty(); ++number) {
     const QString path = pathFor(projectPath, number);
     const bool isThere = QFileInfo::exists(path);
-    const bool isLocked = QFileInfo::exists(path + QStringLiteral(".lock")) && !makeLock(path)->tryLock(0);
+    const bool isLocked = QFileInfo::exists(lockPathOf(path)) && !makeLock(path)->tryLock(0);
     if (isLocked) {
       return State::InUse;
     }
@@ -84,16 +104,67 @@ Working_Copy::State Working_Copy::stateOf(const QString& projectPath) {
   return state;
 }
 
-bool Working_Copy::claim(const QString& projectPath) {
+std::optional<Working_Copy::Left_Behind> Working_Copy::findLeftBehind(const QString& projectPath) {
+  std::optional<Left_Behind> newest;
+  int count = 0;
+  if (stateOf(projectPath) != State::LeftBehind) {
+    return newest;
+  }
+  for (int number = 1; number <= cHighestNumber; ++number) {
+    const QFileInfo info(pathFor(projectPath, number));
+    if (info.exists() && !isNeedless(info.filePath(), projectPath)) {
+      ++count;
+      if (!newest || info.lastModified() > newest->mModified) {
+        newest = Left_Behind{info.filePath(), info.size(), info.lastModified(), 0};
+      }
+    }
+  }
+  if (newest) {
+    newest->mFurther = count - 1;
+  }
+  return newest;
+}
+
+void Working_Copy::removeNeedless(const QString& projectPath) {
+  removeLeftBehind(projectPath, [&](const QString& path) { return isNeedless(path, projectPath); });
+}
+
+bool Working_Copy::adopt(const QString& workingPath) {
+  release();
+  std::unique_ptr<QLockFile> lock = makeLock(workingPath);
+  if (!lock->tryLock(0) || !QFileInfo::exists(workingPath)) {
+    return false;
+  }
+  mLock = std::move(lock);
+  mPath = workingPath;
+  mIsKept = true;
+  return true;
+}
+
+bool Working_Copy::keepLock() {
+  if (!mLock || QFileInfo::exists(lockPathOf(mPath))) {
+    return mLock != nullptr;
+  }
+  mLock->unlock();
+  QDir().mkpath(QFileInfo(mPath).absolutePath());
+  return mLock->tryLock(0);
+}
+
+bool Working_Copy::claim(const QString& projectPath, Others others) {
   release();
   for (int number = 1; number <= cHighestNumber && !projectPath.isEmpty(); ++number) {
     const QString path = pathFor(projectPath, number);
+    if (others == Others::Keep && QFileInfo::exists(path)) {
+      continue;
+    }
     std::unique_ptr<QLockFile> lock = makeLock(path);
     if (lock->tryLock(0)) {
       mLock = std::move(lock);
       mPath = path;
       removeFile(mPath);
-      removeLeftBehind(projectPath);
+      if (others == Others::Remove) {
+        removeLeftBehind(projectPath, [](const QString&) { return true; });
+      }
       return true;
     }
     if (lock->error() != QLockFile::LockFailedError) {
@@ -104,19 +175,27 @@ bool Working_Copy::claim(const QString& projectPath) {
 }
 
 void Working_Copy::release() {
-  if (mLock) {
-    removeFile(mPath);
+  if (mLock && mLock->isLocked()) {
+    if (!mIsKept) {
+      removeFile(mPath);
+    }
     mLock->unlock();
   }
   mLock.reset();
   mPath.clear();
+  mIsKept = false;
 }
 
 void Working_Copy::removeFile(const QString& path) {
   QFile::remove(path);
   if (!QFileInfo::exists(path)) {
-    QFile::remove(path + QStringLiteral("-journal"));
-    QFile::remove(path + QStringLiteral("-wal"));
-    QFile::remove(path + QStringLiteral("-shm"));
+    removeJournals(path);
+    QFile::remove(path + QStringLiteral(".neu")); // begun in its stead, and not finished
   }
+}
+
+void Working_Copy::removeJournals(const QString& path) {
+  QFile::remove(journalPathOf(path));
+  QFile::remove(path + QStringLiteral("-wal"));
+  QFile::remove(path + QStringLiteral("-shm"));
 }

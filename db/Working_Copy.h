@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class QLockFile;
 
@@ -19,22 +21,46 @@ public:
     LeftBehind, ///< a working file stands there, but its owner is gone
   };
 
+  /// A working file that a studio left behind when it ended without closing the project.
+  struct Left_Behind {
+    QString mPath;
+    qint64 mSize = 0; ///< bytes
+    QDateTime mModified;
+    int mFurther = 0; ///< how many more there are of the same project
+  };
+
+  enum class Others {
+    Keep,
+    Remove, ///< what former owners that are gone left of the project, under any number
+  };
+
   Working_Copy();
   Working_Copy(const Working_Copy&) = delete;
   Working_Copy& operator=(const Working_Copy&) = delete;
   Working_Copy(Working_Copy&& other) noexcept;
   Working_Copy& operator=(Working_Copy&& other) noexcept;
-  /// A claimed copy is released.
+  /// A claimed or adopted copy is released.
   ~Working_Copy();
 
   /// The first working file's path for number 1; empty for an empty project path.
   [[nodiscard]] static QString pathFor(const QString& projectPath, int number = 1);
   [[nodiscard]] static State stateOf(const QString& projectPath);
 
-  /// Takes the first working file that no running studio owns, locks it, and deletes what former owners that are gone
-  /// left of the project, under any number.
-  /// False when no lock can be had (the temporary directory cannot be written).
-  [[nodiscard]] bool claim(const QString& projectPath);
+  /// The newest of those that hold something that the project file does not: other bytes, or a journal that the engine
+  /// has still to roll back. None while a running studio has the project open.
+  [[nodiscard]] static std::optional<Left_Behind> findLeftBehind(const QString& projectPath);
+  /// Deletes those that hold nothing that the project file does not.
+  static void removeNeedless(const QString& projectPath);
+
+  /// Takes the first working file that no running studio owns (with `Others::Keep` one that is not there yet) and locks
+  /// it. False when no lock can be had (the temporary directory cannot be written).
+  [[nodiscard]] bool claim(const QString& projectPath, Others others = Others::Remove);
+  /// Takes exactly that working file with its journal and locks it. Releasing leaves both, until `own` is called. False
+  /// when it is gone or another studio has it.
+  [[nodiscard]] bool adopt(const QString& workingPath);
+  void own() { mIsKept = false; }
+  /// Takes the lock anew where something has deleted it. False when that fails or another studio has it by now.
+  [[nodiscard]] bool keepLock();
   /// Deletes the working file, its journals and its lock.
   void release();
 
@@ -42,8 +68,10 @@ public:
 
   /// Deletes a working file together with the journals that belong to it.
   static void removeFile(const QString& path);
+  static void removeJournals(const QString& path);
 
 private:
   QString mPath;
   std::unique_ptr<QLockFile> mLock;
+  bool mIsKept = false; ///< adopted, and not our own yet
 };

@@ -29,26 +29,33 @@ bool suppress(const QString& text) {
 
 struct Button {
   QString mText;
-  Answer mAnswer;
+  int mAnswer = 0;
+
+  Button(const QString& text, int answer) : mText(text), mAnswer(answer) {}
+  Button(const QString& text, Answer answer) : Button(text, static_cast<int>(answer)) {}
 };
 
 /// The last button is the one of Escape.
-Answer ask(QWidget* parent, const QString& text, const QString& icon, const std::vector<Button>& buttons,
-           Answer defaultAnswer) {
-  const Answer escape = buttons.back().mAnswer;
+int show(QWidget* parent, const QString& text, const QString& icon, const std::vector<Button>& buttons,
+         int defaultAnswer) {
+  const int escape = buttons.back().mAnswer;
   QWidget* const owner = parent ? parent->window() : QApplication::activeWindow();
   // The owner may go while the box is open, and takes the box with it.
   const QPointer<Message_Dialog> dialog = new Message_Dialog(owner, text, icon);
   for (const Button& button : buttons) {
-    dialog->addButton(button.mText, static_cast<int>(button.mAnswer), button.mAnswer == defaultAnswer,
-                      button.mAnswer == escape);
+    dialog->addButton(button.mText, button.mAnswer, button.mAnswer == defaultAnswer, button.mAnswer == escape);
   }
   const int result = dialog->exec();
   if (!dialog) {
     return escape;
   }
   delete dialog;
-  return static_cast<Answer>(result);
+  return result;
+}
+
+Answer ask(QWidget* parent, const QString& text, const QString& icon, const std::vector<Button>& buttons,
+           Answer defaultAnswer) {
+  return static_cast<Answer>(show(parent, text, icon, buttons, static_cast<int>(defaultAnswer)));
 }
 
 } // namespace
@@ -75,4 +82,12 @@ Message_Box::Answer Message_Box::askYesNoCancel(QWidget* parent, const QString& 
   }
   return ask(parent, text, QStringLiteral("question_white"),
              {{tr("&Ja"), Answer::Yes}, {tr("&Nein"), Answer::No}, {tr("&Abbrechen"), Answer::Cancel}}, defaultAnswer);
+}
+
+int Message_Box::choose(QWidget* parent, const QString& text, const QStringList& buttons) {
+  std::vector<Button> shown;
+  for (const QString& button : buttons) {
+    shown.emplace_back(button, static_cast<int>(shown.size()));
+  }
+  return suppress(text) ? shown.back().mAnswer : show(parent, text, QStringLiteral("question_white"), shown, 0);
 }

@@ -6,6 +6,7 @@
 #include "tests/app/Scripted_Dialogs.h"
 #include "tests/db/Session_Rig.h"
 
+#include <QRegularExpression>
 #include <QTimer>
 
 namespace {
@@ -13,7 +14,12 @@ namespace {
 using namespace Qt::StringLiterals;
 
 const QString cUnsaved = u"Ja/Nein/Abbrechen: Das Projekt \"Haus\" wurde geändert. Änderungen speichern?"_s;
+const QRegularExpression cWorkingHash(u"\\.[0-9a-f]{8}\\.tmp"_s);
 const QStringList cAlreadyOpen = {u"Ja/Nein: Datei bereits geöffnet, soll diese noch einmal geöffnet werden?"_s};
+const QStringList cRecovery = {u"Wiederherstellen/Verwerfen/Abbrechen: Das Projekt \"Anderes\" wurde nicht ordentlich "
+                               u"geschlossen"_s};
+const QString cUnreadable = u"Ja/Nein: Der Arbeitsstand \"TMP/~lock.Anderes.zpro\" kann nicht gelesen werden: file is "
+                            u"not a database\n\nDen Arbeitsstand löschen und die Projektdatei öffnen?"_s;
 const QString cSaveFailed = u"Meldung: Fehler beim Speichern der Datei\n"_s;
 const QString cOlder = u"Ja/Nein: Projekt wurde mit einer älteren Version erstellt, auf neue Version aktualisieren?"_s;
 const QString cNewer =
@@ -67,7 +73,46 @@ struct Lifecycle_Rig : Session_Rig {
   void both() { makeOther(), haus(); }
   void bothEdited() { makeOther(), edited(); }
   void otherElsewhere() { both(), mElsewhere.open(other()); }
-  void otherCrashed() { both(), write(Working_Copy::pathFor(other()), "x"); }
+  [[nodiscard]] QString left(int number = 1) const { return Working_Copy::pathFor(other(), number); }
+  /// As a studio leaves it that is killed: with what it had autosaved.
+  void leaveChanged(const QString& leftPath, const QString& caption) {
+    QFile::copy(other(), leftPath);
+    ProjectDatabase database;
+    database.openProject(leftPath, false);
+    database.mFbPages.pages().at(0).mCaption = caption;
+    database.recordWriteChanged();
+  }
+  void crashedUnchanged() { both(), QFile::copy(other(), left()); }
+  void crashed() { both(), leaveChanged(left(), u"Arbeitsstand"_s); }
+  void crashedEdited() { bothEdited(), leaveChanged(left(), u"Arbeitsstand"_s); }
+  void crashedBeforeCopying() { both(), write(left(), {}); }
+  void crashedUnreadable() { both(), write(left(), QByteArray(4096, 'x')); }
+  void crashedDamaged() {
+    both(), QFile::copy(other(), left());
+    change(left(), QByteArray("DROP TABLE `") + DB_Tables::name(DB_Table::Visu_Pages) + '`');
+  }
+  void crashedOfDamaged() {
+    damaged();
+    leaveChanged(left(), u"Arbeitsstand"_s);
+  }
+  void crashedNewer() {
+    otherNewer();
+    leaveChanged(left(), u"Arbeitsstand"_s);
+  }
+  void crashedOlder() { otherOlder(), QFile::copy(other(), left()), change(left(), "CREATE TABLE x(y)"); }
+  void crashedMissing() { crashed(), QFile::remove(other()); }
+  void crashedBesideRunning() { otherElsewhere(), leaveChanged(left(2), u"Arbeitsstand"_s); }
+  void takenMeanwhile() {
+    crashed();
+    mDialogs.mWhileAsked = [this] {
+      mDialogs.mWhileAsked = nullptr;
+      static_cast<void>(mTaken.adopt(left()));
+    };
+  }
+  void goneMeanwhile() {
+    crashed();
+    mDialogs.mWhileAsked = [this] { QFile::remove(left()); };
+  }
   void otherOlder() { haus(), makeOlder(other()); }
   void oldExtension() { makeOther(), makeOlder(path(u"Anderes.zprj"_s)); }
   void otherNewer() {
@@ -99,8 +144,19 @@ struct Lifecycle_Rig : Session_Rig {
     QDir(path(u"Ordner"_s)).removeRecursively();
   }
 
+  /// Working files of the other project whose studio does not run.
+  [[nodiscard]] qsizetype leftCount() {
+    qsizetype count = 0;
+    for (int number = 1; number < 5; ++number) {
+      Working_Copy copy;
+      count += QFile::exists(left(number)) && copy.adopt(left(number)) ? 1 : 0;
+    }
+    return count;
+  }
+
   // The acts.
   bool openOther() { return mLifecycle.open(other()); }
+  bool openOtherThenSave() { return openOther() && save(); }
   bool openHere() { return mLifecycle.open(path()); }
   bool openOldExtension() { return mLifecycle.open(path(u"Anderes.zprj"_s)); }
   bool openChosen() { return mLifecycle.open(); }
@@ -116,6 +172,7 @@ struct Lifecycle_Rig : Session_Rig {
   Scripted_Dialogs mDialogs;
   Project_Lifecycle mLifecycle{mSession, mSettings, mState, mDialogs};
   Project_Session mElsewhere{mState}; ///< another studio
+  Working_Copy mTaken;                ///< by one more
 };
 
 using Rig = Lifecycle_Rig;
@@ -128,7 +185,9 @@ struct Row {
   QStringList mAnswers;
   QStringList mTranscript;
   bool mIsDone;
-  QString mOpenAfter; ///< file name, empty for none
+  QString mOpenAfter;    ///< file name, empty for none
+  QString mCaption = {}; ///< of the open project's first logic page, where that matters
+  qsizetype mLeft = -1;  ///< how many working files without a running studio remain, where that matters
 };
 
 const QString cHaus = u"Haus.zpro"_s;
@@ -136,6 +195,10 @@ const QString cOther = u"Anderes.zpro"_s;
 const QString cJa = u"Ja"_s;
 const QString cNein = u"Nein"_s;
 const QString cNeu = u"Neu.zpro"_s;
+const QString cRestore = u"Wiederherstellen"_s;
+const QString cDiscard = u"Verwerfen"_s;
+const QString cSaved = u"Programm 1"_s;
+const QString cLeft = u"Arbeitsstand"_s;
 const QString cOtherPath = u"DIR/Anderes.zpro"_s;
 
 const std::vector<Row>& rows() {
@@ -166,7 +229,43 @@ const std::vector<Row>& rows() {
       {"open what is open elsewhere, no", &Rig::otherElsewhere, &Rig::openOther, {cNein}, cAlreadyOpen, false, cHaus},
       {"open what is open elsewhere, yes", &Rig::otherElsewhere, &Rig::openOther, {cJa}, cAlreadyOpen + cOpening, true,
          cOther},
-      {"open what a crash left", &Rig::otherCrashed, &Rig::openOther, {cJa}, cAlreadyOpen + cOpening, true, cOther},
+      {"open what a crash left unchanged", &Rig::crashedUnchanged, &Rig::openOther, {cJa}, cAlreadyOpen + cOpening,
+         true, cOther, cSaved, 0},
+      {"open what a crash left before it was copied", &Rig::crashedBeforeCopying, &Rig::openOther, {cJa},
+         cAlreadyOpen + cOpening, true, cOther, cSaved, 0},
+      {"open what a crash left, recovered", &Rig::crashed, &Rig::openOther, {cRestore}, cRecovery + cOpening, true,
+         cOther, cLeft, 0},
+      {"open what a crash left, discarded", &Rig::crashed, &Rig::openOther, {cDiscard}, cRecovery + cOpening, true,
+         cOther, cSaved, 0},
+      {"open what a crash left, cancelled", &Rig::crashed, &Rig::openOther, {}, cRecovery, false, cHaus, cSaved, 1},
+      {"open what a crash left, changes first", &Rig::crashedEdited, &Rig::openOther, {cNein, cRestore},
+         QStringList{cUnsaved} + cRecovery + cOpening, true, cOther, cLeft, 0},
+      {"open what a crash left, changes first, cancelled", &Rig::crashedEdited, &Rig::openOther, {cNein},
+         QStringList{cUnsaved} + cRecovery, false, cHaus, u"Umbenannt"_s, 1},
+      {"open what a crash left unreadable, no", &Rig::crashedUnreadable, &Rig::openOther, {cRestore, cNein},
+         cRecovery + cLoading + QStringList{cUnreadable}, false, {}, {}, 1},
+      {"open what a crash left unreadable, yes", &Rig::crashedUnreadable, &Rig::openOther, {cRestore, cJa},
+         cRecovery + cLoading + QStringList{cUnreadable} + cBuilding, true, cOther, cSaved, 0},
+      {"open what a crash left damaged", &Rig::crashedDamaged, &Rig::openOther, {cRestore},
+         cRecovery + cOpening + QStringList{cDamage}, true, cOther, cSaved, 0},
+      {"save what a crash left of a damaged project", &Rig::crashedOfDamaged, &Rig::openOtherThenSave,
+         {cRestore, cNein}, cRecovery + cOpening + QStringList{cOverwriteDamaged}, false, cOther, cLeft, 0},
+      {"open what a crash left of a newer project, no", &Rig::crashedNewer, &Rig::openOther, {cRestore, cNein},
+         cRecovery + cLoading + QStringList{cNewer}, false, {}, {}, 1},
+      {"open what a crash left of an older file", &Rig::crashedOlder, &Rig::openOther, {cJa, cRestore},
+         QStringList{cOlder} + cRecovery + cOpening, true, cOther, {}, 0},
+      {"open what a crash left and is missing", &Rig::crashedMissing, &Rig::openOther, {},
+         {u"Meldung: Das Projekt \"DIR/Anderes.zpro\" wurde nicht gefunden."_s}, false, cHaus, {}, 1},
+      {"open what a crash left and another studio has", &Rig::crashedBesideRunning, &Rig::openOther, {cJa},
+         cAlreadyOpen + cOpening, true, cOther, cSaved, 1},
+      {"open what a crash left, another studio is quicker", &Rig::takenMeanwhile, &Rig::openOther, {cRestore, cNein},
+         cRecovery + cAlreadyOpen, false, cHaus, cSaved, 0},
+      {"discard what another studio has taken meanwhile", &Rig::takenMeanwhile, &Rig::openOther, {cDiscard, cJa},
+         cRecovery + cAlreadyOpen + cOpening, true, cOther, cSaved, 0},
+      {"open what a crash left and is gone meanwhile", &Rig::goneMeanwhile, &Rig::openOther, {cRestore},
+         cRecovery + QStringList{u"Meldung: Der Arbeitsstand ist nicht mehr vorhanden."_s}, false, cHaus, cSaved, 0},
+      {"new over what a crash left", &Rig::crashed, &Rig::newProject, {cOtherPath, cJa, cNein},
+         cNewDialog + cReplaceOther + cAlreadyOpen, false, cHaus, cSaved, 1},
       {"open what is open here", &Rig::haus, &Rig::openHere, {cJa}, cAlreadyOpen + cOpening, true, cHaus},
       {"open an older file, no", &Rig::otherOlder, &Rig::openOther, {cNein}, {cOlder}, false, cHaus},
       {"open an older file, yes", &Rig::otherOlder, &Rig::openOther, {cJa}, QStringList{cOlder} + cOpening, true,
@@ -231,14 +330,72 @@ private slots:
     const Row& expected = rows()[row];
     (mRig.get()->*expected.mPrepare)();
     mRig->mDialogs.mAnswers = QStringList(expected.mAnswers).replaceInStrings(u"DIR"_s, mRig->folder());
+    const QByteArray otherBefore = Rig::bytesOf(mRig->other());
     const bool isDone = (mRig.get()->*expected.mAct)();
     QStringList transcript = mRig->mDialogs.mTranscript;
-    QCOMPARE(transcript.replaceInStrings(mRig->folder(), u"DIR"_s), expected.mTranscript);
+    transcript.replaceInStrings(mRig->folder(), u"DIR"_s).replaceInStrings(mRig->tempFolder(), u"TMP"_s);
+    QCOMPARE(transcript.replaceInStrings(cWorkingHash, {}), expected.mTranscript);
     QCOMPARE(isDone, expected.mIsDone);
     QCOMPARE(QFileInfo(mRig->mSession.path()).fileName(), expected.mOpenAfter);
     QVERIFY(mRig->mDialogs.mAnswers.isEmpty());
     QVERIFY(!mRig->mDialogs.mIsProgressShown);
     QVERIFY(!mRig->mLifecycle.isBusy());
+    if (!expected.mCaption.isEmpty()) {
+      QCOMPARE(mRig->mSession.database().mFbPages.pages().at(0).mCaption, expected.mCaption);
+    }
+    if (expected.mLeft >= 0) {
+      QCOMPARE(mRig->leftCount(), expected.mLeft);
+      QCOMPARE(Rig::bytesOf(mRig->other()), otherBefore);
+      QVERIFY(expected.mCaption != cLeft || mRig->mSession.isModified());
+    }
+  }
+
+  /// A kill in the middle of writing: the engine takes back what it had begun.
+  void aJournalComesAlong() {
+    mRig->crashed();
+    const QString rolled = mRig->path(u"rolled"_s);
+    {
+      DB_Sqlite writing;
+      QVERIFY(writing.open(mRig->left(), DB_Sqlite::Mode::ReadWrite));
+      QVERIFY(writing.execute("PRAGMA cache_size=1; BEGIN; DELETE FROM `"_ba + DB_Tables::name(DB_Table::Logic_Pages) +
+                              "`; CREATE TABLE filler(x); WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n "
+                              "WHERE i<200) INSERT INTO filler SELECT randomblob(4000) FROM n"));
+      QVERIFY(QFile::copy(mRig->left(), rolled) && QFile::copy(mRig->left() + u"-journal"_s, rolled + u"-journal"_s));
+    }
+    QVERIFY(QFile::remove(mRig->left()) && QFile::rename(rolled, mRig->left()));
+    QVERIFY(QFile::rename(rolled + u"-journal"_s, mRig->left() + u"-journal"_s));
+    mRig->mDialogs.mAnswers = {cRestore};
+    QVERIFY(mRig->openOther());
+    QCOMPARE(mRig->mDialogs.mTranscript, cRecovery + cOpening);
+    QCOMPARE(mRig->mSession.database().mFbPages.pages().at(0).mCaption, cLeft);
+  }
+
+  void theOlderOfSeveralIsOfferedNext() {
+    mRig->crashed();
+    mRig->leaveChanged(mRig->left(2), u"Zweiter"_s);
+    QFile file(mRig->left());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime));
+    file.close();
+    for (const QString& caption : {u"Zweiter"_s, cLeft}) {
+      mRig->mDialogs.mAnswers = {cRestore};
+      QVERIFY(mRig->openOther());
+      QCOMPARE(mRig->mSession.database().mFbPages.pages().at(0).mCaption, caption);
+      mRig->mSession.close();
+    }
+    QCOMPARE(Working_Copy::stateOf(mRig->other()), Working_Copy::State::Free);
+  }
+
+  void theDemoIsRecovered() {
+    QFile::remove(Demo_Project::defaultPath());
+    QVERIFY(mRig->mLifecycle.openDemo() && mRig->close());
+    const QString left = Working_Copy::pathFor(Demo_Project::defaultPath());
+    QVERIFY(QFile::copy(Demo_Project::defaultPath(), left));
+    mRig->change(left, "CREATE TABLE more(x)");
+    mRig->mDialogs.mAnswers = {cRestore};
+    QVERIFY(mRig->mLifecycle.openDemo() && mRig->mSession.isModified());
+    mRig->mSession.close();
+    QVERIFY(!QFile::exists(left) && QFile::remove(Demo_Project::defaultPath()));
   }
 
   void savedChangesAreInTheFileAndDroppedOnesAreNot() {

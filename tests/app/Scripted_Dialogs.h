@@ -21,6 +21,14 @@ public:
            : answer == u"Nein" ? Message_Box::Answer::No
                                : Message_Box::Answer::Cancel;
   }
+  /// Only the first sentence is written down; what else the text says has a test of its own.
+  Recovery askRecovery(const QString& text) override {
+    mTranscript.append(QStringLiteral("Wiederherstellen/Verwerfen/Abbrechen: ") + text.section(u'.', 0, 0));
+    const QString answer = next();
+    return answer == u"Wiederherstellen" ? Recovery::Restore
+           : answer == u"Verwerfen"      ? Recovery::Discard
+                                         : Recovery::Cancel;
+  }
   void showMessage(const QString& text) override { mTranscript.append(QStringLiteral("Meldung: ") + text); }
   QString chooseOpenFile(const QString& title, const QString& path, const QString& filter) override {
     return chooseSaveFile(title, path, filter);
@@ -35,7 +43,7 @@ public:
   }
   void hideProgress() override { mIsProgressShown = false; }
 
-  QStringList mAnswers;    ///< "Ja", "Nein" or a path
+  QStringList mAnswers;    ///< a button's text or a path
   QStringList mTranscript; ///< cleared by the test
   bool mIsProgressShown = false;
   std::function<void()> mWhileAsked; ///< runs while a question is open

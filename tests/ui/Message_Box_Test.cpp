@@ -63,6 +63,22 @@ private slots:
     }
   }
 
+  void buttonsOfOnesOwn() {
+    const std::pair<Qt::Key, int> cases[] = {
+        {Qt::Key_Return, 0}, {Qt::Key_W, 0}, {Qt::Key_V, 1}, {Qt::Key_A, 2}, {Qt::Key_Escape, 2}};
+    for (const auto& [key, answer] : cases) {
+      whenOpen([key = key](QWidget& box) {
+        const bool isLetter = key >= Qt::Key_A && key <= Qt::Key_Z;
+        QTest::keyClick(box.focusWidget(), key, isLetter ? Qt::AltModifier : Qt::NoModifier);
+        QTRY_VERIFY(!box.isVisible());
+      });
+      QCOMPARE(Message_Box::choose(nullptr, cText, cButtons), answer);
+    }
+    Session_State::process().beginToolCall(0);
+    QCOMPARE(Message_Box::choose(nullptr, cText, cButtons), 2);
+    QCOMPARE(Session_State::process().suppressedMessage(), cText);
+  }
+
   void suppressedDuringAToolCall() {
     const std::pair<int, Answer> cases[] = {{1, Answer::Yes}, {2, Answer::No}, {2, Answer::Yes}, {3, Answer::Cancel}};
     for (const auto& [buttons, defaultAnswer] : cases) {
@@ -95,6 +111,8 @@ private:
     return Message_Box::askYesNoCancel(nullptr, cText, defaultAnswer);
   }
 
+  inline static const QStringList cButtons = {QStringLiteral("&Wiederherstellen"), QStringLiteral("&Verwerfen"),
+                                              QStringLiteral("&Abbrechen")};
   inline static const QString cText = QStringLiteral("Das Projekt <b>\"Haus\"</b> speichern?");
 };
 
