@@ -11,17 +11,13 @@ Language_Menu::Language_Menu(QMenu& menu, const App_Settings& settings)
     : QObject(&menu),
       mGroup(new QActionGroup(this)) {
   const auto languages = Language_Catalogues::available(Language_Catalogues::folders());
-  // A chosen language whose catalogue is gone is shown as German.
-  QAction* chosen = nullptr;
   for (const Language_Catalogues::Language& language : languages) {
     QAction* const action = menu.addAction(language.mName);
     action->setCheckable(true);
     action->setData(language.mCode);
     action->setStatusTip(tr("Zeigt Menüs und Texte des Studios in dieser Sprache, ab dem nächsten Start"));
     mGroup->addAction(action);
-    if (!chosen || language.mCode == settings.languageDev()) {
-      chosen = action;
-    }
+    // A chosen language whose catalogue is gone is shown as German, which is the first.
+    action->setChecked(mGroup->actions().size() == 1 || language.mCode == settings.languageDev());
   }
-  chosen->setChecked(true);
 }

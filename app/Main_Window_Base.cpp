@@ -37,9 +37,8 @@ Main_Window_Base::Main_Window_Base(Project_Session& session, App_Settings& setti
   setObjectName(QStringLiteral("Main_Window"));
 }
 
-void Main_Window_Base::buildContents(const QList<QAction*>& startActions, const QList<Start_Page::Step>& firstSteps,
-                                     const QList<QAction*>& nextSteps) {
-  buildStack(startActions, firstSteps, nextSteps);
+void Main_Window_Base::buildContents(const Steps& steps) {
+  buildStack(steps);
   buildTabs();
   mSplitterMain = new QSplitter(Qt::Horizontal);
   mSplitterMain->setObjectName(QStringLiteral("ui:mSplitterMain"));
@@ -63,11 +62,10 @@ void Main_Window_Base::buildContents(const QList<QAction*>& startActions, const 
   updateTitle();
 }
 
-void Main_Window_Base::buildStack(const QList<QAction*>& startActions, const QList<Start_Page::Step>& firstSteps,
-                                  const QList<QAction*>& nextSteps) {
+void Main_Window_Base::buildStack(const Steps& steps) {
   mStack = new QStackedWidget;
-  mStartPage = new Start_Page(startActions, firstSteps, mStack);
-  mOverview = new Project_Overview(mSession, nextSteps, mStack);
+  mStartPage = new Start_Page(steps.mStart, steps.mFirst, mStack);
+  mOverview = new Project_Overview(mSession, steps.mNext, mStack);
   mPageTabs = new Page_Tabs(mSession, mSettings, *mOverview, mStack);
   mStack->addWidget(mStartPage);
   mStack->addWidget(mPageTabs);

@@ -33,9 +33,14 @@ protected:
   /// Session and settings must outlive the window.
   Main_Window_Base(Project_Session& session, App_Settings& settings, bool isKiosk);
 
+  /// What start page and project overview offer to do.
+  struct Steps {
+    QList<QAction*> mStart;
+    QList<Start_Page::Step> mFirst;
+    QList<QAction*> mNext;
+  };
   /// After the menus and tool bars are there.
-  void buildContents(const QList<QAction*>& startActions, const QList<Start_Page::Step>& firstSteps,
-                     const QList<QAction*>& nextSteps);
+  void buildContents(const Steps& steps);
   /// Stores geometry, bars, splitters and headers.
   void rememberViews();
 
@@ -64,8 +69,7 @@ protected:
   App_Settings& mSettings;
 
 private:
-  void buildStack(const QList<QAction*>& startActions, const QList<Start_Page::Step>& firstSteps,
-                  const QList<QAction*>& nextSteps);
+  void buildStack(const Steps& steps);
   void buildTabs();
   void connectParts();
   void restoreViews();

@@ -72,14 +72,7 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
   if (isKiosk) {
     mState.setOperatingMode(true);
   }
-  const auto action = [this](const char* slot) { return mActions->action(QString::fromLatin1(slot)); };
-  buildContents({action("onMenuFileNew"), action("onMenuFileOpen"), action("onMenuFileDemo")},
-                {{tr("Ein Projekt anlegen; es beginnt mit einer Programmseite und zwei Visualisierungsseiten."),
-                  action("onMenuFileNew")},
-                 {tr("Die Gruppenadressen des Gebäudes aus der ETS übernehmen."), action("onEdit_ODBC_Import")},
-                 {tr("Festlegen, wo das Gebäude steht."), action("onEditGeopos")},
-                 {tr("Jeden Befehl, jede Seite und Adresse durch Tippen finden."), action("onShowPalette")}},
-                {action("onEdit_ODBC_Import"), action("onEditGeopos")});
+  buildContents(stepsOfWindow());
   setAcceptDrops(!isKiosk);
   makeModeMark();
   connectParts();
@@ -91,6 +84,21 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
 }
 
 Main_Window_Dev::~Main_Window_Dev() = default;
+
+/// None on a kiosk, which offers nothing to do.
+Main_Window_Base::Steps Main_Window_Dev::stepsOfWindow() const {
+  if (isKiosk()) {
+    return {};
+  }
+  const auto action = [this](const char* slot) { return mActions->action(QString::fromLatin1(slot)); };
+  return {{action("onMenuFileNew"), action("onMenuFileOpen"), action("onMenuFileDemo")},
+          {{tr("Ein Projekt anlegen; es beginnt mit einer Programmseite und zwei Visualisierungsseiten."),
+            action("onMenuFileNew")},
+           {tr("Die Gruppenadressen des Gebäudes aus der ETS übernehmen."), action("onEdit_ODBC_Import")},
+           {tr("Festlegen, wo das Gebäude steht."), action("onEditGeopos")},
+           {tr("Jeden Befehl, jede Seite und Adresse durch Tippen finden."), action("onShowPalette")}},
+          {action("onEdit_ODBC_Import"), action("onEditGeopos")}};
+}
 
 void Main_Window_Dev::makeModeMark() {
   mModeMark = new QLabel(tr("Bedienmodus"));

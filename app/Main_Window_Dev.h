@@ -71,6 +71,7 @@ protected:
   void dropEvent(QDropEvent* event) override;
 
 private:
+  [[nodiscard]] Steps stepsOfWindow() const;
   void connectParts();
   void connectProjectLists();
   void connectPalette();

@@ -335,7 +335,6 @@ void Project_Lifecycle::reportMissing(const QString& path) {
   }
   if (mDialogs.askYesNo(text + u'\n' + tr("Aus der Liste der zuletzt geöffneten Projekte entfernen?"))) {
     mSettings.removeLastProject(path);
-    emit recentProjectsChanged();
   }
 }
 
@@ -375,7 +374,6 @@ bool Project_Lifecycle::finishSaving(Project_Session::Save_Result result) {
 void Project_Lifecycle::remember(const QString& path) {
   mSettings.addLastProject(path);
   mSettings.setLastProjectDir(QFileInfo(path).absolutePath());
-  emit recentProjectsChanged();
 }
 
 QString Project_Lifecycle::folder() const {

@@ -39,7 +39,6 @@ signals:
   void beginning();
   /// The project is loaded; whoever shows editors builds them now. Comes at 40, 60 and 80 percent.
   void buildEditors(int percent);
-  void recentProjectsChanged();
   /// For the status bar.
   void info(const QString& text);
 

@@ -34,9 +34,11 @@ Project_Overview::Project_Overview(Project_Session& session, const QList<QAction
   layout->setSpacing(12);
   layout->addWidget(mName);
   layout->addLayout(form);
-  layout->addSpacing(12);
-  layout->addWidget(Page_Parts::makeHeading(tr("Nächste Schritte")));
-  layout->addLayout(Page_Parts::makeButtons(actions));
+  if (!actions.isEmpty()) {
+    layout->addSpacing(12);
+    layout->addWidget(Page_Parts::makeHeading(tr("Nächste Schritte")));
+    layout->addLayout(Page_Parts::makeButtons(actions));
+  }
   layout->addStretch();
 
   mTimer.setSingleShot(true);

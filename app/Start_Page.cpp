@@ -28,7 +28,9 @@ Start_Page::Start_Page(const QList<QAction*>& actions, const QList<Step>& steps,
       mButtons(Page_Parts::makeButtons(actions)),
       mFavoriteTitle(Page_Parts::makeHeading(tr("Favoriten"))),
       mFavorites(new Project_List(tr("Favoriten"))),
-      mRecentHint(new QLabel(tr("Noch kein Projekt geöffnet. Den ersten Blick gibt das Demo-Projekt."))),
+      mRecentHint(new QLabel(actions.isEmpty()
+                                 ? tr("Kein Projekt ist geöffnet.")
+                                 : tr("Noch kein Projekt geöffnet. Den ersten Blick gibt das Demo-Projekt."))),
       mRecent(new Project_List(tr("Zuletzt geöffnet"))) {
   mRecentHint->setWordWrap(true);
   mBack->setAutoDefault(true);
@@ -50,7 +52,9 @@ Start_Page::Start_Page(const QList<QAction*>& actions, const QList<Step>& steps,
   auto* const body = new QHBoxLayout;
   body->setSpacing(2 * Page_Parts::cMargin);
   body->addWidget(makeLists(), 1);
-  body->addWidget(makeSteps(steps), 0, Qt::AlignTop);
+  if (!steps.isEmpty()) {
+    body->addWidget(makeSteps(steps), 0, Qt::AlignTop);
+  }
   column->addLayout(body, 1);
 
   auto* const page = new QWidget;
@@ -97,6 +101,7 @@ QWidget* Start_Page::makeLists() {
   note->setWordWrap(true);
   Theme::setTextRole(*note, Theme::Role::SecondaryText);
   column->addWidget(note);
+  note->setHidden(!mButtons->itemAt(0)->widget()); // where nothing can be begun, nothing can be dropped
   column->addStretch(1);
   return lists;
 }
@@ -135,5 +140,7 @@ void Start_Page::setOpenProject(const QString& name) {
 
 void Start_Page::enter() {
   QWidget* const first = mBack->isHidden() ? mButtons->itemAt(0)->widget() : mBack;
-  first->setFocus(Qt::ShortcutFocusReason);
+  if (first) {
+    first->setFocus(Qt::ShortcutFocusReason);
+  }
 }

@@ -59,7 +59,7 @@ QString Language_Catalogues::fileOf(const QString& code, const QStringList& fold
     return {};
   }
   for (const QString& folder : folders) {
-    const QString path = folder + u'/' + cPrefix + code + cSuffix;
+    QString path = folder + u'/' + cPrefix + code + cSuffix;
     if (QFile::exists(path)) {
       return path;
     }

@@ -50,7 +50,7 @@ Text_Search::Text_Search(const QString& text, Options options) : mOptions(option
 }
 
 QString Text_Search::folded(const QString& text) const {
-  const QString normal = text.normalized(QString::NormalizationForm_C);
+  QString normal = text.normalized(QString::NormalizationForm_C);
   if (mOptions.mMatchCase) {
     return normal;
   }

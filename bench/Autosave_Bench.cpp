@@ -22,6 +22,7 @@ DB_Address_Sub_Group& someAddress(ProjectDatabase& store) {
 
 void measure(ProjectDatabase& store, const std::string& what, const Edit& edit, Bench_Table* table) {
   std::vector<double> times;
+  times.reserve(cRuns);
   for (int run = 0; run < cRuns; ++run) {
     edit(store, run);
     times.push_back(Bench_Table::milliseconds([&store] {
@@ -96,6 +97,7 @@ int main(int argc, char** argv) {
   measure(store, "a page deleted", deletePage, &table);
   measure(store, "every address changed", everything, nullptr);
   std::vector<double> times;
+  times.reserve(cRuns);
   for (int run = 0; run < cRuns; ++run) {
     times.push_back(Bench_Table::milliseconds([&store] { static_cast<void>(store.recordWriteAll(false)); }));
   }

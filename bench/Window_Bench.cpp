@@ -42,6 +42,7 @@ struct Rig {
 
 double medianOf(const std::function<void()>& run) {
   std::vector<double> values;
+  values.reserve(cRuns);
   for (int i = 0; i < cRuns; ++i) {
     values.push_back(Bench_Table::milliseconds(run));
   }
