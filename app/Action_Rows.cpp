@@ -79,10 +79,6 @@ struct Row : Action_Row {
     mIsCheckable = true;
     return *this;
   }
-  constexpr Row& toggles(Setting setting) {
-    mSetting = setting;
-    return checkable();
-  }
   constexpr Row& missing(const char* reason) {
     mMissing = reason;
     return when(When::Window);
@@ -202,7 +198,7 @@ constexpr Action_Row cRows[] = {
     Row("onPageNext", QT_TRANSLATE_NOOP("Action_Table", "Nächste Seite"), u'N', ":/icons/arrow_single_right_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeigt die nächste der geöffneten Seiten"))
         .in(Menu::View, 1).keys("Ctrl+Right").bar(Bar::View).toolTip(cNextTip).when(When::Pages).changes(Effect::View),
-    Row("onPageClose", QT_TRANSLATE_NOOP("Action_Table", "Seite schließen"), u'e', ":/icons/file_close_white.png",
+    Row("onPageClose", QT_TRANSLATE_NOOP("Action_Table", "Seite schließen"), u'e', ":/icons/close_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Schließt die gezeigte Seite; sie bleibt im Projekt"))
         .in(Menu::View, 1).keys("Ctrl+F4").when(When::Page).changes(Effect::View),
     Row("onZoom_Plus", QT_TRANSLATE_NOOP("Action_Table", "Zoom +"), u'Z', ":/icons/zoom_plus.png",
@@ -213,7 +209,7 @@ constexpr Action_Row cRows[] = {
         .in(Menu::View, 2).keys("Ctrl+-").bar(Bar::View).toolTip(cZoomTip).missing(cPages),
     Row("onEditRasterOnOff", QT_TRANSLATE_NOOP("Action_Table", "Raster anzeigen"), u'R', ":/icons/grid_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeigt oder verbirgt das Raster der Seiten"))
-        .in(Menu::View, 2).bar(Bar::View).toggles(Setting::ShowGrid).missing(cPages),
+        .in(Menu::View, 2).bar(Bar::View).checkable().missing(cPages),
     Row("onShowWork", QT_TRANSLATE_NOOP("Action_Table", "Zur Arbeitsfläche"), u'f', ":/icons/page_vertical_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Bringt die Tastatur zur gezeigten Seite"))
         .in(Menu::View, 3).keys("Ctrl+1").when(When::Window).changes(Effect::View),
@@ -223,6 +219,9 @@ constexpr Action_Row cRows[] = {
     Row("onShowVariables", QT_TRANSLATE_NOOP("Action_Table", "Zu den Variablen"), u'd', ":/icons/main_group.png",
         QT_TRANSLATE_NOOP("Action_Table", "Bringt die Tastatur zu den Gruppenadressen"))
         .in(Menu::View, 3).keys("Ctrl+3").when(When::Open).changes(Effect::View),
+    Row("mMenuBars", QT_TRANSLATE_NOOP("Action_Table", "Symbolleisten"), u'y', ":/icons/select_all_white.png",
+        QT_TRANSLATE_NOOP("Action_Table", "Zeigt oder verbirgt die Symbolleisten"))
+        .in(Menu::View, 4).opens(Menu::Bars).when(When::Window),
 
     // Programm
     Row("onEditNewPageProgram", QT_TRANSLATE_NOOP("Action_Table", "Neue Programm Seite"), u'N',
@@ -232,14 +231,14 @@ constexpr Action_Row cRows[] = {
     Row("onProgramWireStyle", QT_TRANSLATE_NOOP("Action_Table", "Linienstil der Verbindungen"), u'L',
         ":/icons/wire_style_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeichnet die Verbindungen geschwungen oder rechtwinklig"))
-        .in(Menu::Program, 1).toggles(Setting::FBWireStyle).missing(cPages),
+        .in(Menu::Program, 1).missing(cPages),
     Row("onProgramShowDebug", QT_TRANSLATE_NOOP("Action_Table", "Anzeige IO"), u'I', ":/icons/number_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeigt die Werte an Eingängen und Ausgängen"))
         .in(Menu::Program, 1).bar(Bar::Program).checkable().missing(cPages),
     Row("onProgramKeepOutputsOnCopy", QT_TRANSLATE_NOOP("Action_Table", "Beim Kopieren Ausgänge beibehalten"), u'B',
         ":/icons/copy-white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Kopierte Bausteine behalten die Verknüpfungen ihrer Ausgänge"))
-        .in(Menu::Program, 1).toggles(Setting::FBCopyPasteKeepIO).missing(cPages),
+        .in(Menu::Program, 1).checkable().missing(cPages),
     Row("mMenuProgramAlign", QT_TRANSLATE_NOOP("Action_Table", "Ausrichten"), u'A', ":/icons/dev_widget_sort_left.png",
         QT_TRANSLATE_NOOP("Action_Table", "Richtet die ausgewählten Bausteine aus"))
         .in(Menu::Program, 2).opens(Menu::ProgramAlign).when(When::Window),

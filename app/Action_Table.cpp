@@ -4,6 +4,7 @@
 #include "base/Session_State.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QKeySequence>
 
 namespace {
@@ -114,6 +115,10 @@ QString Action_Table::barTitle(Action_Bar bar) {
   return {};
 }
 
+QString Action_Table::iconName(const Action_Row& row) {
+  return QFileInfo(QString::fromLatin1(row.mIcon)).completeBaseName();
+}
+
 QString Action_Table::text(const Action_Row& row) {
   return tr(row.mText);
 }
@@ -174,7 +179,9 @@ QString Action_Table::whyDisabled(const Action_Row& row, const Action_State& sta
     return tr("Es ist kein Projekt geöffnet.");
   }
   const bool isEdit = when == When::Editable || when == When::Undo || when == When::Redo;
-  if (isEdit && state.mIsOperating) {
+  // A search field takes them in the operating mode, too.
+  const bool isEditOfFocus = when == When::Cut || when == When::Paste || when == When::Delete;
+  if (state.mIsOperating && (isEdit || (isEditOfFocus && !isMet(when, state)))) {
     return Session_State::operatingModeRefusal();
   }
   return isMet(when, state) ? QString() : reason(when);

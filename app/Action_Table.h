@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/Setting_Table.h"
-
 #include <QString>
 
 #include <optional>
@@ -25,6 +23,7 @@ enum class Action_Menu {
   UnusedElements,
   Backup,
   Controller,
+  Bars, ///< the window fills it
 };
 
 enum class Action_Bar { None, Project, Edit, View, Program, Visu, Online };
@@ -76,8 +75,7 @@ struct Action_Row {
   Action_Effect mEffect = Action_Effect::None;
   std::optional<Action_Menu> mSubmenu; ///< the menu that the row opens
   bool mIsCheckable = false;
-  std::optional<Setting> mSetting; ///< the setting that the action switches and shows
-  const char* mMissing = "";       ///< German reason why the action cannot be used yet; it has no slot then
+  const char* mMissing = ""; ///< German reason why the action cannot be used yet; it has no slot then
 };
 
 /// What the window's state is, as far as actions depend on it.
@@ -107,6 +105,8 @@ namespace Action_Table {
 
 [[nodiscard]] QString menuTitle(Action_Menu menu); ///< of the menus of the menu bar
 [[nodiscard]] QString barTitle(Action_Bar bar);
+/// As the theme knows it.
+[[nodiscard]] QString iconName(const Action_Row& row);
 [[nodiscard]] QString text(const Action_Row& row);
 /// With "&" before the access key.
 [[nodiscard]] QString menuText(const Action_Row& row);

@@ -143,3 +143,24 @@ void Edit_Target::run(Command command) {
     runner();
   }
 }
+
+/// Editors hand their text over when they lose the focus.
+void Edit_Target::commit() {
+  const QPointer<QWidget> editor = mWindow.focusWidget();
+  if (!editor || !editor->hasFocus()) {
+    return;
+  }
+  QPointer<QWidget> around = editor->parentWidget();
+  editor->clearFocus();
+  if (editor && editor->isVisible()) {
+    editor->setFocus();
+    return;
+  }
+  // The editor of a cell is gone; the keys belong to its view again.
+  while (around && (around->focusPolicy() & Qt::TabFocus) == 0) {
+    around = around->parentWidget();
+  }
+  if (around) {
+    around->setFocus();
+  }
+}

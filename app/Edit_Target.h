@@ -17,6 +17,8 @@ public:
   [[nodiscard]] bool can(Command command) const;
   /// Nothing when it cannot be done.
   void run(Command command);
+  /// Makes a text that is still being typed in the window part of the project.
+  void commit();
 
 signals:
   /// Another field or list has the focus.

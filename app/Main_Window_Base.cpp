@@ -18,6 +18,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -49,7 +50,11 @@ void Main_Window_Base::buildContents(const Steps& steps) {
   mSplitterMain->setStretchFactor(1, cSecondStretch);
   // Sizes are shares here: the splitter brings them to its own size.
   mSplitterMain->setSizes({cFirstStretch * cDefaultWidth, cSecondStretch * cDefaultWidth});
-  setCentralWidget(mSplitterMain);
+  auto* const central = new QWidget;
+  auto* const layout = new QVBoxLayout(central);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(mSplitterMain);
+  setCentralWidget(central);
 
   for (auto* const bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly)) {
     bar->setVisible(!mIsKiosk);
@@ -87,6 +92,7 @@ void Main_Window_Base::buildTabs() {
 }
 
 void Main_Window_Base::connectParts() {
+  connect(mStack, &QStackedWidget::currentChanged, this, &Main_Window_Base::workChanged);
   connect(mPageView, &Page_View::refused, this, &Main_Window_Base::showInfo);
   connect(mPageView, &Page_View::pageChosen, this, &Main_Window_Base::showPage);
   connect(mAddressView, &Address_View::refused, this, &Main_Window_Base::showInfo);
@@ -117,9 +123,9 @@ void Main_Window_Base::restoreViews() {
   restoreTabs();
 }
 
-/// The names of the lower tabs in their order, the current one first.
+/// The names of the lower tabs in their order. Which is the current one is not remembered: the first is, at start.
 void Main_Window_Base::rememberTabs() {
-  QByteArrayList names{mTabs->currentWidget()->objectName().toLatin1()};
+  QByteArrayList names;
   for (int i = 0; i < mTabs->count(); ++i) {
     names.append(mTabs->widget(i)->objectName().toLatin1());
   }
@@ -132,12 +138,12 @@ void Main_Window_Base::restoreTabs() {
     QWidget* const tab = mTabs->findChild<QWidget*>(QString::fromLatin1(name));
     return tab ? mTabs->indexOf(tab) : -1;
   };
-  for (int i = 1, to = 0; i < names.size() && to < mTabs->count(); ++i) {
+  for (int i = 0, to = 0; i < names.size() && to < mTabs->count(); ++i) {
     if (const int from = tabOf(names[i]); from >= to) {
       mTabs->tabBar()->moveTab(from, to++);
     }
   }
-  mTabs->setCurrentIndex(qMax(0, tabOf(names.first())));
+  mTabs->setCurrentIndex(0);
 }
 
 void Main_Window_Base::rememberViews() {
@@ -218,7 +224,8 @@ void Main_Window_Base::showInfo(const QString& text) {
 }
 
 void Main_Window_Base::updateTitle() {
-  const QString name = QFileInfo(mSession.path()).completeBaseName();
+  const QFileInfo file(mSession.path());
+  const QString name = file.completeBaseName().isEmpty() ? file.fileName() : file.completeBaseName();
   setWindowTitle(name.isEmpty() ? QStringLiteral("Quarna-Studio") : QStringLiteral("[*]%1 - Quarna-Studio").arg(name));
   setWindowModified(mSession.isModified());
   mStartPage->setOpenProject(name);

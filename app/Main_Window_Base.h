@@ -28,6 +28,12 @@ class Main_Window_Base : public QMainWindow {
 public:
   /// Shows the window in its last place and size, a kiosk's on the whole screen.
   void showAsRemembered();
+  /// In the status bar, for some seconds.
+  void showInfo(const QString& text);
+
+signals:
+  /// The start page or the project is shown.
+  void workChanged();
 
 protected:
   /// Session and settings must outlive the window.
@@ -55,8 +61,6 @@ protected:
   void enterWork();
   void enterNavigation();
   void enterVariables();
-  /// In the status bar, for some seconds.
-  void showInfo(const QString& text);
 
   [[nodiscard]] bool isKiosk() const { return mIsKiosk; }
   [[nodiscard]] Start_Page& startPage() { return *mStartPage; }

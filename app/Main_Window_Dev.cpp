@@ -8,6 +8,7 @@
 #include "app/Geo_Position_Dlg.h"
 #include "app/Language_Menu.h"
 #include "app/Page_Tabs.h"
+#include "app/Project_Drop.h"
 #include "app/Project_Lifecycle.h"
 #include "app/Project_Overview.h"
 #include "app/Recent_Projects_Menu.h"
@@ -23,39 +24,20 @@
 #include "ui/Address_View.h"
 #include "ui/Invalid_Address_Dialog.h"
 #include "ui/Project_Search_Dialog.h"
+#include "ui/Undo_Step.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QLabel>
-#include <QMimeData>
-#include <QPointer>
+#include <QShortcut>
 #include <QStatusBar>
-#include <QTimer>
+#include <QToolBar>
 
 namespace {
 
 constexpr int cShowProjectPercent = 40;
 constexpr int cOverviewPercent = 80;
-
-/// The first project file among what is dragged; empty when there is none.
-QString projectIn(const QMimeData& data) {
-  for (const QUrl& url : data.urls()) {
-    QString path = url.toLocalFile();
-    if (path.contains(QStringLiteral(".zpro"), Qt::CaseInsensitive)) {
-      return path;
-    }
-  }
-  return {};
-}
-
-/// A "move" would have the other program delete the file afterwards.
-void acceptAsCopy(QDropEvent& event) {
-  if (event.possibleActions() & Qt::CopyAction) {
-    event.setDropAction(Qt::CopyAction);
-    event.accept();
-  }
-}
 
 } // namespace
 
@@ -63,7 +45,7 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
     : Main_Window_Base(session, settings, isKiosk),
       mState(state),
       mDialogs(std::make_unique<Window_Dialogs>(*this)),
-      mActions(new Window_Actions(*this, settings)),
+      mActions(new Window_Actions(*this)),
       mLifecycle(new Project_Lifecycle(session, settings, state, *mDialogs, this)),
       mExchange(new Address_Exchange(session, settings, *mDialogs, *this)),
       mEditTarget(new Edit_Target(*this)),
@@ -71,9 +53,13 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
           session, [this] { return actionState(); }, this)) {
   if (isKiosk) {
     mState.setOperatingMode(true);
+    mSettings.stopRemembering();
+    mLifecycle->setKiosk();
   }
   buildContents(stepsOfWindow());
-  setAcceptDrops(!isKiosk);
+  if (!isKiosk) {
+    new Project_Drop(*this, *mLifecycle);
+  }
   makeModeMark();
   connectParts();
   connectProjectLists();
@@ -83,7 +69,14 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
   updateProjectLists();
 }
 
-Main_Window_Dev::~Main_Window_Dev() = default;
+Main_Window_Dev::~Main_Window_Dev() {
+  // Editors hand over what is typed in them when they go: to the project, and not to a window that is half gone.
+  for (const QObject* const sender : std::initializer_list<const QObject*>{&mSession, &mSession.history(), &mSettings,
+                                                                           &mState, mEditTarget, &pageTabs()}) {
+    disconnect(sender, nullptr, this, nullptr);
+  }
+  delete takeCentralWidget();
+}
 
 /// None on a kiosk, which offers nothing to do.
 Main_Window_Base::Steps Main_Window_Dev::stepsOfWindow() const {
@@ -114,19 +107,22 @@ void Main_Window_Dev::connectParts() {
   connect(mExchange, &Address_Exchange::imported, this, &Main_Window_Dev::showAddresses);
   connect(mExchange, &Address_Exchange::info, this, &Main_Window_Dev::showInfo);
 
-  connect(mLifecycle, &Project_Lifecycle::beginning, this, &Main_Window_Dev::commitEditor);
+  connect(mLifecycle, &Project_Lifecycle::beginning, mEditTarget, &Edit_Target::commit);
   connect(mLifecycle, &Project_Lifecycle::info, this, &Main_Window_Dev::showInfo);
   connect(mLifecycle, &Project_Lifecycle::buildEditors, this, &Main_Window_Dev::onBuildEditors);
 
   connect(mActions, &Window_Actions::updateWanted, this, &Main_Window_Dev::updateActions);
   connect(mEditTarget, &Edit_Target::changed, this, &Main_Window_Dev::updateActions);
   connect(&pageTabs(), &Page_Tabs::changed, this, &Main_Window_Dev::updateActions);
-  connect(&mSettings, &App_Settings::changed, this, &Main_Window_Dev::updateActions);
+  connect(this, &Main_Window_Base::workChanged, this, &Main_Window_Dev::updateActions);
   connect(&mState, &Session_State::operatingModeChanged, this, &Main_Window_Dev::updateActions);
   connect(&mSession, &Project_Session::opened, this, &Main_Window_Dev::updateActions);
   connect(&mSession, &Project_Session::closed, this, &Main_Window_Dev::updateActions);
   connect(&mSession.history(), &History::changed, this, &Main_Window_Dev::updateActions);
 
+  for (const QToolBar* const bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly)) {
+    mActions->menu(Action_Menu::Bars).addAction(bar->toggleViewAction());
+  }
   auto* const languages = new Language_Menu(mActions->menu(Action_Menu::Language), mSettings);
   connect(&languages->group(), &QActionGroup::triggered, this, &Main_Window_Dev::onSelectLanguage);
 }
@@ -140,11 +136,11 @@ void Main_Window_Dev::connectProjectLists() {
   connect(&startPage(), &Start_Page::removeFavoriteWanted, &mSettings,
           [this](const QString& path) { mSettings.setFavoriteProject(path, false); });
   connect(&mSettings, &App_Settings::projectListsChanged, this, &Main_Window_Dev::updateProjectLists);
+  connect(&mSession, &Project_Session::closed, this, &Main_Window_Dev::updateProjectLists);
 }
 
 void Main_Window_Dev::connectPalette() {
-  connect(mPalette, &Command_Palette::actionChosen, this,
-          [this](const QString& slot) { mActions->action(slot)->trigger(); });
+  connect(mPalette, &Command_Palette::actionChosen, this, &Main_Window_Dev::onCommand);
   connect(mPalette, &Command_Palette::pageChosen, this, &Main_Window_Dev::showPage);
   connect(mPalette, &Command_Palette::addressChosen, this, &Main_Window_Dev::showAddress);
 }
@@ -155,6 +151,11 @@ void Main_Window_Dev::makeAutosave() {
   const auto follow = [this, autosave] { autosave->setEnabled(mSettings.isOn(Setting::AutosaveProject)); };
   connect(&mSettings, &App_Settings::changed, autosave, follow);
   follow();
+}
+
+void Main_Window_Dev::onCommand(const QString& slot) {
+  updateActions(); // no signal tells of every selection and clipboard
+  mActions->action(slot)->trigger();
 }
 
 Action_State Main_Window_Dev::actionState() const {
@@ -168,7 +169,7 @@ Action_State Main_Window_Dev::actionState() const {
   state.mCanRedo = history.canRedo();
   state.mUndoText = history.undoText();
   state.mRedoText = history.redoText();
-  state.mIsPageShown = !pageTabs().currentPage().isNull();
+  state.mIsPageShown = isProjectShown() && !pageTabs().currentPage().isNull();
   state.mTabCount = pageTabs().count();
   state.mCanCut = mEditTarget->can(Command::Cut);
   state.mCanCopy = mEditTarget->can(Command::Copy);
@@ -186,27 +187,6 @@ void Main_Window_Dev::updateProjectLists() {
   // A kiosk shows what it was started with.
   if (!isKiosk()) {
     startPage().setProjects(mSettings.lastProjects(), mSettings.favoriteProjects());
-  }
-}
-
-/// Editors hand their text over when they lose the focus.
-void Main_Window_Dev::commitEditor() {
-  const QPointer<QWidget> editor = focusWidget();
-  if (!editor || !editor->hasFocus()) {
-    return;
-  }
-  QPointer<QWidget> around = editor->parentWidget();
-  editor->clearFocus();
-  if (editor && editor->isVisible()) {
-    editor->setFocus();
-    return;
-  }
-  // The editor of a cell is gone; the keys belong to its view again.
-  while (around && (around->focusPolicy() & Qt::TabFocus) == 0) {
-    around = around->parentWidget();
-  }
-  if (around) {
-    around->setFocus();
   }
 }
 
@@ -256,31 +236,20 @@ void Main_Window_Dev::onShowWelcome() {
 }
 
 void Main_Window_Dev::onEdit_Undo() {
-  commitEditor();
-  const QString step = mSession.history().undoText();
-  QString refusal;
-  if (mSession.history().undo(&refusal)) {
-    showInfo(tr("Rückgängig: %1").arg(step));
-  } else {
-    showInfo(refusal);
-  }
+  mEditTarget->commit();
+  showInfo(Undo_Step::undo(mSession.history()));
 }
 
 void Main_Window_Dev::onEdit_Redo() {
-  commitEditor();
-  const QString step = mSession.history().redoText();
-  QString refusal;
-  if (mSession.history().redo(&refusal)) {
-    showInfo(tr("Wiederhergestellt: %1").arg(step));
-  } else {
-    showInfo(refusal);
-  }
+  mEditTarget->commit();
+  showInfo(Undo_Step::redo(mSession.history()));
 }
 
 void Main_Window_Dev::onEditGeopos() {
+  const QString path = mSession.path();
   const DB_Project& project = mSession.database().mProject;
   Geo_Position_Dlg dialog(project.mGeopos_Latitude, project.mGeopos_Longitude, this);
-  if (dialog.exec() != QDialog::Accepted || !mSession.isOpen()) {
+  if (dialog.exec() != QDialog::Accepted || mSession.path() != path) {
     return;
   }
   const Edit_Result result = Project_Edits::setGeoposition(mSession, dialog.latitude(), dialog.longitude());
@@ -297,6 +266,19 @@ void Main_Window_Dev::onEdit_ODBC_Export() {
   mExchange->exportAddresses();
 }
 
+/// The window's commands are also for a window that stays open beside it, but for the keys that this has itself.
+void Main_Window_Dev::shareKeys(QWidget& dialog) {
+  QList<QKeySequence> taken;
+  for (const QShortcut* const shortcut : dialog.findChildren<QShortcut*>()) {
+    taken.append(shortcut->key());
+  }
+  for (QAction* const action : actions()) {
+    if (!action->shortcut().isEmpty() && !taken.contains(action->shortcut())) {
+      dialog.addAction(action);
+    }
+  }
+}
+
 template <class Dialog>
 Dialog& Main_Window_Dev::resultDialog(Dialog*& dialog) {
   if (!dialog) {
@@ -304,6 +286,7 @@ Dialog& Main_Window_Dev::resultDialog(Dialog*& dialog) {
     connect(dialog, &Result_Dialog::addressChosen, this, &Main_Window_Dev::showAddress);
     connect(dialog, &Result_Dialog::pageChosen, this, &Main_Window_Dev::showPage);
     connect(dialog, &Result_Dialog::childChosen, this, &Main_Window_Dev::showChild);
+    shareKeys(*dialog);
   }
   return *dialog;
 }
@@ -325,7 +308,7 @@ void Main_Window_Dev::onEditFindReplace() {
 }
 
 void Main_Window_Dev::search(bool isReplacing) {
-  commitEditor();
+  mEditTarget->commit();
   Project_Search_Dialog& dialog = resultDialog(mProjectSearch);
   dialog.setReplaceMode(isReplacing);
   dialog.bringUp();
@@ -389,7 +372,7 @@ void Main_Window_Dev::onShowVariables() {
 }
 
 void Main_Window_Dev::onControlPlay() {
-  commitEditor();
+  mEditTarget->commit();
   mState.setOperatingMode(!mState.operatingMode());
 }
 
@@ -398,7 +381,11 @@ void Main_Window_Dev::onExtrasSettingsDev() {
 }
 
 void Main_Window_Dev::onSelectLanguage(QAction* action) {
-  mSettings.setLanguageDev(action->data().toString());
+  const QString code = action->data().toString();
+  if (code == mSettings.languageDev()) {
+    return;
+  }
+  mSettings.setLanguageDev(code);
   showInfo(tr("Die Sprache \"%1\" gilt ab dem nächsten Start.").arg(action->text()));
 }
 
@@ -413,16 +400,4 @@ void Main_Window_Dev::closeEvent(QCloseEvent* event) {
   }
   rememberViews();
   event->accept();
-}
-
-void Main_Window_Dev::dragEnterEvent(QDragEnterEvent* event) {
-  if (!mLifecycle->isBusy() && !projectIn(*event->mimeData()).isEmpty()) {
-    acceptAsCopy(*event);
-  }
-}
-
-void Main_Window_Dev::dropEvent(QDropEvent* event) {
-  acceptAsCopy(*event);
-  // The program that the file comes from waits until this is over, so no question may be asked in here.
-  QTimer::singleShot(0, this, [this, path = projectIn(*event->mimeData())] { onOpenPath(path); });
 }

@@ -67,8 +67,6 @@ public slots:
 
 protected:
   void closeEvent(QCloseEvent* event) override;
-  void dragEnterEvent(QDragEnterEvent* event) override;
-  void dropEvent(QDropEvent* event) override;
 
 private:
   [[nodiscard]] Steps stepsOfWindow() const;
@@ -81,10 +79,11 @@ private:
   void updateActions();
   void updateProjectLists();
   void onOpenPath(const QString& path);
-  void commitEditor();
+  void onCommand(const QString& slot);
   void onBuildEditors(int percent);
   template <class Dialog>
   Dialog& resultDialog(Dialog*& dialog);
+  void shareKeys(QWidget& dialog);
   void search(bool isReplacing);
 
   Session_State& mState;

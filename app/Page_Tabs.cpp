@@ -1,11 +1,13 @@
 #include "app/Page_Tabs.h"
 
 #include "app/Project_Overview.h"
+#include "db/Model_Roles.h"
 #include "db/Page_Tree_Model.h"
 #include "db/Project_Session.h"
 #include "ui/Page_Content_View.h"
 #include "ui/Theme.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QTabBar>
 
@@ -88,7 +90,7 @@ void Page_Tabs::showPage(const QUuid& guid) {
     }
     auto* const view = new Page_Content_View(mSession, mSettings, guid);
     index = addTab(view, Theme::icon(Page_Tree_Model::pageIcon(database, guid)), shortened(caption));
-    setTabToolTip(index, caption.toHtmlEscaped());
+    setTabToolTip(index, Model_Roles::toolTip(caption).toString());
   }
   setCurrentIndex(index);
 }
@@ -141,7 +143,7 @@ void Page_Tabs::closeTab(int index) {
   if (!view) {
     return;
   }
-  const bool hadFocus = view->isAncestorOf(focusWidget()) || tabBar()->hasFocus();
+  const bool hadFocus = view->isAncestorOf(QApplication::focusWidget());
   removeTab(index);
   // It may be in the middle of handling the key that closes it.
   view->deleteLater();
@@ -164,9 +166,9 @@ void Page_Tabs::follow() {
     const QString caption = captionOf(database, viewAt(i)->page());
     if (caption.isNull()) {
       closeTab(i);
-    } else if (const QString text = shortened(caption); tabText(i) != text) {
-      setTabText(i, text);
-      setTabToolTip(i, caption.toHtmlEscaped());
+    } else {
+      setTabText(i, shortened(caption));
+      setTabToolTip(i, Model_Roles::toolTip(caption).toString());
     }
   }
 }
@@ -197,12 +199,19 @@ void Page_Tabs::tabRemoved(int index) {
 }
 
 bool Page_Tabs::eventFilter(QObject* object, QEvent* event) {
-  if (object == tabBar() && event->type() == QEvent::MouseButtonRelease) {
-    const auto& mouse = static_cast<const QMouseEvent&>(*event);
-    if (mouse.button() == Qt::MiddleButton) {
-      closeTab(tabBar()->tabAt(mouse.position().toPoint()));
-      return true;
-    }
+  const bool isPress = event->type() == QEvent::MouseButtonPress;
+  if (object != tabBar() || (!isPress && event->type() != QEvent::MouseButtonRelease)) {
+    return QTabWidget::eventFilter(object, event);
   }
-  return QTabWidget::eventFilter(object, event);
+  const auto& mouse = static_cast<const QMouseEvent&>(*event);
+  if (mouse.button() != Qt::MiddleButton) {
+    return QTabWidget::eventFilter(object, event);
+  }
+  const int tab = tabBar()->tabAt(mouse.position().toPoint());
+  if (isPress) {
+    mPressed = tab;
+  } else if (tab == mPressed) {
+    closeTab(tab);
+  }
+  return true;
 }

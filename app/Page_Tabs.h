@@ -56,4 +56,5 @@ private:
   App_Settings& mSettings;
   Project_Overview& mOverview;
   std::array<QUuid, 2> mLastOfKind; ///< logic, visualisation
+  int mPressed = -1;                ///< the tab on which the middle mouse button went down
 };

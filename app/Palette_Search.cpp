@@ -4,7 +4,6 @@
 #include "db/ProjectDatabase.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QKeySequence>
 #include <QRegularExpression>
 #include <QStringList>
@@ -98,7 +97,7 @@ Palette_Entry entryOf(const Action_Row& row, const QString& title, const QString
   return {Kind::Action,
           title,
           reason.isEmpty() ? where : reason,
-          QFileInfo(QString::fromLatin1(row.mIcon)).completeBaseName(),
+          Action_Table::iconName(row),
           QString::fromLatin1(row.mSlot),
           QUuid(),
           reason.isEmpty()};

@@ -32,6 +32,9 @@ public:
   /// Asks about unsaved changes; the project stays open.
   bool mayQuit();
 
+  /// Nobody is there who could decide what becomes of a working state that was left behind: it stays where it is.
+  void setKiosk() { mIsKiosk = true; }
+
   [[nodiscard]] bool isBusy() const { return mIsBusy; }
 
 signals:
@@ -75,5 +78,6 @@ private:
   Session_State& mState;
   Lifecycle_Dialogs& mDialogs;
   bool mIsBusy = false;
+  bool mIsKiosk = false;
   bool mIsDamaged = false; ///< the project file holds what could not be read and would be lost by saving
 };

@@ -11,6 +11,11 @@ bool Project_Lifecycle::isAlreadyOpenAccepted(const QString& path) {
 Project_Lifecycle::Opening Project_Lifecycle::askHowToOpen(const QString& path) {
   using Others = Working_Copy::Others;
   Opening opening;
+  if (mIsKiosk && Working_Copy::stateOf(path) == Working_Copy::State::LeftBehind) {
+    opening.mIsAccepted = true;
+    opening.mOthers = Others::Keep;
+    return opening;
+  }
   while (const std::optional<Working_Copy::Left_Behind> found = Working_Copy::findLeftBehind(path)) {
     switch (mDialogs.askRecovery(Recovery_Text::question(path, *found, QDateTime::currentDateTime()))) {
     case Lifecycle_Dialogs::Recovery::Cancel:

@@ -1,5 +1,6 @@
 #include "app/Project_List.h"
 
+#include "db/Model_Roles.h"
 #include "ui/Theme.h"
 
 #include <QAction>
@@ -89,7 +90,8 @@ void Project_List::fill(QTreeWidgetItem& item, const QString& path) const {
   item.setText(cChanged, info.exists() ? QLocale().toString(info.lastModified(), QLocale::ShortFormat) : tr("fehlt"));
   item.setIcon(cStar, Theme::icon(isPinned ? QStringLiteral("star_filled_white") : QStringLiteral("star_white")));
   item.setToolTip(cStar, isPinned ? tr("Aus den Favoriten nehmen") : tr("Zu den Favoriten nehmen"));
-  const QString tip = info.exists() ? native : native + u'\n' + tr("Die Datei wurde nicht gefunden.");
+  const QString tip = Model_Roles::toolTip(native).toString() +
+                      (info.exists() ? QString() : QStringLiteral("<br>") + tr("Die Datei wurde nicht gefunden."));
   for (int column = cName; column < cColumnCount; ++column) {
     const bool isSecond = column != cName;
     item.setToolTip(column, tip);

@@ -30,7 +30,8 @@ Project_Overview::Project_Overview(Project_Session& session, const QList<QAction
   mPosition = addRow(*form, tr("Geographische Position"));
 
   auto* const layout = new QVBoxLayout(this);
-  layout->setContentsMargins(Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin);
+  layout->setContentsMargins(0, 0, 0, 0);
+  setContentsMargins(Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin);
   layout->setSpacing(12);
   layout->addWidget(mName);
   layout->addLayout(form);

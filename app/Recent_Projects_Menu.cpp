@@ -1,6 +1,7 @@
 #include "app/Recent_Projects_Menu.h"
 
 #include "base/App_Settings.h"
+#include "db/Model_Roles.h"
 
 #include <QAction>
 #include <QDir>
@@ -32,8 +33,8 @@ void Recent_Projects_Menu::fill() {
       text = tr("%1 (fehlt)").arg(text);
     }
     QAction* const action = mMenu.addAction(text);
-    action->setToolTip(QDir::toNativeSeparators(path));
-    action->setStatusTip(action->toolTip());
+    action->setStatusTip(QDir::toNativeSeparators(path));
+    action->setToolTip(Model_Roles::toolTip(action->statusTip()).toString());
     connect(action, &QAction::triggered, this, [this, path] { emit chosen(path); });
   }
   if (number == 0) {

@@ -10,6 +10,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -27,7 +28,11 @@ constexpr std::array cGroups{Setting_Group::Project, Setting_Group::Pages, Setti
 
 /// "spinBox_McpPort": kind and key of the setting.
 QString fieldName(const char* kind, const Setting_Row& row) {
-  return QLatin1String(kind) + QStringLiteral("_") + QString::fromLatin1(row.mKey).mid(1);
+  QString key = QString::fromLatin1(row.mKey);
+  if (key.startsWith(u'm')) {
+    key.remove(0, 1);
+  }
+  return QLatin1String(kind) + u'_' + key;
 }
 
 QString markedLabel(const Setting_Row& row) {
@@ -66,14 +71,16 @@ QWidget* Settings_Dlg::makeGroup(Setting_Group group) {
   auto* const form = new QFormLayout(box);
   form->setSpacing(cGap);
   form->setLabelAlignment(Qt::AlignLeft);
-  QString reason;
+  QStringList reasons;
   for (const Setting_Row& row : Setting_Table::rows()) {
     if (row.mGroup == group) {
       addField(*form, row);
-      reason = Setting_Table::text(row.mUnread);
+      reasons.append(Setting_Table::text(row.mUnread));
     }
   }
-  if (!reason.isEmpty()) {
+  reasons.removeAll(QString());
+  reasons.removeDuplicates();
+  for (const QString& reason : std::as_const(reasons)) {
     form->addRow(makeNote(reason));
   }
   return box;
@@ -90,7 +97,7 @@ void Settings_Dlg::addField(QFormLayout& form, const Setting_Row& row) {
     return;
   }
   editor->setMinimumWidth(cFieldWidth);
-  auto* const label = new QLabel(markedLabel(row) + u':');
+  auto* const label = new QLabel(markedLabel(row));
   label->setEnabled(reason.isEmpty());
   label->setBuddy(editor);
   editor->setAccessibleName(Setting_Table::text(row.mLabel));
@@ -105,7 +112,8 @@ QWidget* Settings_Dlg::makeEditor(const Setting_Row& row) {
     auto* const box = new QCheckBox(markedLabel(row));
     box->setObjectName(fieldName("checkBox", row));
     box->setChecked(value != 0);
-    mFields.push_back({row.mSetting, [box] { return box->isChecked() ? 1 : 0; }});
+    mStores.emplace_back(
+        [this, setting = row.mSetting, box] { mSettings.setValue(setting, box->isChecked() ? 1 : 0); });
     return box;
   }
   case Setting_Row::Kind::Number: {
@@ -114,8 +122,14 @@ QWidget* Settings_Dlg::makeEditor(const Setting_Row& row) {
     box->setRange(row.mMinimum, row.mMaximum);
     box->setSuffix(*row.mUnit ? u' ' + Setting_Table::text(row.mUnit) : QString());
     box->setValue(value);
-    mFields.push_back({row.mSetting, [box] { return box->value(); }});
+    mStores.emplace_back([this, setting = row.mSetting, box] { mSettings.setValue(setting, box->value()); });
     return box;
+  }
+  case Setting_Row::Kind::Text: {
+    auto* const line = new QLineEdit(mSettings.text(row.mSetting));
+    line->setObjectName(fieldName("lineEdit", row));
+    mStores.emplace_back([this, setting = row.mSetting, line] { mSettings.setText(setting, line->text().trimmed()); });
+    return line;
   }
   case Setting_Row::Kind::Choice:
     break;
@@ -124,13 +138,13 @@ QWidget* Settings_Dlg::makeEditor(const Setting_Row& row) {
   box->setObjectName(fieldName("comboBox", row));
   box->addItems(Setting_Table::text(row.mChoices).split(u'|'));
   box->setCurrentIndex(value);
-  mFields.push_back({row.mSetting, [box] { return box->currentIndex(); }});
+  mStores.emplace_back([this, setting = row.mSetting, box] { mSettings.setValue(setting, box->currentIndex()); });
   return box;
 }
 
 void Settings_Dlg::accept() {
-  for (const Field& field : mFields) {
-    mSettings.setValue(field.mSetting, field.mValue());
+  for (const std::function<void()>& store : mStores) {
+    store();
   }
   QDialog::accept();
 }

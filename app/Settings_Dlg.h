@@ -22,15 +22,10 @@ public:
   void accept() override;
 
 private:
-  struct Field {
-    Setting mSetting;
-    std::function<int()> mValue;
-  };
-
   [[nodiscard]] QWidget* makeGroup(Setting_Group group);
   void addField(QFormLayout& form, const Setting_Row& row);
   [[nodiscard]] QWidget* makeEditor(const Setting_Row& row);
 
   App_Settings& mSettings;
-  std::vector<Field> mFields;
+  std::vector<std::function<void()>> mStores; ///< of each field
 };

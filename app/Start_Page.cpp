@@ -2,6 +2,7 @@
 
 #include "app/Page_Parts.h"
 #include "app/Project_List.h"
+#include "db/Model_Roles.h"
 #include "ui/Theme.h"
 
 #include <QAction>
@@ -29,7 +30,7 @@ Start_Page::Start_Page(const QList<QAction*>& actions, const QList<Step>& steps,
       mFavoriteTitle(Page_Parts::makeHeading(tr("Favoriten"))),
       mFavorites(new Project_List(tr("Favoriten"))),
       mRecentHint(new QLabel(actions.isEmpty()
-                                 ? tr("Kein Projekt ist geöffnet.")
+                                 ? tr("Es ist kein Projekt geöffnet.")
                                  : tr("Noch kein Projekt geöffnet. Den ersten Blick gibt das Demo-Projekt."))),
       mRecent(new Project_List(tr("Zuletzt geöffnet"))) {
   mRecentHint->setWordWrap(true);
@@ -59,7 +60,8 @@ Start_Page::Start_Page(const QList<QAction*>& actions, const QList<Step>& steps,
 
   auto* const page = new QWidget;
   auto* const row = new QHBoxLayout(page);
-  row->setContentsMargins(Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin);
+  row->setContentsMargins(0, 0, 0, 0);
+  page->setContentsMargins(Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin);
   row->addStretch(1);
   row->addWidget(content, 100);
   row->addStretch(1);
@@ -134,7 +136,7 @@ void Start_Page::setProjects(const QStringList& recent, const QStringList& favor
 void Start_Page::setOpenProject(const QString& name) {
   const QString shown = fontMetrics().elidedText(name, Qt::ElideMiddle, cNameWidth).replace(u'&', QStringLiteral("&&"));
   mBack->setText(tr("Zurück zu \"%1\"").arg(shown));
-  mBack->setToolTip(name.toHtmlEscaped());
+  mBack->setToolTip(Model_Roles::toolTip(name).toString());
   mBack->setVisible(!name.isEmpty());
 }
 

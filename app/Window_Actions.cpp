@@ -1,10 +1,8 @@
 #include "app/Window_Actions.h"
 
-#include "base/App_Settings.h"
 #include "ui/Theme.h"
 
 #include <QAction>
-#include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -32,15 +30,13 @@ QToolBar* bar(QMainWindow& window, Action_Bar id) {
 
 } // namespace
 
-Window_Actions::Window_Actions(QMainWindow& window, const App_Settings& settings)
-    : QObject(&window),
-      mSettings(settings) {
+Window_Actions::Window_Actions(QMainWindow& window) : QObject(&window) {
   for (const Action_Row& row : Action_Table::rows()) {
     QAction* const action = row.mSubmenu ? makeSubmenu(window, row)->menuAction() : makeAction(window, row);
     action->setObjectName(QString::fromLatin1(row.mSlot));
     action->setText(Action_Table::menuText(row));
     action->setIconText(Action_Table::barText(row));
-    action->setIcon(Theme::icon(QFileInfo(QString::fromLatin1(row.mIcon)).completeBaseName()));
+    action->setIcon(Theme::icon(Action_Table::iconName(row)));
     action->setShortcut(QKeySequence(QString::fromLatin1(row.mKeys), QKeySequence::PortableText));
     if (Action_Table::isOfFocus(row)) {
       // Only told here: who has the focus takes these keys itself, and two takers would leave both without effect.
@@ -93,16 +89,6 @@ void Window_Actions::addTo(QMainWindow& window, const Action_Row& row, QAction* 
   }
 }
 
-bool Window_Actions::isChecked(const Action_Row& row, const Action_State& state) const {
-  if (*row.mMissing) {
-    return false; // what is not there shows nothing
-  }
-  if (row.mSetting) {
-    return mSettings.isOn(*row.mSetting);
-  }
-  return row.mEffect == Action_Effect::Mode && state.mIsOperating;
-}
-
 void Window_Actions::update(const Action_State& state) {
   for (const Action_Row& row : Action_Table::rows()) {
     QAction* const action = mActions.value(QString::fromLatin1(row.mSlot));
@@ -110,7 +96,7 @@ void Window_Actions::update(const Action_State& state) {
     action->setStatusTip(Action_Table::statusTip(row, state));
     action->setToolTip(Action_Table::toolTip(row, state));
     if (row.mIsCheckable) {
-      action->setChecked(isChecked(row, state));
+      action->setChecked(row.mEffect == Action_Effect::Mode && state.mIsOperating);
     }
   }
 }

@@ -87,6 +87,7 @@ int main(int argc, char* argv[]) {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quarna-studio-256.png")));
   QTranslator first;
   QTranslator second;
+  QTranslator catalogue;
   installTranslators(first, second);
   const Command_Line line = parse(QCoreApplication::arguments());
 
@@ -95,7 +96,6 @@ int main(int argc, char* argv[]) {
     std::fprintf(stderr, "%s\n", qPrintable(settings->error()));
     return cWrongArguments;
   }
-  QTranslator catalogue;
   installCatalogue(catalogue, settings->languageDev());
   // Numbers and dates follow the chosen language, never the process's locale.
   QLocale::setDefault(QLocale(settings->languageDev()));
@@ -104,6 +104,9 @@ int main(int argc, char* argv[]) {
   Project_Session session(Session_State::process());
   Main_Window_Dev window(session, *settings, Session_State::process(), line.mKiosk);
   window.showAsRemembered();
+  if (!settings->warning().isEmpty()) {
+    window.showInfo(settings->warning());
+  }
   QTimer::singleShot(0, &window, [&] { openAsAsked(window, line); });
   return QApplication::exec();
 }

@@ -1,6 +1,7 @@
 #include "base/App_Settings.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -25,11 +26,12 @@ std::unique_ptr<QSettings> openStore(const QString& file) {
 } // namespace
 
 App_Settings::App_Settings(const QString& file) : mStore(openStore(file)) {
-  if (file.isEmpty()) {
-    return;
-  }
   // The sections are read late; a file that is none would be told as empty and then written over.
   static_cast<void>(mStore->allKeys());
+  if (file.isEmpty()) {
+    putAsideWhenBroken();
+    return;
+  }
   if (QFileInfo(file).isDir() || mStore->status() != QSettings::NoError) {
     mError = QCoreApplication::translate("App_Settings", "Die Einstellungsdatei \"%1\" kann nicht gelesen werden.")
                  .arg(file);
@@ -39,11 +41,28 @@ App_Settings::App_Settings(const QString& file) : mStore(openStore(file)) {
   }
 }
 
+void App_Settings::putAsideWhenBroken() {
+  if (mStore->status() != QSettings::FormatError) {
+    return;
+  }
+  const QString path = mStore->fileName();
+  const QString aside = path + QStringLiteral(".defekt");
+  QFile::remove(aside);
+  if (QFile::copy(path, aside)) {
+    mWarning =
+        QCoreApplication::translate("App_Settings", "Die Einstellungen waren nicht lesbar; sie liegen in \"%1\".")
+            .arg(aside);
+  }
+}
+
 QVariant App_Settings::stored(const QString& key) const {
   return mStore->value(cGroup + key);
 }
 
 void App_Settings::store(const QString& key, const QVariant& value, const QVariant& defaultValue) {
+  if (!mIsRemembering) {
+    return;
+  }
   if (value == defaultValue) {
     mStore->remove(cGroup + key);
   } else {
@@ -65,9 +84,20 @@ int App_Settings::value(Setting setting) const {
 
 void App_Settings::setValue(Setting setting, int value) {
   value = Setting_Table::valid(setting, value);
-  if (value != this->value(setting)) {
+  if (mIsRemembering && value != this->value(setting)) {
     const Setting_Row& row = Setting_Table::row(setting);
     store(QString::fromLatin1(row.mKey), value, row.mDefault);
+    emit changed(setting);
+  }
+}
+
+QString App_Settings::text(Setting setting) const {
+  return stored(QString::fromLatin1(Setting_Table::row(setting).mKey)).toString();
+}
+
+void App_Settings::setText(Setting setting, const QString& text) {
+  if (mIsRemembering && text != this->text(setting)) {
+    store(QString::fromLatin1(Setting_Table::row(setting).mKey), text, QString());
     emit changed(setting);
   }
 }
@@ -79,14 +109,6 @@ QString App_Settings::languageDev() const {
 
 void App_Settings::setLanguageDev(const QString& code) {
   store(QStringLiteral("LanguageDev"), code, cGerman);
-}
-
-QString App_Settings::languageUsr() const {
-  return stored(QStringLiteral("LanguageUsr")).toString();
-}
-
-void App_Settings::setLanguageUsr(const QString& code) {
-  store(QStringLiteral("LanguageUsr"), code, QString());
 }
 
 QByteArray App_Settings::windowState() const {
@@ -129,6 +151,9 @@ QStringList App_Settings::projects(const QString& key) const {
 }
 
 void App_Settings::storeProjects(const QString& key, const QStringList& paths) {
+  if (!mIsRemembering) {
+    return;
+  }
   mStore->remove(cGroup + key);
   mStore->beginWriteArray(cGroup + key, static_cast<int>(paths.size()));
   for (int i = 0; i < paths.size(); ++i) {
@@ -182,12 +207,4 @@ QString App_Settings::lastProjectDir() const {
 
 void App_Settings::setLastProjectDir(const QString& dir) {
   store(QStringLiteral("mLastProjectDir"), dir, QString());
-}
-
-QString App_Settings::defaultConnection() const {
-  return stored(QStringLiteral("mAppDefaultConnection")).toString();
-}
-
-void App_Settings::setDefaultConnection(const QString& name) {
-  store(QStringLiteral("mAppDefaultConnection"), name, QString());
 }

@@ -23,18 +23,21 @@ public:
 
   /// Reason why a named settings file cannot be used (German), empty when it can.
   [[nodiscard]] QString error() const { return mError; }
+  /// What happened to the user's own settings (German): they could not be read and are put aside; empty when they were
+  /// read.
+  [[nodiscard]] QString warning() const { return mWarning; }
 
   /// A switch that is on has the value 1. Out of range is the default.
   [[nodiscard]] int value(Setting setting) const;
   [[nodiscard]] bool isOn(Setting setting) const { return value(setting) != 0; }
   void setValue(Setting setting, int value);
+  /// Of a setting that is a text.
+  [[nodiscard]] QString text(Setting setting) const;
+  void setText(Setting setting, const QString& text);
 
   /// Language of the studio's own texts, as a code like "de" or "pt_BR"; it takes effect at the next start.
   [[nodiscard]] QString languageDev() const;
   void setLanguageDev(const QString& code);
-  /// Language in which the visualisation is shown; empty for that of the studio.
-  [[nodiscard]] QString languageUsr() const;
-  void setLanguageUsr(const QString& code);
 
   [[nodiscard]] QByteArray windowState() const;
   void setWindowState(const QByteArray& state);
@@ -54,14 +57,12 @@ public:
   [[nodiscard]] QStringList favoriteProjects() const;
   void setFavoriteProject(const QString& path, bool isFavorite);
 
-  /// Name of the connection that a project without one of its own begins with; empty for none.
-  [[nodiscard]] QString defaultConnection() const;
-  void setDefaultConnection(const QString& name);
-
   [[nodiscard]] QString lastProjectDir() const;
   void setLastProjectDir(const QString& dir);
 
   void sync() { mStore->sync(); }
+  /// From now on nothing is stored: every setting stays what it is.
+  void stopRemembering() { mIsRemembering = false; }
 
 signals:
   void changed(Setting setting);
@@ -69,6 +70,7 @@ signals:
   void projectListsChanged();
 
 private:
+  void putAsideWhenBroken();
   [[nodiscard]] QVariant stored(const QString& key) const;
   void store(const QString& key, const QVariant& value, const QVariant& defaultValue);
   [[nodiscard]] QStringList projects(const QString& key) const;
@@ -76,4 +78,6 @@ private:
 
   std::unique_ptr<QSettings> mStore;
   QString mError;
+  QString mWarning;
+  bool mIsRemembering = true;
 };

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -14,8 +15,17 @@ const QString cPrefix = QStringLiteral("quarna-studio_");
 const QString cSuffix = QStringLiteral(".qm");
 const QString cGerman = QStringLiteral("de");
 
+/// A code names a file, so it must not lead elsewhere.
+bool isCode(const QString& code) {
+  static const QRegularExpression form(QStringLiteral("^[A-Za-z0-9_]+$"));
+  return form.match(code).hasMatch();
+}
+
 QString nameOf(const QString& code) {
   const QLocale locale(code);
+  if (code == u"en") {
+    return QStringLiteral("English"); // the toolkit would name a country's
+  }
   // A code that the toolkit does not know becomes the C locale.
   QString name = locale.language() == QLocale::C ? code : locale.nativeLanguageName();
   if (!name.isEmpty()) {
@@ -38,7 +48,7 @@ QList<Language_Catalogues::Language> Language_Catalogues::available(const QStrin
   for (const QString& folder : folders) {
     for (const QString& file : QDir(folder).entryList({cPrefix + u'*' + cSuffix}, QDir::Files)) {
       const QString code = file.mid(cPrefix.size(), file.size() - cPrefix.size() - cSuffix.size());
-      if (!code.isEmpty() && code != cGerman && !codes.contains(code)) {
+      if (isCode(code) && code != cGerman && !codes.contains(code)) {
         codes.append(code);
       }
     }
@@ -55,7 +65,7 @@ QList<Language_Catalogues::Language> Language_Catalogues::available(const QStrin
 }
 
 QString Language_Catalogues::fileOf(const QString& code, const QStringList& folders) {
-  if (code.isEmpty() || code == cGerman || code.contains(u'/')) {
+  if (!isCode(code) || code == cGerman) {
     return {};
   }
   for (const QString& folder : folders) {

@@ -44,7 +44,14 @@ constexpr Setting_Row cRows[] = {
     {Setting::ShowHsBlocks, "mShowHsBlocks", Group::Pages, Kind::Switch, 0, 0, 1, u'H',
      QT_TRANSLATE_NOOP("Setting_Table", "HS-Bausteine im Katalog anzeigen"),
      QT_TRANSLATE_NOOP("Setting_Table", "Der Katalog zeigt auch seine Kategorie der HS-Bausteine"), "", "", cWithPages},
+    {Setting::LanguageUsr, "LanguageUsr", Group::Pages, Kind::Text, 0, 0, 0, u'z',
+     QT_TRANSLATE_NOOP("Setting_Table", "Sprache, in der die Visualisierung gezeigt wird"),
+     QT_TRANSLATE_NOOP("Setting_Table", "Kürzel der Sprache wie \"de\" oder \"en\"; leer für die des Studios"), "", "",
+     QT_TRANSLATE_NOOP("Setting_Table", "Die Sprache der Visualisierung wirkt, sobald diese gezeichnet wird.")},
 
+    {Setting::AppDefaultConnection, "mAppDefaultConnection", Group::Controller, Kind::Text, 0, 0, 0, u'N',
+     QT_TRANSLATE_NOOP("Setting_Table", "Name der Verbindung neuer Projekte"),
+     QT_TRANSLATE_NOOP("Setting_Table", "Verbindung, mit der ein Projekt ohne eigene beginnt"), "", "", cWithLink},
     {Setting::AskBeforeWriteBootProject, "mAskBeforeWriteBootProject", Group::Controller, Kind::Switch, 1, 0, 1, u'V',
      QT_TRANSLATE_NOOP("Setting_Table", "Vor dem Erzeugen des Bootprojekts fragen"),
      QT_TRANSLATE_NOOP("Setting_Table", "Fragt, bevor das Projekt permanent auf der Steuerung gespeichert wird"), "", "",
@@ -58,9 +65,9 @@ constexpr Setting_Row cRows[] = {
      QT_TRANSLATE_NOOP("Setting_Table", "MCP-Server Debug"),
      QT_TRANSLATE_NOOP("Setting_Table", "Schreibt jeden Aufruf des KI-Assistenten in das Protokoll des Programms"), "",
      QT_TRANSLATE_NOOP("Setting_Table", "Aus|Ein"), cWithServer},
-    {Setting::McpCheckOrigin, "mMcpCheckOrigin", Group::Assistant, Kind::Switch, 1, 0, 1, u'N',
-     QT_TRANSLATE_NOOP("Setting_Table", "Nur Anfragen dieses Rechners annehmen"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Weist Anfragen ab, die eine Webseite im Browser stellt"), "", "", cWithServer},
+    {Setting::McpCheckOrigin, "mMcpCheckOrigin", Group::Assistant, Kind::Switch, 1, 0, 1, u'f',
+     QT_TRANSLATE_NOOP("Setting_Table", "Anfragen aus Webseiten abweisen"),
+     QT_TRANSLATE_NOOP("Setting_Table", "Eine Webseite im Browser dieses Rechners erreicht den MCP-Server dann nicht"), "", "", cWithServer},
 };
 // clang-format on
 

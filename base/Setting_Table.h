@@ -4,7 +4,7 @@
 
 #include <span>
 
-/// A number or switch among the application's settings.
+/// One of the application's settings that a user sets in a dialog.
 enum class Setting {
   AutosaveProject,
   ShowGrid,
@@ -13,6 +13,8 @@ enum class Setting {
   FBCopyPasteKeepIO,
   FBDebugToolTip,
   ShowHsBlocks,
+  LanguageUsr,
+  AppDefaultConnection,
   AskBeforeWriteBootProject,
   McpPort,
   McpDebug,
@@ -28,6 +30,7 @@ struct Setting_Row {
     Switch, ///< 0 or 1
     Number, ///< from minimum to maximum
     Choice, ///< number of one of the choices
+    Text,   ///< empty by default
   };
 
   Setting mSetting = Setting::AutosaveProject;
@@ -45,7 +48,7 @@ struct Setting_Row {
   const char* mUnread = "";  ///< German reason why nothing reads it yet; empty when something does
 };
 
-/// Every setting that is a number or a switch, once, in the order of the dialog.
+/// Every setting of the dialog, once, in its order.
 namespace Setting_Table {
 
 [[nodiscard]] std::span<const Setting_Row> rows();

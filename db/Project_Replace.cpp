@@ -13,6 +13,8 @@
 #include <QHash>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace {
 
@@ -28,6 +30,7 @@ QString tr(const char* text) {
 struct Change {
   Hit mHit;
   QString mText;
+  qsizetype mCount = 0; ///< of matches
 };
 
 /// With more of them the views are built anew once instead of hearing of each.
@@ -90,7 +93,13 @@ void setPageComment(DB_Page_List<Page>& list, Undo_Adapter& undo, Edit_Scope& sc
 /// Carries the changes out, inside a scope that is open.
 class Replacer {
 public:
-  Replacer(Project_Session& session, Edit_Scope& scope) : mSession(session), mScope(scope) {}
+  /// Told of each change that was refused, and why.
+  using On_Refusal = std::function<void(const Change& change, const QString& reason)>;
+
+  Replacer(Project_Session& session, Edit_Scope& scope, On_Refusal onRefusal)
+      : mSession(session),
+        mScope(scope),
+        mOnRefusal(std::move(onRefusal)) {}
 
   void apply(const std::vector<Change>& changes) {
     QHash<QUuid, QString> variables;
@@ -109,8 +118,14 @@ public:
     if (isMany) {
       tree.endChange();
     }
-    if (!variables.isEmpty()) {
-      Variable_Edits::rename(mSession, variables);
+    if (variables.isEmpty()) {
+      return;
+    }
+    const Edit_Result result = Variable_Edits::rename(mSession, variables);
+    for (const Change& change : changes) {
+      if (change.mHit.mKind == Kind::Variable) {
+        check(change, result);
+      }
     }
   }
 
@@ -122,7 +137,7 @@ private:
     case Kind::LogicPage:
     case Kind::VisuPage:
       if (hit.mField == Field::Name) {
-        Project_Edits::renamePage(mSession, hit.mId, change.mText);
+        check(change, Project_Edits::renamePage(mSession, hit.mId, change.mText));
       } else if (hit.mKind == Kind::LogicPage) {
         setPageComment(database.mFbPages, mSession.fbPageUndo(), mScope, change);
       } else {
@@ -136,14 +151,20 @@ private:
       setChildText(database.mWidgetPages, mSession.elementUndo(), mScope, change);
       return;
     default:
-      Address_Edits::set(mSession, {hit.mId},
-                         hit.mField == Field::Name ? Address_Edits::Field::Name : Address_Edits::Field::Description,
-                         change.mText);
+      const auto field = hit.mField == Field::Name ? Address_Edits::Field::Name : Address_Edits::Field::Description;
+      check(change, Address_Edits::set(mSession, {hit.mId}, field, change.mText));
+    }
+  }
+
+  void check(const Change& change, const Edit_Result& result) const {
+    if (!result) {
+      mOnRefusal(change, result.mError);
     }
   }
 
   Project_Session& mSession;
   Edit_Scope& mScope;
+  On_Refusal mOnRefusal;
 };
 
 /// Their present names by their keys, if there are variables among the hits: they may have changed since the search.
@@ -195,6 +216,15 @@ Outcome Project_Replace::replace(Project_Session& session, const Project_Search:
   const Text_Search search(query.mText, query.mOptions);
   const QHash<QUuid, QString> variables = variablesOf(database, hits);
   Outcome outcome;
+  const auto refuse = [&](const Hit& hit, qsizetype count, const QString& reason) {
+    outcome.mRefused += count;
+    if (outcome.mFirstRefused.isEmpty()) {
+      outcome.mFirstRefused = tr("%1 %2, %3: %4")
+                                  .arg(Project_Search_Labels::kind(hit.mKind),
+                                       Project_Search_Labels::place(database, result, hit, typeName),
+                                       Project_Search_Labels::field(hit), reason);
+    }
+  };
   std::vector<Change> changes;
   for (const Hit& hit : hits) {
     const QString old =
@@ -208,21 +238,19 @@ Outcome Project_Replace::replace(Project_Session& session, const Project_Search:
     }
     if (reason.isEmpty()) {
       outcome.mReplaced += count;
-      changes.push_back({hit, text});
-      continue;
-    }
-    outcome.mRefused += count;
-    if (outcome.mFirstRefused.isEmpty()) {
-      outcome.mFirstRefused = tr("%1 %2, %3: %4")
-                                  .arg(Project_Search_Labels::kind(hit.mKind),
-                                       Project_Search_Labels::place(database, result, hit, typeName),
-                                       Project_Search_Labels::field(hit), reason);
+      changes.push_back({hit, text, count});
+    } else {
+      refuse(hit, count, reason);
     }
   }
   Edit_Scope scope(session.history(), tr("Ersetzen"), Edit_Scope::Grouping::Own);
   if (!scope) {
     return {scope.refusal(), 0, 0, {}};
   }
-  Replacer(session, scope).apply(changes);
+  const auto onRefusal = [&](const Change& change, const QString& reason) {
+    outcome.mReplaced -= change.mCount;
+    refuse(change.mHit, change.mCount, reason);
+  };
+  Replacer(session, scope, onRefusal).apply(changes);
   return outcome;
 }

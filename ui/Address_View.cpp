@@ -89,7 +89,7 @@ QWidget* Address_View::makeListPage() {
           [escape](const QString& text) { escape->setEnabled(!text.isEmpty()); });
 
   setUpColumns();
-  mEmpty->setText(tr("Kein Projekt ist geöffnet. Hier stehen die Gruppenadressen des Projekts."));
+  mEmpty->setText(tr("Es ist kein Projekt geöffnet. Hier stehen die Gruppenadressen des Projekts."));
   mNoAddress->setText(tr("Hier stehen die Gruppenadressen des Projekts. Sie kommen aus dem Export der ETS, aus einer "
                          "Tabelle (mit + einfügen) oder werden mit + einzeln angelegt."));
   mNoAddress->setStep(tr("Adressen &importieren…"));

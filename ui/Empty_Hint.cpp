@@ -21,7 +21,8 @@ Empty_Hint::Empty_Hint(QWidget* parent) : QWidget(parent), mLabel(new QLabel), m
   connect(mStep, &QPushButton::clicked, this, &Empty_Hint::stepRequested);
 
   auto* const layout = new QVBoxLayout(this);
-  layout->setContentsMargins(cMargin, cMargin, cMargin, cMargin);
+  layout->setContentsMargins(0, 0, 0, 0);
+  setContentsMargins(cMargin, cMargin, cMargin, cMargin);
   layout->setSpacing(cGap);
   layout->addStretch(1);
   layout->addWidget(mLabel);

@@ -35,7 +35,8 @@ Page_Details_View::Page_Details_View(Page_Tree_Model& model, const Session_State
 
 QWidget* Page_Details_View::makeForm() {
   auto* const content = new QWidget;
-  mForm->setContentsMargins(cGap, cGap, cGap, cGap);
+  mForm->setContentsMargins(0, 0, 0, 0);
+  content->setContentsMargins(cGap, cGap, cGap, cGap);
   mForm->setSpacing(cGap);
   mForm->setLabelAlignment(Qt::AlignLeft);
   mForm->addRow(tr("&Name"), mName);

@@ -32,7 +32,7 @@ Page_View::Page_View(Project_Session& session, QWidget* parent)
   mTree->setEditTriggers(QAbstractItemView::NoEditTriggers); // a double click opens; F2 renames
   makeOpenCommand();
   auto* const hint = new Empty_Hint;
-  hint->setText(tr("Kein Projekt ist geöffnet. Hier stehen die Seiten des Projekts."));
+  hint->setText(tr("Es ist kein Projekt geöffnet. Hier stehen die Seiten des Projekts."));
   mTreeOrHint->addWidget(hint);
   mTreeOrHint->addWidget(mTree);
 

@@ -7,6 +7,7 @@
 #include "ui/Match_Delegate.h"
 #include "ui/Result_List.h"
 #include "ui/Theme.h"
+#include "ui/Undo_Step.h"
 #include "ui/Wait_Cursor.h"
 
 #include <QCheckBox>
@@ -133,8 +134,8 @@ void Project_Search_Dialog::makeKeys() {
   add(QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { onPrevious(); });
   add(QKeySequence(Qt::CTRL | Qt::Key_F), [this] { setReplaceMode(false); });
   add(QKeySequence(Qt::CTRL | Qt::Key_H), [this] { setReplaceMode(true); });
-  add(QKeySequence::Undo, [this] { takeBack(true); });
-  add(QKeySequence::Redo, [this] { takeBack(false); });
+  add(QKeySequence::Undo, [this] { tell(Undo_Step::undo(mSession.history())); });
+  add(QKeySequence::Redo, [this] { tell(Undo_Step::redo(mSession.history())); });
 }
 
 void Project_Search_Dialog::setReplaceMode(bool isOn) {
@@ -142,10 +143,6 @@ void Project_Search_Dialog::setReplaceMode(bool isOn) {
   setWindowTitle(isOn ? tr("Suchen und ersetzen") : tr("Suchen"));
   filter().setFocus(Qt::OtherFocusReason);
   filter().selectAll();
-}
-
-bool Project_Search_Dialog::isReplaceMode() const {
-  return !mReplaceRow->isHidden();
 }
 
 void Project_Search_Dialog::onNext() {
@@ -224,18 +221,6 @@ void Project_Search_Dialog::replace(const std::vector<Project_Search::Hit>& hits
   tell(outcome.toString());
 }
 
-void Project_Search_Dialog::takeBack(bool isUndo) {
-  History& history = mSession.history();
-  const QString step = isUndo ? history.undoText() : history.redoText();
-  QString refusal;
-  const bool isDone = isUndo ? history.undo(&refusal) : history.redo(&refusal);
-  if (isDone) {
-    tell((isUndo ? tr("Rückgängig gemacht: %1") : tr("Wiederhergestellt: %1")).arg(step));
-  } else {
-    tell(refusal);
-  }
-}
-
 void Project_Search_Dialog::tell(const QString& note) {
   mNote->setText(note);
   mNote->setVisible(!note.isEmpty());
@@ -253,7 +238,7 @@ void Project_Search_Dialog::updateTexts() {
 
 QString Project_Search_Dialog::emptyText() const {
   if (!mSession.isOpen()) {
-    return tr("Kein Projekt ist geöffnet.");
+    return tr("Es ist kein Projekt geöffnet.");
   }
   const QString text = filter().text();
   if (text.isEmpty()) {

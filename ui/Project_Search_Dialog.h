@@ -20,12 +20,6 @@ public:
 
   /// Whether the window also replaces. The search field gets the focus.
   void setReplaceMode(bool isOn);
-  [[nodiscard]] bool isReplaceMode() const;
-
-public slots:
-  /// Goes on to the next or previous hit of the list and chooses it.
-  void onNext();
-  void onPrevious();
 
 protected:
   void refresh() override;
@@ -33,6 +27,9 @@ protected:
   [[nodiscard]] Result_List& mainList() override { return *mList; }
 
 private:
+  /// Goes on to the next or previous hit of the list and chooses it.
+  void onNext();
+  void onPrevious();
   void makeReplaceRow();
   void makeOptions();
   void makeList();
@@ -42,7 +39,6 @@ private:
   void replaceAll();
   void replaceSelected();
   void replace(const std::vector<Project_Search::Hit>& hits);
-  void takeBack(bool isUndo);
   void tell(const QString& note);
   void updateTexts();
   void updateButtons();

@@ -18,7 +18,7 @@ QMenu { border: 1px solid @Border@; padding: 4px 0px; }
 QMenu::item { padding: 4px 24px 4px 8px; border: 1px solid transparent; }
 QMenu::item:selected { background: @Selection@; color: @AccentText@; }
 QMenu::item:disabled { color: @DisabledText@; }
-QMenu::item:disabled:selected { background: @Hover@; color: @SecondaryText@; }
+QMenu::item:disabled:selected { color: @SecondaryText@; }
 QMenu::icon { padding-left: 8px; }
 QMenu::icon:checked { background: @Accent@; }
 QMenu::separator { height: 1px; background: @MenuSeparator@; margin: 4px 8px; }

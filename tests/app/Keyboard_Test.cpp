@@ -1,3 +1,4 @@
+#include "app/About_Dlg.h"
 #include "app/Command_Palette.h"
 #include "app/Geo_Position_Dlg.h"
 #include "app/Main_Window_Dev.h"
@@ -11,6 +12,7 @@
 #include "ui/Address_Import_Dialog.h"
 #include "ui/Address_Search_Dialog.h"
 #include "ui/Invalid_Address_Dialog.h"
+#include "ui/Project_Search_Dialog.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -133,8 +135,10 @@ private slots:
 
   void everyControlIsReachedAndNamed_data() {
     QTest::addColumn<int>("window");
-    const char* const names[] = {"start page", "project", "variables", "page", "settings",
-                                 "position",   "import",  "search",    "check"};
+    const char* const names[] = {
+        "start page", "project",          "variables", "page",   "settings", "position",
+        "import",     "use of addresses", "check",     "search", "replace",  "about",
+    };
     for (int i = 0; i < int(std::size(names)); ++i) {
       QTest::newRow(names[i]) << i;
     }
@@ -171,6 +175,13 @@ private slots:
         [&] { dialog = std::make_unique<Address_Import_Dialog>(rig.mSession, rig.mSettings, rig.folder(), nullptr); },
         [&] { dialog = std::make_unique<Address_Search_Dialog>(rig.mSession, rig.mSettings, nullptr); },
         [&] { dialog = std::make_unique<Invalid_Address_Dialog>(rig.mSession, rig.mSettings, nullptr); },
+        [&] { dialog = std::make_unique<Project_Search_Dialog>(rig.mSession, rig.mSettings, nullptr); },
+        [&] {
+          auto search = std::make_unique<Project_Search_Dialog>(rig.mSession, rig.mSettings, nullptr);
+          search->setReplaceMode(true);
+          dialog = std::move(search);
+        },
+        [&] { dialog = std::make_unique<About_Dlg>(nullptr); },
     };
     if (window > 3) {
       QVERIFY(rig.create());

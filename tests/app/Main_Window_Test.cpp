@@ -1,4 +1,5 @@
 #include "app/Action_Table.h"
+#include "app/Command_Palette.h"
 #include "app/Main_Window_Dev.h"
 #include "app/Page_Tabs.h"
 #include "app/Project_Lifecycle.h"
@@ -7,6 +8,7 @@
 #include "db/Project_Edits.h"
 #include "tests/db/Session_Rig.h"
 #include "ui/Address_View.h"
+#include "ui/Message_Dialog.h"
 #include "ui/Page_Details_View.h"
 #include "ui/Page_View.h"
 #include "ui/Project_Tree_View.h"
@@ -17,12 +19,17 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSplitter>
+#include <QStackedLayout>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTabWidget>
+#include <QToolBar>
+#include <QTreeView>
 
 namespace {
 
@@ -154,7 +161,8 @@ private slots:
       QTimer closer;
       connect(&closer, &QTimer::timeout, qApp, [&isDialogSeen] {
         if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-          isDialogSeen = true;
+          // The question about unsaved changes is not what the action is there for.
+          isDialogSeen = isDialogSeen || !qobject_cast<Message_Dialog*>(dialog);
           if (!press(*dialog, u"Nein"_s)) {
             dialog->reject();
           }
@@ -256,16 +264,144 @@ private slots:
     QCOMPARE(caption(), u"quit"_s);
   }
 
+  void layoutAndFirstTab() {
+    Window_Rig rig;
+    rig.mWindow.resize(1405, 800);
+    rig.show();
+    auto* const main = rig.mWindow.findChild<QSplitter*>(u"ui:mSplitterMain"_s);
+    auto* const right = rig.mWindow.findChild<QSplitter*>(u"ui:mSplitterRight"_s);
+    auto* const tabs = qobject_cast<QTabWidget*>(main->widget(1));
+    QCOMPARE(main->orientation(), Qt::Horizontal);
+    QCOMPARE(right->orientation(), Qt::Vertical);
+    QVERIFY(qobject_cast<QStackedWidget*>(main->widget(0)) && rig.stack()->count() == 2);
+    QVERIFY(std::abs(main->sizes().at(0) - 1.5 * main->sizes().at(1)) < 3);
+    QVERIFY(std::abs(3 * right->sizes().at(0) - right->sizes().at(1)) < 5);
+    QVERIFY(tabs->tabPosition() == QTabWidget::South && tabs->isMovable() && tabs->currentIndex() == 0);
+    QCOMPARE(tabs->tabText(0) + tabs->tabText(1), u"NavigationVariablen"_s);
+    for (const QLayout* const layout : rig.mWindow.centralWidget()->findChildren<QLayout*>()) {
+      const bool isStack = qobject_cast<const QStackedLayout*>(layout); // these have no margins at all
+      QVERIFY2(isStack || layout->contentsMargins().isNull(), layout->parentWidget()->metaObject()->className());
+    }
+  }
+
+  void looksSurviveARestart() {
+    Window_Rig rig;
+    rig.show();
+    auto* const main = rig.mWindow.findChild<QSplitter*>(u"ui:mSplitterMain"_s);
+    main->setSizes({900, 300});
+    auto* const tabs = qobject_cast<QTabWidget*>(main->widget(1));
+    tabs->tabBar()->moveTab(0, 1);
+    tabs->setCurrentIndex(1);
+    rig.mWindow.findChild<QToolBar*>()->hide();
+    const QList<int> sizes = main->sizes();
+    QVERIFY(rig.mWindow.close());
+    Main_Window_Dev again(rig.mSession, rig.mSettings, rig.mState, false);
+    again.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&again));
+    auto* const mainAgain = again.findChild<QSplitter*>(u"ui:mSplitterMain"_s);
+    auto* const tabsAgain = qobject_cast<QTabWidget*>(mainAgain->widget(1));
+    QCOMPARE(mainAgain->sizes(), sizes);
+    QCOMPARE(tabsAgain->tabText(0), u"Variablen"_s);
+    QCOMPARE(tabsAgain->currentIndex(), 0); // always the first
+    QVERIFY(!again.findChild<QToolBar*>()->isVisible());
+  }
+
+  void languageOfTheNextStart() {
+    Window_Rig rig;
+    QAction english;
+    english.setData(u"en"_s);
+    rig.mWindow.onSelectLanguage(&english);
+    QCOMPARE(rig.mSettings.languageDev(), u"en"_s);
+    QVERIFY(rig.action("mMenuLanguage")->menu()->actions().at(0)->isChecked());
+  }
+
+  /// No signal tells of every selection: the palette asks, and the command must know what it was told.
+  void aPaletteCommandKnowsTheSelection() {
+    Window_Rig rig;
+    rig.prepare();
+    rig.mField->deselect();
+    emit rig.mWindow.menuBar()->actions().at(1)->menu()->aboutToShow();
+    QVERIFY(!rig.action("onEditCut")->isEnabled());
+    rig.mField->selectAll();
+    emit rig.mWindow.findChild<Command_Palette*>()->actionChosen(u"onEditCut"_s);
+    QCOMPARE(rig.mField->text(), QString());
+  }
+
+  void anUnseenTabIsNotClosedAndTakesNoFocus() {
+    Window_Rig rig;
+    rig.prepare();
+    auto* const tabs = rig.mWindow.findChild<Page_Tabs*>();
+    rig.action("onPageClose")->trigger();
+    QVERIFY(rig.mField->hasFocus());
+    rig.action("onShowWelcome")->trigger();
+    QVERIFY(!rig.action("onPageClose")->isEnabled());
+    QCOMPARE(tabs->count(), 2);
+  }
+
+  void theReasonInTheOperatingMode() {
+    Window_Rig rig;
+    rig.prepare();
+    rig.addAddress({1, 2, 3}, u"Licht"_s);
+    auto* const tree = rig.mWindow.findChild<Address_View*>()->findChild<QTreeView*>();
+    rig.mField->clear();
+    QCoreApplication::processEvents();
+    tree->setFocus();
+    tree->selectAll();
+    rig.mState.setOperatingMode(true);
+    for (const char* const slot : {"onEditCut", "onEditDelete", "onEdit_Undo"}) {
+      QCOMPARE(rig.action(slot)->statusTip(), Session_State::operatingModeRefusal());
+    }
+    QVERIFY(rig.action("onEditCopy")->isEnabled());
+  }
+
+  void anOpenEditorGoesWithTheWindow() {
+    auto rig = std::make_unique<Session_Rig>();
+    App_Settings settings(rig->path(u"studio.ini"_s));
+    QVERIFY(rig->create());
+    {
+      Main_Window_Dev window(rig->mSession, settings, rig->mState, false);
+      window.show();
+      QVERIFY(QTest::qWaitForWindowActive(&window));
+      auto* const tree = window.findChild<Page_View*>()->findChild<Project_Tree_View*>();
+      tree->edit(tree->model()->index(0, 0, tree->model()->index(0, 0)));
+      QTest::keyClicks(QApplication::focusWidget(), u"zuletzt"_s);
+    }
+    QVERIFY(rig->mSession.isOpen());
+  }
+
+  void theWindowsKeysWorkBesideIt() {
+    Window_Rig rig;
+    rig.prepare();
+    rig.action("onEdit_Search")->trigger();
+    auto* const search = rig.mWindow.findChild<Result_Dialog*>();
+    QVERIFY(QTest::qWaitForWindowActive(search) && rig.mSession.isModified());
+    QTest::keyClick(search, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!rig.mSession.isModified());
+    QTest::keyClick(search, Qt::Key_H, Qt::ControlModifier);
+    QCOMPARE(search->windowTitle(), u"Suchen und ersetzen"_s);
+  }
+
   void aKioskEditsNothingAndRemembersNothing() {
     Window_Rig rig(true);
     rig.mWindow.showAsRemembered();
-    QVERIFY(QTest::qWaitForWindowExposed(&rig.mWindow));
-    QVERIFY(rig.mWindow.isFullScreen() && !rig.mWindow.menuBar()->isVisible());
+    QVERIFY(QTest::qWaitForWindowActive(&rig.mWindow));
+    QVERIFY(rig.mWindow.isFullScreen() && !rig.mWindow.menuBar()->isVisible() && !rig.mWindow.acceptDrops());
+    for (const QToolBar* const bar : rig.mWindow.findChildren<QToolBar*>()) {
+      QVERIFY(!bar->isVisible());
+    }
     QVERIFY(rig.create());
+    rig.mSession.close();
+    QVERIFY(rig.mWindow.lifecycle().open(rig.path()));
     QVERIFY(!rig.edit());
-    QVERIFY(rig.action("onMenuFileQuit")->isEnabled() && !rig.action("onMenuFileNew")->isEnabled());
+    QTest::keyClick(&rig.mWindow, Qt::Key_F5);
+    QTest::keyClick(&rig.mWindow, Qt::Key_K, Qt::ControlModifier);
+    QVERIFY(rig.mState.operatingMode() && !rig.mWindow.findChild<Command_Palette*>()->isVisible());
+    for (const Action_Row& row : Action_Table::rows()) {
+      QVERIFY2(rig.action(row.mSlot)->isEnabled() == (qstrcmp(row.mSlot, "onMenuFileQuit") == 0), row.mSlot);
+    }
     QVERIFY(rig.mWindow.close());
-    QVERIFY(rig.mSettings.windowState().isEmpty());
+    rig.mSettings.sync();
+    QVERIFY(Session_Rig::bytesOf(rig.path(u"studio.ini"_s)).isEmpty());
   }
 };
 

@@ -21,8 +21,9 @@ private slots:
     Settings_Dlg dialog(settings, nullptr);
     QSet<QChar> keys;
     for (const Setting_Row& row : Setting_Table::rows()) {
-      const QString name = QString::fromLatin1(row.mKey).mid(1);
-      const QRegularExpression names(u"^(checkBox|spinBox|comboBox)_%1$"_s.arg(name));
+      QString name = QString::fromLatin1(row.mKey);
+      name.remove(QRegularExpression(u"^m"_s));
+      const QRegularExpression names(u"^(checkBox|spinBox|comboBox|lineEdit)_%1$"_s.arg(name));
       const QWidget* const field = dialog.findChildren<QWidget*>(names).value(0);
       QVERIFY2(field, row.mKey);
       QCOMPARE(field->isEnabled(), !*row.mUnread);
@@ -37,8 +38,8 @@ private slots:
     for (const QLabel* const label : dialog.findChildren<QLabel*>()) {
       texts.append(QString(label->text()).remove(u'&'));
     }
-    QVERIFY(texts.contains(u"MCP-Server Port (0 = deaktiviert, Neustart nötig):"_s));
-    QVERIFY(texts.contains(u"MCP-Server Debug:"_s));
+    QVERIFY(texts.contains(u"MCP-Server Port (0 = deaktiviert, Neustart nötig)"_s));
+    QVERIFY(texts.contains(u"MCP-Server Debug"_s));
   }
 
   void onlyAcceptingStores() {

@@ -45,6 +45,12 @@ private slots:
     for (const Setting_Row& row : Setting_Table::rows()) {
       const QString key = QStringLiteral("Settings/") + QLatin1String(row.mKey);
       App_Settings settings(mFile);
+      if (row.mKind == Setting_Row::Kind::Text) {
+        settings.setText(row.mSetting, QStringLiteral("Büro"));
+        settings.sync();
+        QCOMPARE(App_Settings(mFile).text(row.mSetting), QStringLiteral("Büro"));
+        continue;
+      }
       QSignalSpy changes(&settings, &App_Settings::changed);
       QCOMPARE(settings.value(row.mSetting), row.mDefault);
       const int other = row.mDefault == row.mMaximum ? row.mMinimum : row.mMaximum;

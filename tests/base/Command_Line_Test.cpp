@@ -24,6 +24,8 @@ private slots:
     row("later one replaces", {"haus.zpro", "b.zpro"}, "b.zpro", "");
     row("later missing one does not", {"haus.zpro", "missing.zpro"}, "haus.zpro", "");
     row("other file", {"haus.txt"}, "", "");
+    row("extension in capitals", {"HAUS.ZPRO"}, "HAUS.ZPRO", "");
+    row("extension in the middle, in any case", {"Haus.ZpRo.alt"}, "Haus.ZpRo.alt", "");
     row("among options", {"--kiosk", "haus.zpro", "--demo"}, "haus.zpro", "kiosk demo");
     row("kiosk in capitals", {"--KIOSK"}, "", "kiosk");
     row("help", {"--help"}, "", "help");

@@ -26,8 +26,7 @@ private slots:
     for (const auto& [code, name] : Language_Catalogues::available(folders)) {
       seen.append(code + u'=' + name);
     }
-    QCOMPARE(seen,
-             QStringList({u"de=Deutsch"_s, u"en=American English"_s, u"pt_BR=Português (Brasil)"_s, u"tlh0=Tlh0"_s}));
+    QCOMPARE(seen, QStringList({u"de=Deutsch"_s, u"en=English"_s, u"pt_BR=Português (Brasil)"_s, u"tlh0=Tlh0"_s}));
     const std::pair<QString, QString> files[] = {
         {u"en"_s, first.filePath(u"quarna-studio_en.qm"_s)},
         {u"tlh0"_s, second.filePath(u"quarna-studio_tlh0.qm"_s)},
@@ -35,6 +34,7 @@ private slots:
         {u"fr"_s, {}},
         {QString(), {}},
         {u"../quarna-studio_en"_s, {}},
+        {u"..\\\\en"_s, {}},
     };
     for (const auto& [code, file] : files) {
       QCOMPARE(Language_Catalogues::fileOf(code, folders), file);

@@ -140,7 +140,7 @@ private slots:
     QCOMPARE(shownRows(), QStringList{"Das Projekt enthält \"licht\" nicht."});
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
     QTRY_COMPARE(shownRows(), QStringList{"Adresse|1/2/3|Name|Licht"});
-    QCOMPARE(label("ui:mNote")->text(), QStringLiteral("Rückgängig gemacht: Ersetzen"));
+    QCOMPARE(label("ui:mNote")->text(), QStringLiteral("Rückgängig: Ersetzen"));
     QTest::keyClick(mTree, Qt::Key_Z, Qt::ControlModifier);
     QTRY_COMPARE(shownRows().size(), 2);
     type(QStringLiteral("Reserve"));

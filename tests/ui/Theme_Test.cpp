@@ -50,6 +50,24 @@ class Theme_Test : public QObject {
 private slots:
   void initTestCase() { Theme::apply(*qApp); }
 
+  /// These are prescribed, whatever else the theme does.
+  void fixedLooks() {
+    QCOMPARE(QApplication::style()->metaObject()->className(), "QStyleSheetStyle");
+    QCOMPARE(Theme::color(Theme::Role::Bar), QColor("#232323"));
+    QCOMPARE(Theme::color(Theme::Role::Selection), QColor("#215a94"));
+    QCOMPARE(Theme::color(Theme::Role::Accent), QColor(42, 130, 218));
+    for (const Theme::Role role : {Theme::Role::AccentText, Theme::Role::MenuSeparator}) {
+      QCOMPARE(Theme::color(role), QColor(Qt::white));
+    }
+    const QString sheet = Theme_Sheet::text();
+    for (const char* const rule : {"QMenuBar, QMenu, QToolBar, QStatusBar { background: #232323;",
+                                   "QMenu::item:selected { background: #215a94; color: #ffffff; }",
+                                   "QMenu::separator { height: 1px; background: #ffffff;",
+                                   "QToolButton:checked { background: #2a82da; color: #ffffff; }"}) {
+      QVERIFY2(sheet.contains(QLatin1String(rule)), rule);
+    }
+  }
+
   void contrasts() {
     const QMetaEnum names = QMetaEnum::fromType<Role>();
     const auto check = [&names](std::initializer_list<Role> fronts, std::initializer_list<Role> grounds, double least) {
