@@ -371,7 +371,7 @@ constexpr Action_Row cRows[] = {
         .in(Menu::Online, 0).keys("F11").bar(Bar::Online).missing(cLink),
     Row("onControlPlay", QT_TRANSLATE_NOOP("Action_Table", "Play"), u'P', ":/icons/hs_simulation-play-gray.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zwischen Bearbeitungsmodus und Bedienemodus umschalten"))
-        .in(Menu::Online, 1).keys("F5").bar(Bar::Online).toolTip(cPlayTip).checkable().when(When::Window)
+        .in(Menu::Online, 1).keys("F5").bar(Bar::Online).toolTip(cPlayTip).checkable().when(When::Open)
         .changes(Effect::Mode),
     Row("onControllerSavePersistentProjectAsk", QT_TRANSLATE_NOOP("Action_Table", "Bootprojekt erzeugen"), u'e',
         ":/icons/save_project_to_control.png",

@@ -12,10 +12,10 @@
 #include <QVBoxLayout>
 
 namespace {
-constexpr int cWidth = 640;
+constexpr int cWidth = 820;
 constexpr int cHeight = 400;
 constexpr int cGap = 8;
-constexpr int cTitleWidth = 300;
+constexpr int cTitleWidth = 280;
 constexpr int cBelowTop = 72;
 } // namespace
 

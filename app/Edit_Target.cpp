@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -130,8 +131,20 @@ void Edit_Target::onFocusChanged(QWidget* now) {
       qobject_cast<QMenu*>(now) || qobject_cast<QToolBar*>(now->parentWidget())) {
     return;
   }
+  if (mTarget) {
+    mTarget->removeEventFilter(this);
+  }
   mTarget = now;
+  mTarget->installEventFilter(this);
   emit changed();
+}
+
+/// While the menu bar is walked through by keys a field keeps its selection, and the editor of a cell stays open: what
+/// is chosen in the menu is about them.
+bool Edit_Target::eventFilter(QObject* object, QEvent* event) {
+  const bool isText = qobject_cast<QLineEdit*>(object) || qobject_cast<QTextEdit*>(object);
+  return isText && event->type() == QEvent::FocusOut &&
+         static_cast<QFocusEvent*>(event)->reason() == Qt::MenuBarFocusReason;
 }
 
 bool Edit_Target::can(Command command) const {

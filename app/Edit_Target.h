@@ -20,6 +20,9 @@ public:
   /// Makes a text that is still being typed in the window part of the project.
   void commit();
 
+protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
 signals:
   /// Another field or list has the focus.
   void changed();

@@ -16,8 +16,7 @@ public:
   [[nodiscard]] virtual bool askYesNo(const QString& text) = 0;
   [[nodiscard]] virtual Message_Box::Answer askYesNoCancel(const QString& text, Message_Box::Answer defaultAnswer) = 0;
   enum class Recovery { Restore, Discard, Cancel };
-  /// "Wiederherstellen" is the default.
-  [[nodiscard]] virtual Recovery askRecovery(const QString& text) = 0;
+  [[nodiscard]] virtual Recovery askRecovery(const QString& text, Recovery defaultAnswer) = 0;
   virtual void showMessage(const QString& text) = 0;
 
   /// Both answer an absolute path, or an empty one when the user cancels. Neither asks before replacing a file.

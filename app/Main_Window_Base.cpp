@@ -5,6 +5,7 @@
 #include "base/App_Settings.h"
 #include "db/Project_Session.h"
 #include "ui/Address_View.h"
+#include "ui/Alt_Letters.h"
 #include "ui/Page_View.h"
 #include "ui/Theme.h"
 
@@ -35,6 +36,7 @@ Main_Window_Base::Main_Window_Base(Project_Session& session, App_Settings& setti
       mSettings(settings),
       mIsKiosk(isKiosk) {
   Theme::apply(*qApp);
+  new Alt_Letters(*qApp, this);
   setObjectName(QStringLiteral("Main_Window"));
 }
 
@@ -94,6 +96,7 @@ void Main_Window_Base::buildTabs() {
 void Main_Window_Base::connectParts() {
   connect(mStack, &QStackedWidget::currentChanged, this, &Main_Window_Base::workChanged);
   connect(mPageView, &Page_View::refused, this, &Main_Window_Base::showInfo);
+  connect(mPageTabs, &Page_Tabs::changed, this, [this] { mPageView->showPage(mPageTabs->currentPage()); });
   connect(mPageView, &Page_View::pageChosen, this, &Main_Window_Base::showPage);
   connect(mAddressView, &Address_View::refused, this, &Main_Window_Base::showInfo);
   connect(mAddressView, &Address_View::info, this, &Main_Window_Base::showInfo);

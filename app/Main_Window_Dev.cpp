@@ -30,6 +30,7 @@
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
@@ -119,6 +120,7 @@ void Main_Window_Dev::connectParts() {
   connect(&mSession, &Project_Session::opened, this, &Main_Window_Dev::updateActions);
   connect(&mSession, &Project_Session::closed, this, &Main_Window_Dev::updateActions);
   connect(&mSession.history(), &History::changed, this, &Main_Window_Dev::updateActions);
+  connect(&mSession, &Project_Session::closed, this, [this] { mState.setOperatingMode(isKiosk()); });
 
   for (const QToolBar* const bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly)) {
     mActions->menu(Action_Menu::Bars).addAction(bar->toggleViewAction());
@@ -386,7 +388,7 @@ void Main_Window_Dev::onSelectLanguage(QAction* action) {
     return;
   }
   mSettings.setLanguageDev(code);
-  showInfo(tr("Die Sprache \"%1\" gilt ab dem nächsten Start.").arg(action->text()));
+  showInfo(tr("Die Sprache \"%1\" gilt ab dem nächsten Start.").arg(action->iconText()));
 }
 
 void Main_Window_Dev::onShowAboutDlg() {

@@ -131,11 +131,13 @@ bool Project_Lifecycle::open(const QString& path) {
   if (!operation) {
     return false;
   }
-  if (!QFileInfo::exists(path)) {
+  // Of a project file that is gone there may be a working state yet.
+  const bool isLeftBehind = !mIsKiosk && Working_Copy::findLeftBehind(path).has_value();
+  if (!QFileInfo::exists(path) && !isLeftBehind) {
     reportMissing(path);
     return false;
   }
-  if (!QFileInfo(path).isFile()) {
+  if (QFileInfo::exists(path) && !QFileInfo(path).isFile()) {
     mDialogs.showMessage(tr("Fehler beim Öffnen der Datei: ") + tr("\"%1\" ist keine Datei.").arg(native(path)));
     return false;
   }

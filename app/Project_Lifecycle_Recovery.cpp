@@ -17,7 +17,9 @@ Project_Lifecycle::Opening Project_Lifecycle::askHowToOpen(const QString& path) 
     return opening;
   }
   while (const std::optional<Working_Copy::Left_Behind> found = Working_Copy::findLeftBehind(path)) {
-    switch (mDialogs.askRecovery(Recovery_Text::question(path, *found, QDateTime::currentDateTime()))) {
+    using Recovery = Lifecycle_Dialogs::Recovery;
+    const QString question = Recovery_Text::question(path, *found, QDateTime::currentDateTime());
+    switch (mDialogs.askRecovery(question, found->mIsOvertaken ? Recovery::Cancel : Recovery::Restore)) {
     case Lifecycle_Dialogs::Recovery::Cancel:
       return opening;
     case Lifecycle_Dialogs::Recovery::Restore:

@@ -16,10 +16,9 @@
 
 namespace {
 
-enum Column { cStar, cName, cFolder, cChanged, cColumnCount };
+enum Column { cStar, cName, cFolder, cColumnCount };
 
 constexpr int cStarWidth = 32;
-constexpr int cNameWidth = 200;
 constexpr int cMostRows = 12;
 /// Above and below a row's text together.
 constexpr int cRowSpace = 12;
@@ -43,9 +42,9 @@ Project_List::Project_List(const QString& accessibleName, QWidget* parent)
   header()->setStretchLastSection(false);
   header()->setMinimumSectionSize(cStarWidth);
   header()->resizeSection(cStar, cStarWidth);
-  header()->resizeSection(cName, cNameWidth);
+  // The names share the width with the folders, so that both are seen in the smallest window.
+  header()->setSectionResizeMode(cName, QHeaderView::Stretch);
   header()->setSectionResizeMode(cFolder, QHeaderView::Stretch);
-  header()->setSectionResizeMode(cChanged, QHeaderView::ResizeToContents);
 
   mRemove->setShortcut(QKeySequence::Delete);
   mFavorite->setShortcut(QKeySequence(Qt::Key_Space));
@@ -85,13 +84,14 @@ void Project_List::fill(QTreeWidgetItem& item, const QString& path) const {
   const QString native = QDir::toNativeSeparators(path);
   const bool isPinned = isFavorite(path);
   item.setData(cName, Qt::UserRole, path);
-  item.setText(cName, info.completeBaseName());
+  item.setText(cName, info.exists() ? info.completeBaseName() : tr("%1 (fehlt)").arg(info.completeBaseName()));
   item.setText(cFolder, QDir::toNativeSeparators(info.absolutePath()));
-  item.setText(cChanged, info.exists() ? QLocale().toString(info.lastModified(), QLocale::ShortFormat) : tr("fehlt"));
   item.setIcon(cStar, Theme::icon(isPinned ? QStringLiteral("star_filled_white") : QStringLiteral("star_white")));
   item.setToolTip(cStar, isPinned ? tr("Aus den Favoriten nehmen") : tr("Zu den Favoriten nehmen"));
-  const QString tip = Model_Roles::toolTip(native).toString() +
-                      (info.exists() ? QString() : QStringLiteral("<br>") + tr("Die Datei wurde nicht gefunden."));
+  const QString note = info.exists()
+                           ? tr("Geändert: %1").arg(QLocale().toString(info.lastModified(), QLocale::ShortFormat))
+                           : tr("Die Datei wurde nicht gefunden.");
+  const QString tip = Model_Roles::toolTip(native).toString() + QStringLiteral("<br>") + note;
   for (int column = cName; column < cColumnCount; ++column) {
     const bool isSecond = column != cName;
     item.setToolTip(column, tip);

@@ -5,8 +5,8 @@
 
 class QAction;
 
-/// Projects by their files: name, folder, last change, and a star that makes one a favourite. One whose file is gone is
-/// greyed and says so.
+/// Projects by their files: a star that makes one a favourite, name and folder. One whose file is gone is greyed and
+/// says so.
 class Project_List : public QTreeWidget {
   Q_OBJECT
 

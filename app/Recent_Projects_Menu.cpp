@@ -11,6 +11,7 @@
 namespace {
 /// So many have a digit as their access key.
 constexpr int cDigits = 9;
+constexpr int cNameWidth = 400;
 } // namespace
 
 Recent_Projects_Menu::Recent_Projects_Menu(QMenu& menu, const App_Settings& settings)
@@ -25,7 +26,8 @@ void Recent_Projects_Menu::fill() {
   int number = 0;
   for (const QString& path : mSettings.lastProjects()) {
     const QFileInfo info(path);
-    QString text = info.completeBaseName().replace(u'&', QStringLiteral("&&"));
+    QString text = mMenu.fontMetrics().elidedText(info.completeBaseName(), Qt::ElideMiddle, cNameWidth);
+    text.replace(u'&', QStringLiteral("&&"));
     if (++number <= cDigits) {
       text.prepend(QStringLiteral("&%1 ").arg(number));
     }

@@ -44,11 +44,13 @@ QString Recovery_Text::question(const QString& projectPath, const Working_Copy::
                                 const QDateTime& now) {
   const QFileInfo project(projectPath);
   const QString age = QStringLiteral(" (%1)").arg(ageOf(found.mModified.secsTo(now)));
-  QStringList parts = {tr("Das Projekt \"%1\" wurde nicht ordentlich geschlossen. Ein Arbeitsstand ist noch vorhanden.")
-                           .arg(project.completeBaseName()),
-                       tr("Arbeitsstand: %1").arg(timeAndSize(found.mModified, age, found.mSize)) + u'\n' +
-                           tr("Projektdatei: %1").arg(timeAndSize(project.lastModified(), {}, project.size()))};
-  if (project.lastModified() > found.mModified) {
+  QStringList parts = {
+      tr("Das Projekt \"%1\" wurde nicht ordentlich geschlossen. Ein Arbeitsstand ist noch vorhanden.")
+          .arg(project.completeBaseName()),
+      tr("Arbeitsstand: %1").arg(timeAndSize(found.mModified, age, found.mSize)) + u'\n' +
+          tr("Projektdatei: %1")
+              .arg(project.exists() ? timeAndSize(project.lastModified(), {}, project.size()) : tr("fehlt"))};
+  if (found.mIsOvertaken) {
     parts.append(tr("Die Projektdatei ist neuer als der Arbeitsstand."));
   }
   if (found.mFurther > 0) {

@@ -8,6 +8,8 @@
 #include <QProgressBar>
 #include <QStatusBar>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int cProgressWidth = 160;
@@ -32,12 +34,13 @@ Message_Box::Answer Window_Dialogs::askYesNoCancel(const QString& text, Message_
   return Message_Box::askYesNoCancel(&mWindow, text, defaultAnswer);
 }
 
-Lifecycle_Dialogs::Recovery Window_Dialogs::askRecovery(const QString& text) {
+Lifecycle_Dialogs::Recovery Window_Dialogs::askRecovery(const QString& text, Recovery defaultAnswer) {
   constexpr Recovery cAnswers[] = {Recovery::Restore, Recovery::Discard, Recovery::Cancel};
   const QStringList buttons = {QCoreApplication::translate("Window_Dialogs", "&Wiederherstellen"),
                                QCoreApplication::translate("Window_Dialogs", "&Verwerfen"),
                                QCoreApplication::translate("Window_Dialogs", "&Abbrechen")};
-  return cAnswers[Message_Box::choose(&mWindow, text, buttons)];
+  const auto* const byDefault = std::find(std::begin(cAnswers), std::end(cAnswers), defaultAnswer);
+  return cAnswers[Message_Box::choose(&mWindow, text, buttons, byDefault - std::begin(cAnswers))];
 }
 
 void Window_Dialogs::showMessage(const QString& text) {

@@ -13,7 +13,7 @@ public:
 
   [[nodiscard]] bool askYesNo(const QString& text) override;
   [[nodiscard]] Message_Box::Answer askYesNoCancel(const QString& text, Message_Box::Answer defaultAnswer) override;
-  [[nodiscard]] Recovery askRecovery(const QString& text) override;
+  [[nodiscard]] Recovery askRecovery(const QString& text, Recovery defaultAnswer) override;
   void showMessage(const QString& text) override;
   [[nodiscard]] QString chooseOpenFile(const QString& title, const QString& folder, const QString& filter) override;
   [[nodiscard]] QString chooseSaveFile(const QString& title, const QString& suggestion, const QString& filter) override;

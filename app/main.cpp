@@ -56,12 +56,15 @@ void installTranslators(QTranslator& first, QTranslator& second) {
   }
 }
 
-/// The studio's own texts follow the chosen language; German needs no catalogue.
-void installCatalogue(QTranslator& catalogue, const QString& language) {
+/// The studio's own texts follow the chosen language, and numbers and dates with them, never the process's locale.
+/// German needs no catalogue, and stands in for a language that has none.
+void installLanguage(QTranslator& catalogue, const QString& language) {
   const QString file = Language_Catalogues::fileOf(language, Language_Catalogues::folders());
-  if (!file.isEmpty() && catalogue.load(file)) {
+  const bool isLoaded = !file.isEmpty() && catalogue.load(file);
+  if (isLoaded) {
     QCoreApplication::installTranslator(&catalogue);
   }
+  QLocale::setDefault(QLocale(isLoaded ? language : QStringLiteral("de")));
 }
 
 void openAsAsked(Main_Window_Dev& window, const Command_Line& line) {
@@ -96,9 +99,7 @@ int main(int argc, char* argv[]) {
     std::fprintf(stderr, "%s\n", qPrintable(settings->error()));
     return cWrongArguments;
   }
-  installCatalogue(catalogue, settings->languageDev());
-  // Numbers and dates follow the chosen language, never the process's locale.
-  QLocale::setDefault(QLocale(settings->languageDev()));
+  installLanguage(catalogue, settings->languageDev());
 
   // Declared so that the end destroys the window first, then the project, then the settings.
   Project_Session session(Session_State::process());

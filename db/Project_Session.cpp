@@ -125,6 +125,7 @@ bool Project_Session::recover(const QString& path, Working_Copy adopted) {
   close();
   mLastError.clear();
   mWorkingCopy = std::move(adopted);
+  const bool isOvertaken = QFileInfo(path).lastModified() > QFileInfo(mWorkingCopy.path()).lastModified();
   {
     // What a file is, is told from its bytes: those are right only when the engine has rolled the journal back.
     DB_Sqlite database;
@@ -135,6 +136,9 @@ bool Project_Session::recover(const QString& path, Working_Copy adopted) {
     return failOpening(mDatabase.lastError());
   }
   finishOpening(QFileInfo(path).absoluteFilePath());
+  if (isOvertaken) {
+    mFingerprint = {}; // somebody has written the project file since: saving over it is asked about
+  }
   mHistory.setChangedOutside();
   mWorkingState = mHistory.state();
   emit opened();

@@ -121,6 +121,7 @@ std::optional<Working_Copy::Left_Behind> Working_Copy::findLeftBehind(const QStr
   }
   if (newest) {
     newest->mFurther = count - 1;
+    newest->mIsOvertaken = QFileInfo(projectPath).lastModified() > newest->mModified;
   }
   return newest;
 }

@@ -26,7 +26,8 @@ public:
     QString mPath;
     qint64 mSize = 0; ///< bytes
     QDateTime mModified;
-    int mFurther = 0; ///< how many more there are of the same project
+    int mFurther = 0;          ///< how many more there are of the same project
+    bool mIsOvertaken = false; ///< the project file was written later
   };
 
   enum class Others {

@@ -37,8 +37,6 @@ public:
   [[nodiscard]] QList<QUuid> selectedKeys() const;
 
 signals:
-  /// A command was not done; the German text tells why.
-  void refused(const QString& text);
   /// Something was made and may be filtered out.
   void added(const QUuid& key);
   /// What a command did, in a sentence.

@@ -27,6 +27,7 @@ protected:
 
 private:
   [[nodiscard]] bool isClearing(const QKeyEvent& event) const;
+  [[nodiscard]] bool isForWindow(const QKeyEvent& event) const;
 
   QTimer mDelay;
 };

@@ -84,10 +84,11 @@ Message_Box::Answer Message_Box::askYesNoCancel(QWidget* parent, const QString& 
              {{tr("&Ja"), Answer::Yes}, {tr("&Nein"), Answer::No}, {tr("&Abbrechen"), Answer::Cancel}}, defaultAnswer);
 }
 
-int Message_Box::choose(QWidget* parent, const QString& text, const QStringList& buttons) {
+int Message_Box::choose(QWidget* parent, const QString& text, const QStringList& buttons, qsizetype defaultButton) {
   std::vector<Button> shown;
   for (const QString& button : buttons) {
     shown.emplace_back(button, static_cast<int>(shown.size()));
   }
-  return suppress(text) ? shown.back().mAnswer : show(parent, text, QStringLiteral("question_white"), shown, 0);
+  return suppress(text) ? shown.back().mAnswer
+                        : show(parent, text, QStringLiteral("question_white"), shown, static_cast<int>(defaultButton));
 }

@@ -20,8 +20,8 @@ bool askYesNo(QWidget* parent, const QString& text, bool defaultAnswer = false);
 /// Escape and the window's closing are "Abbrechen".
 Answer askYesNoCancel(QWidget* parent, const QString& text, Answer defaultAnswer);
 
-/// A question with buttons of its own; answers the index of the one that was pressed. The first is the default; the
-/// last is the one of Escape and of the window's closing, and the answer while a tool call runs.
-int choose(QWidget* parent, const QString& text, const QStringList& buttons);
+/// A question with buttons of its own; answers the index of the one that was pressed. The last is the one of Escape and
+/// of the window's closing, and the answer while a tool call runs.
+int choose(QWidget* parent, const QString& text, const QStringList& buttons, qsizetype defaultButton = 0);
 
 } // namespace Message_Box

@@ -48,6 +48,7 @@ Page_View::Page_View(Project_Session& session, QWidget* parent)
   layout->addWidget(mSplitter);
 
   // A box in the middle of committing an editor would take its focus and commit it again.
+  connect(mTree, &Project_Tree_View::refused, this, &Page_View::refused);
   connect(mModel, &Page_Tree_Model::refused, this, &Page_View::refused, Qt::QueuedConnection);
   connect(mModel, &QAbstractItemModel::modelAboutToBeReset, this, &Page_View::onAboutToBeReset);
   connect(mModel, &QAbstractItemModel::modelReset, this, &Page_View::onReset);

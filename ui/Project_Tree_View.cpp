@@ -27,7 +27,7 @@ QString cellText(const QModelIndex& index) {
 
 } // namespace
 
-Project_Tree_View::Project_Tree_View(const Session_State& state, QWidget* parent) : QTreeView(parent) {
+Project_Tree_View::Project_Tree_View(const Session_State& state, QWidget* parent) : QTreeView(parent), mState(state) {
   setItemDelegate(new Named_Icon_Delegate(this));
   setAlternatingRowColors(true);
   setUniformRowHeights(true);
@@ -55,10 +55,10 @@ void Project_Tree_View::setModel(QAbstractItemModel* model) {
   connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { updateCommands(); });
 }
 
-QAction* Project_Tree_View::commandOf(const QKeyEvent& event) const {
+QAction* Project_Tree_View::commandOf(const QKeyEvent& event, bool isEnabled) const {
   const QKeySequence keys(event.keyCombination());
   for (QAction* const action : actions()) {
-    if (action->isEnabled() && action->shortcut() == keys) {
+    if (action->isEnabled() == isEnabled && action->shortcut() == keys) {
       return action;
     }
   }
@@ -78,6 +78,8 @@ bool Project_Tree_View::event(QEvent* event) {
 void Project_Tree_View::keyPressEvent(QKeyEvent* event) {
   if (QAction* const command = commandOf(*event)) {
     command->trigger();
+  } else if (mState.operatingMode() && commandOf(*event, false)) {
+    emit refused(Session_State::operatingModeRefusal());
   } else {
     QTreeView::keyPressEvent(event);
   }

@@ -24,6 +24,10 @@ public:
   /// The titles of the same columns.
   [[nodiscard]] QString titleText() const;
 
+signals:
+  /// A command was not done; the German text tells why.
+  void refused(const QString& text);
+
 protected:
   /// Adds a command to the context menu and to the keyboard. `keys` may be empty.
   template <class Function>
@@ -52,12 +56,14 @@ protected:
 
 private:
   QAction* addCommand(const QString& text, const QKeySequence& keys);
-  [[nodiscard]] QAction* commandOf(const QKeyEvent& event) const;
+  /// Of those that are enabled, or of the others.
+  [[nodiscard]] QAction* commandOf(const QKeyEvent& event, bool isEnabled = true) const;
   [[nodiscard]] QModelIndex renameIndex() const;
   /// As they stand from left to right.
   [[nodiscard]] QList<int> shownColumns() const;
   void onRename();
 
+  const Session_State& mState;
   QAction* mRename = nullptr;
   QAction* mCopy = nullptr;
   int mRenameColumn = 0;

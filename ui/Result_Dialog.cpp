@@ -103,7 +103,7 @@ const ProjectDatabase& Result_Dialog::database() const {
 
 void Result_Dialog::addList(Result_List& list, int share) {
   mBody->addWidget(&list);
-  setTabOrder(list.focusProxy(), mClose);
+  setTabOrder(&list.view(), mClose);
   mLists.push_back(&list);
   mShares.push_back(share * cAnyHeight);
   list.restoreState(mSettings);

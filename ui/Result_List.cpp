@@ -28,7 +28,6 @@ Result_List::Result_List(QAbstractItemModel& table, int addressColumn, const Ses
   mTree->setSortingEnabled(true);
   addWidget(mTree);
   addWidget(mHint);
-  setFocusProxy(mTree);
 
   connect(mTree, &QAbstractItemView::activated, this, [this](const QModelIndex& index) { emit chosen(rowOf(index)); });
   connect(mTree->selectionModel(), &QItemSelectionModel::selectionChanged, this, &Result_List::selectionChanged);
@@ -62,6 +61,10 @@ void Result_List::addCommand(const QString& text, const std::function<void(int r
     }
   });
   mTree->insertAction(mTree->actions().value(0), action);
+}
+
+QWidget& Result_List::view() {
+  return *mTree;
 }
 
 QHeaderView& Result_List::header() {
@@ -145,6 +148,7 @@ void Result_List::updatePage() {
 
 void Result_List::onAboutToBeReset() {
   mCurrent = mTree->currentIndex().data(Model_Roles::cIdentity);
+  mIsCurrentSelected = mTree->selectionModel()->hasSelection();
   mScroll = mTree->verticalScrollBar()->value();
 }
 
@@ -156,7 +160,10 @@ void Result_List::onReset() {
   for (int row = 0; row < mModel->rowCount(); ++row) {
     const QModelIndex index = mModel->index(row, 0);
     if (index.data(Model_Roles::cIdentity) == mCurrent) {
-      mTree->setCurrentIndex(index);
+      // A row is current without being selected until somebody selects it.
+      mTree->selectionModel()->setCurrentIndex(index, mIsCurrentSelected ? QItemSelectionModel::ClearAndSelect |
+                                                                               QItemSelectionModel::Rows
+                                                                         : QItemSelectionModel::NoUpdate);
       break;
     }
   }

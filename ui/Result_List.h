@@ -33,6 +33,8 @@ public:
   /// A command of the context menu that is about the current row; `onRow` gets its number in the table.
   void addCommand(const QString& text, const std::function<void(int row)>& onRow);
   [[nodiscard]] QHeaderView& header();
+  /// What takes the keyboard focus.
+  [[nodiscard]] QWidget& view();
   /// Draws the cells in place of the usual one; the list takes it over.
   void setDelegate(QAbstractItemDelegate* delegate);
   /// Shows the texts of the rows anew.
@@ -74,5 +76,6 @@ private:
   Project_Tree_View* mTree;
   Empty_Hint* mHint;
   QVariant mCurrent; ///< identity of the current row
+  bool mIsCurrentSelected = false;
   int mScroll = 0;
 };

@@ -88,6 +88,22 @@ void Theme_Style::drawComplexControl(ComplexControl control, const QStyleOptionC
   }
 }
 
+int Theme_Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* data) const {
+  return hint == SH_Menu_AllowActiveAndDisabled ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+/// The arrows of what did not fit: the style's own are dark.
+QIcon Theme_Style::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const {
+  switch (picture) {
+  case SP_ToolBarHorizontalExtensionButton:
+  case SP_ToolBarVerticalExtensionButton:
+    return Theme::icon(QStringLiteral("arrow_double_right_white"));
+  default:
+    return QProxyStyle::standardIcon(picture, option, widget);
+  }
+}
+
 QSize Theme_Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                     const QWidget* widget) const {
   QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);

@@ -16,6 +16,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -54,16 +55,19 @@ QString nameOf(const QWidget& widget) {
                                widget.accessibleName());
 }
 
-/// Controls that the tab key does not reach.
+/// Controls that the tab key does not come to before it comes to the first one again.
 QStringList unreached(QWidget& window) {
+  constexpr int cManyKeys = 100;
   QSet<const QWidget*> reached;
-  const QWidget* widget = &window;
-  do {
-    widget = widget->nextInFocusChain();
-    if (widget->focusPolicy() & Qt::TabFocus) {
-      reached.insert(widget->focusProxy() ? widget->focusProxy() : widget);
+  window.activateWindow();
+  for (int i = 0; i < cManyKeys; ++i) {
+    QWidget* const focus = QApplication::focusWidget();
+    if (focus && reached.contains(focus)) {
+      break;
     }
-  } while (widget != &window);
+    reached.insert(focus);
+    QTest::keyClick(focus ? focus : &window, Qt::Key_Tab);
+  }
   QStringList names;
   for (const QWidget* const control : window.findChildren<QWidget*>()) {
     if (control->window() == &window && isControl(*control) && !reached.contains(control)) {
@@ -189,7 +193,7 @@ private slots:
     makers[window]();
     QWidget& shown = main ? static_cast<QWidget&>(*main) : *dialog;
     shown.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&shown));
+    QVERIFY(QTest::qWaitForWindowActive(&shown));
     QCOMPARE(unreached(shown), QStringList());
     QCOMPARE(doubleKeys(shown), QStringList());
     QCOMPARE(nameless(shown), QStringList());
@@ -207,7 +211,7 @@ private slots:
     const auto lists = window.findChildren<Project_List*>();
     Project_List* const recent = lists.at(lists.at(0)->accessibleName() == u"Favoriten" ? 1 : 0);
     Project_List* const favorites = lists.at(recent == lists.at(0) ? 1 : 0);
-    QCOMPARE(recent->topLevelItem(0)->text(3), u"fehlt"_s);
+    QCOMPARE(recent->topLevelItem(0)->text(1), u"Weg (fehlt)"_s);
     recent->setFocus();
     recent->setCurrentItem(recent->topLevelItem(0));
     QTest::keyClick(recent, Qt::Key_Delete);
@@ -220,6 +224,40 @@ private slots:
     QCOMPARE(recent->currentItem(), recent->topLevelItem(0)); // the same project is still current
     QTest::keyClick(recent, Qt::Key_Return);
     QTRY_COMPARE(rig.mSession.path(), rig.path());
+  }
+
+  /// What is selected stays selected while the menu bar is walked through by keys, and an access key types nothing.
+  void menusAndFields() {
+    Rig rig;
+    QVERIFY(rig.create());
+    rig.addAddress({1, 2, 3}, u"Licht"_s);
+    Main_Window_Dev window(rig.mSession, rig.mSettings, rig.mState, false);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    window.onShowVariables();
+    auto* const field = window.findChild<QLineEdit*>(u"ui:mAddressFilter"_s);
+    field->setFocus();
+    QTest::keyClicks(field, u"Licht"_s);
+    field->selectAll();
+    QApplication::clipboard()->clear();
+    QTest::keyClick(field, Qt::Key_B, Qt::AltModifier);
+    QVERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_K);
+    QCOMPARE(QApplication::clipboard()->text(), u"Licht"_s);
+    QVERIFY(field->hasFocus() && field->hasSelectedText());
+    QKeyEvent letter(QEvent::KeyPress, Qt::Key_Y, Qt::AltModifier, u"y"_s);
+    QApplication::sendEvent(field, &letter);
+    QCOMPARE(field->text(), u"Licht"_s);
+    QKeyEvent euro(QEvent::KeyPress, Qt::Key_E, Qt::GroupSwitchModifier, u"€"_s);
+    QApplication::sendEvent(field, &euro);
+    QCOMPARE(field->text(), u"€"_s);
+
+    // An empty field has no words to go to: the keys are the window's.
+    auto* const tabs = window.findChild<Page_Tabs*>();
+    tabs->showPage(rig.mSession.database().mFbPages.pages().at(0).mGuid);
+    window.onShowWork();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left, Qt::ControlModifier);
+    QCOMPARE(tabs->currentIndex(), 0);
   }
 
   void thePaletteTakesKeysOnly() {

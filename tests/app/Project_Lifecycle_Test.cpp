@@ -101,6 +101,12 @@ struct Lifecycle_Rig : Session_Rig {
   }
   void crashedOlder() { otherOlder(), QFile::copy(other(), left()), change(left(), "CREATE TABLE x(y)"); }
   void crashedMissing() { crashed(), QFile::remove(other()); }
+  void crashedOvertaken() {
+    crashed();
+    QFile file(other());
+    file.open(QIODevice::ReadWrite);
+    file.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime);
+  }
   void crashedBesideRunning() { otherElsewhere(), leaveChanged(left(2), u"Arbeitsstand"_s); }
   void takenMeanwhile() {
     crashed();
@@ -157,6 +163,7 @@ struct Lifecycle_Rig : Session_Rig {
   // The acts.
   bool openOther() { return mLifecycle.open(other()); }
   bool openOtherThenSave() { return openOther() && save(); }
+  bool openOtherAndSave() { return openOther() && save(); }
   bool openHere() { return mLifecycle.open(path()); }
   bool openOldExtension() { return mLifecycle.open(path(u"Anderes.zprj"_s)); }
   bool openChosen() { return mLifecycle.open(); }
@@ -254,8 +261,14 @@ const std::vector<Row>& rows() {
          cRecovery + cLoading + QStringList{cNewer}, false, {}, {}, 1},
       {"open what a crash left of an older file", &Rig::crashedOlder, &Rig::openOther, {cJa, cRestore},
          QStringList{cOlder} + cRecovery + cOpening, true, cOther, {}, 0},
-      {"open what a crash left and is missing", &Rig::crashedMissing, &Rig::openOther, {},
-         {u"Meldung: Das Projekt \"DIR/Anderes.zpro\" wurde nicht gefunden."_s}, false, cHaus, {}, 1},
+      {"open what a crash left and is missing", &Rig::crashedMissing, &Rig::openOther, {cRestore},
+         cRecovery + cOpening, true, cOther, {}, 0},
+      {"open what a crash left and is missing, no", &Rig::crashedMissing, &Rig::openOther, {u"Abbrechen"_s}, cRecovery,
+         false, cHaus, {}, 1},
+      {"save over what was written after the crash, no", &Rig::crashedOvertaken, &Rig::openOtherAndSave,
+         {cRestore, cNein}, cRecovery + cOpening + QStringList{
+         u"Ja/Nein: Die Datei \"DIR/Anderes.zpro\" wurde seit dem Öffnen geändert. Überschreiben?"_s}, false, cOther,
+         cLeft, 0},
       {"open what a crash left and another studio has", &Rig::crashedBesideRunning, &Rig::openOther, {cJa},
          cAlreadyOpen + cOpening, true, cOther, cSaved, 1},
       {"open what a crash left, another studio is quicker", &Rig::takenMeanwhile, &Rig::openOther, {cRestore, cNein},
@@ -348,6 +361,26 @@ private slots:
       QCOMPARE(Rig::bytesOf(mRig->other()), otherBefore);
       QVERIFY(expected.mCaption != cLeft || mRig->mSession.isModified());
     }
+  }
+
+  void theSafeAnswerIsTheDefault() {
+    using Recovery = Lifecycle_Dialogs::Recovery;
+    for (const auto& [prepare, answer] :
+         {std::pair(&Rig::crashed, Recovery::Restore), std::pair(&Rig::crashedOvertaken, Recovery::Cancel)}) {
+      init();
+      (mRig.get()->*prepare)();
+      QVERIFY(!mRig->openOther());
+      QCOMPARE(mRig->mDialogs.mRecoveryDefault, answer);
+    }
+  }
+
+  /// Nobody is there who could decide.
+  void aKioskLeavesWhatACrashLeft() {
+    mRig->crashed();
+    mRig->mLifecycle.setKiosk();
+    QVERIFY(mRig->openOther());
+    QCOMPARE(mRig->mDialogs.mTranscript, cOpening);
+    QCOMPARE(mRig->leftCount(), 1);
   }
 
   /// A kill in the middle of writing: the engine takes back what it had begun.

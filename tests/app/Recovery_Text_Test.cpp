@@ -44,7 +44,8 @@ private slots:
     QFile file(folder.filePath(QStringLiteral("Haus.zpro")));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("xy") == 2 && file.flush());
     QVERIFY(file.setFileTime(now.addSecs(-projectAge), QFileDevice::FileModificationTime));
-    const QString text = Recovery_Text::question(file.fileName(), {{}, 1536, now.addSecs(-age), further}, now);
+    const QString text =
+        Recovery_Text::question(file.fileName(), {{}, 1536, now.addSecs(-age), further, projectAge < age}, now);
     for (const QString& part : parts) {
       QVERIFY2(text.contains(part), qPrintable(text));
     }

@@ -22,7 +22,8 @@ public:
                                : Message_Box::Answer::Cancel;
   }
   /// Only the first sentence is written down; what else the text says has a test of its own.
-  Recovery askRecovery(const QString& text) override {
+  Recovery askRecovery(const QString& text, Recovery defaultAnswer) override {
+    mRecoveryDefault = defaultAnswer;
     mTranscript.append(QStringLiteral("Wiederherstellen/Verwerfen/Abbrechen: ") + text.section(u'.', 0, 0));
     const QString answer = next();
     return answer == u"Wiederherstellen" ? Recovery::Restore
@@ -46,6 +47,7 @@ public:
   QStringList mAnswers;    ///< a button's text or a path
   QStringList mTranscript; ///< cleared by the test
   bool mIsProgressShown = false;
+  Recovery mRecoveryDefault = Recovery::Restore;
   std::function<void()> mWhileAsked; ///< runs while a question is open
 
 private:

@@ -59,6 +59,8 @@ private slots:
     for (const Theme::Role role : {Theme::Role::AccentText, Theme::Role::MenuSeparator}) {
       QCOMPARE(Theme::color(role), QColor(Qt::white));
     }
+    // So that the status bar can tell why an entry cannot be used.
+    QCOMPARE(QApplication::style()->styleHint(QStyle::SH_Menu_AllowActiveAndDisabled), 1);
     const QString sheet = Theme_Sheet::text();
     for (const char* const rule : {"QMenuBar, QMenu, QToolBar, QStatusBar { background: #232323;",
                                    "QMenu::item:selected { background: #215a94; color: #ffffff; }",
