@@ -4,6 +4,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
 namespace {
 constexpr int cHeadingPoints = 12;
@@ -47,4 +49,15 @@ QHBoxLayout* Page_Parts::makeButtons(const QList<QAction*>& actions) {
   }
   row->addStretch();
   return row;
+}
+
+void Page_Parts::setContent(QWidget& page, QWidget* content) {
+  auto* const area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidget(content);
+  auto* const layout = new QVBoxLayout(&page);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(area);
 }

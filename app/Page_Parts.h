@@ -6,6 +6,7 @@
 class QAction;
 class QHBoxLayout;
 class QLabel;
+class QWidget;
 
 /// What the start page and the project overview are put together from.
 namespace Page_Parts {
@@ -18,5 +19,8 @@ void setHeadingFont(QLabel& label);
 
 /// A row of buttons, one for each action, which stay enabled and disabled with it.
 [[nodiscard]] QHBoxLayout* makeButtons(const QList<QAction*>& actions);
+
+/// Fills a page with its content, which scrolls where there is too little room.
+void setContent(QWidget& page, QWidget* content);
 
 } // namespace Page_Parts

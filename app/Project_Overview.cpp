@@ -29,18 +29,22 @@ Project_Overview::Project_Overview(Project_Session& session, const QList<QAction
   mAddresses = addRow(*form, tr("Gruppenadressen"));
   mPosition = addRow(*form, tr("Geographische Position"));
 
-  auto* const layout = new QVBoxLayout(this);
+  auto* const content = new QWidget;
+  auto* const layout = new QVBoxLayout(content);
   layout->setContentsMargins(0, 0, 0, 0);
-  setContentsMargins(Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin);
+  content->setContentsMargins(Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin, Page_Parts::cMargin);
   layout->setSpacing(12);
   layout->addWidget(mName);
   layout->addLayout(form);
   if (!actions.isEmpty()) {
     layout->addSpacing(12);
     layout->addWidget(Page_Parts::makeHeading(tr("Nächste Schritte")));
-    layout->addLayout(Page_Parts::makeButtons(actions));
+    for (QAction* const action : actions) {
+      layout->addLayout(Page_Parts::makeButtons({action})); // one below the other: the window may be narrow
+    }
   }
   layout->addStretch();
+  Page_Parts::setContent(*this, content);
 
   mTimer.setSingleShot(true);
   mTimer.setInterval(0);

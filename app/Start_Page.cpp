@@ -10,7 +10,6 @@
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
@@ -65,14 +64,7 @@ Start_Page::Start_Page(const QList<QAction*>& actions, const QList<Step>& steps,
   row->addStretch(1);
   row->addWidget(content, 100);
   row->addStretch(1);
-  auto* const area = new QScrollArea;
-  area->setFrameShape(QFrame::NoFrame);
-  area->setWidgetResizable(true);
-  area->setFocusPolicy(Qt::NoFocus);
-  area->setWidget(page);
-  auto* const layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(area);
+  Page_Parts::setContent(*this, page);
 
   connect(mBack, &QPushButton::clicked, this, &Start_Page::backRequested);
   connectList(*mFavorites);

@@ -17,6 +17,9 @@ constexpr int cButtonLighter = 130;
 constexpr int cRowHeight = 24;
 constexpr int cRowGap = 8;
 
+/// Room for the arrow behind a tool bar that is too narrow.
+constexpr int cExtensionWidth = 20;
+
 void brightenFocus(QPalette& palette) {
   palette.setColor(QPalette::Highlight, Theme::color(Theme::Role::Accent).lighter(cFocusDarker));
 }
@@ -91,6 +94,10 @@ void Theme_Style::drawComplexControl(ComplexControl control, const QStyleOptionC
 int Theme_Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                            QStyleHintReturn* data) const {
   return hint == SH_Menu_AllowActiveAndDisabled ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+int Theme_Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  return metric == PM_ToolBarExtensionExtent ? cExtensionWidth : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 /// The arrows of what did not fit: the style's own are dark.
