@@ -5,6 +5,7 @@
 #include "tests/db/Session_Rig.h"
 #include "ui/Page_Content_View.h"
 
+#include <QLineEdit>
 #include <QTabBar>
 #include <QTreeView>
 
