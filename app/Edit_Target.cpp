@@ -15,6 +15,7 @@
 #include <QToolBar>
 
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -126,7 +127,20 @@ Edit_Target::Edit_Target(QWidget& window) : QObject(&window), mWindow(window) {
   onFocusChanged(QApplication::focusWidget());
 }
 
+/// An editor that is told hands its text over.
+void Edit_Target::tellWithheld() {
+  if (QWidget* const field = std::exchange(mWithheld, nullptr)) {
+    QFocusEvent out(QEvent::FocusOut, Qt::OtherFocusReason);
+    QApplication::sendEvent(field, &out);
+  }
+}
+
 void Edit_Target::onFocusChanged(QWidget* now) {
+  if (now && now == mWithheld) {
+    mWithheld = nullptr;
+  } else if (now && !qobject_cast<QMenuBar*>(now) && !qobject_cast<QMenu*>(now)) {
+    tellWithheld();
+  }
   if (!now || now->window() != &mWindow || now == mTarget || qobject_cast<QMenuBar*>(now) ||
       qobject_cast<QMenu*>(now) || qobject_cast<QToolBar*>(now->parentWidget())) {
     return;
@@ -143,8 +157,12 @@ void Edit_Target::onFocusChanged(QWidget* now) {
 /// is chosen in the menu is about them.
 bool Edit_Target::eventFilter(QObject* object, QEvent* event) {
   const bool isText = qobject_cast<QLineEdit*>(object) || qobject_cast<QTextEdit*>(object);
-  return isText && event->type() == QEvent::FocusOut &&
-         static_cast<QFocusEvent*>(event)->reason() == Qt::MenuBarFocusReason;
+  const bool isWithheld = isText && event->type() == QEvent::FocusOut &&
+                          static_cast<QFocusEvent*>(event)->reason() == Qt::MenuBarFocusReason;
+  if (isWithheld) {
+    mWithheld = static_cast<QWidget*>(object);
+  }
+  return isWithheld;
 }
 
 bool Edit_Target::can(Command command) const {
@@ -159,6 +177,7 @@ void Edit_Target::run(Command command) {
 
 /// Editors hand their text over when they lose the focus.
 void Edit_Target::commit() {
+  tellWithheld();
   const QPointer<QWidget> editor = mWindow.focusWidget();
   if (!editor || !editor->hasFocus()) {
     return;

@@ -28,8 +28,10 @@ signals:
   void changed();
 
 private:
+  void tellWithheld();
   void onFocusChanged(QWidget* now);
 
   QWidget& mWindow;
   QPointer<QWidget> mTarget;
+  QPointer<QWidget> mWithheld; ///< a field that has not been told yet that the menu bar took the focus
 };

@@ -104,7 +104,7 @@ bool Project_Lifecycle::newProject() {
 }
 
 bool Project_Lifecycle::create(const QString& path) {
-  if (!isReplacingAccepted(path) || !isAlreadyOpenAccepted(path)) {
+  if (!isReplacingAccepted(path) || !isOverwritingAccepted(path)) {
     return false;
   }
   if (!mSession.create(path, {})) {
@@ -150,7 +150,7 @@ bool Project_Lifecycle::openDemo() {
     return false;
   }
   const QString path = Demo_Project::defaultPath();
-  const bool isRecoverable = QFileInfo::exists(path) && Working_Copy::findLeftBehind(path);
+  const bool isRecoverable = !mIsKiosk && Working_Copy::findLeftBehind(path);
   if (isRecoverable || isReadable(path)) {
     Opening opening = askHowToOpen(path);
     if (!opening.mIsAccepted || !load(path, std::move(opening))) {
@@ -194,8 +194,7 @@ bool Project_Lifecycle::saveAs() {
   if (!isReplacingAccepted(path)) {
     return false;
   }
-  // What a crash left of the other project is no one's any more; only a running studio would be disturbed.
-  if (Working_Copy::stateOf(path) == Working_Copy::State::InUse && !isAlreadyOpenAccepted(path)) {
+  if (!isOverwritingAccepted(path)) {
     return false;
   }
   if (!finishSaving(mSession.saveAs(path))) {
@@ -247,7 +246,7 @@ bool Project_Lifecycle::isReplacingAccepted(const QString& path) {
 bool Project_Lifecycle::askBeforeOpening(const QString& path, const QString& target) {
   const QString older = tr("Projekt wurde mit einer älteren Version erstellt, auf neue Version aktualisieren?");
   return (!ProjectDatabase::isOlderLayout(path) || mDialogs.askYesNo(older)) &&
-         (target == path || (isReplacingAccepted(target) && isAlreadyOpenAccepted(target)));
+         (target == path || (isReplacingAccepted(target) && isOverwritingAccepted(target)));
 }
 
 bool Project_Lifecycle::openFile(const QString& path) {
@@ -297,7 +296,8 @@ bool Project_Lifecycle::load(const QString& target, Opening opening) {
   }
   mSession.acceptRecovered();
   // What is damaged of the project file is lost by saving, also where the working file is sound.
-  mIsDamaged = mSession.database().loadReport().isDamaged() || (isRecovered && isDamaged(target));
+  mIsDamaged =
+      mSession.database().loadReport().isDamaged() || (isRecovered && QFileInfo::exists(target) && isDamaged(target));
   return true;
 }
 

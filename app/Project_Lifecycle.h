@@ -61,6 +61,8 @@ private:
   bool openRecords(const QString& target, Opening& opening);
   [[nodiscard]] bool askBeforeOpening(const QString& path, const QString& target);
   [[nodiscard]] bool isAlreadyOpenAccepted(const QString& path);
+  /// As above, for a project that another one takes the place of.
+  [[nodiscard]] bool isOverwritingAccepted(const QString& path);
   [[nodiscard]] bool isReplacingAccepted(const QString& path);
   bool load(const QString& target, Opening opening);
   void afterLoading(bool isRemembered);

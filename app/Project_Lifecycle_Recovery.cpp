@@ -8,6 +8,12 @@ bool Project_Lifecycle::isAlreadyOpenAccepted(const QString& path) {
          mDialogs.askYesNo(tr("Datei bereits geöffnet, soll diese noch einmal geöffnet werden?"));
 }
 
+bool Project_Lifecycle::isOverwritingAccepted(const QString& path) {
+  const std::optional<Working_Copy::Left_Behind> found = Working_Copy::findLeftBehind(path);
+  return found ? mDialogs.askYesNo(Recovery_Text::overwriting(path, *found, QDateTime::currentDateTime()))
+               : isAlreadyOpenAccepted(path);
+}
+
 Project_Lifecycle::Opening Project_Lifecycle::askHowToOpen(const QString& path) {
   using Others = Working_Copy::Others;
   Opening opening;

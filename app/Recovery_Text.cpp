@@ -51,7 +51,7 @@ QString Recovery_Text::question(const QString& projectPath, const Working_Copy::
           tr("Projektdatei: %1")
               .arg(project.exists() ? timeAndSize(project.lastModified(), {}, project.size()) : tr("fehlt"))};
   if (found.mIsOvertaken) {
-    parts.append(tr("Die Projektdatei ist neuer als der Arbeitsstand."));
+    parts.append(tr("Die Projektdatei wurde geändert, seit dieser Arbeitsstand begonnen wurde."));
   }
   if (found.mFurther > 0) {
     parts.append(count(found.mFurther, "Ein weiterer, älterer Arbeitsstand wird erst beim nächsten Öffnen angeboten.",
@@ -64,6 +64,15 @@ QString Recovery_Text::question(const QString& projectPath, const Working_Copy::
       tr("\"Wiederherstellen\" öffnet den Arbeitsstand, die Projektdatei bleibt bis zum Speichern wie sie ist.") +
       u'\n' + discard);
   return parts.join(cGap);
+}
+
+QString Recovery_Text::overwriting(const QString& projectPath, const Working_Copy::Left_Behind& found,
+                                   const QDateTime& now) {
+  const QString age = QStringLiteral(" (%1)").arg(ageOf(found.mModified.secsTo(now)));
+  return tr("Von \"%1\" ist noch ein Arbeitsstand vorhanden, der nie gespeichert wurde:")
+             .arg(QFileInfo(projectPath).completeBaseName()) +
+         u' ' + timeAndSize(found.mModified, age, found.mSize) + u'.' + cGap +
+         tr("Den Arbeitsstand löschen und fortfahren?");
 }
 
 QString Recovery_Text::unreadable(const QString& workingPath, const QString& error) {

@@ -161,6 +161,7 @@ void App_Settings::storeProjects(const QString& key, const QStringList& paths) {
     mStore->setValue(cPathKey, paths[i]);
   }
   mStore->endArray();
+  mStore->sync();
   emit projectListsChanged();
 }
 
@@ -171,6 +172,7 @@ QStringList App_Settings::lastProjects() const {
 }
 
 void App_Settings::addLastProject(const QString& path) {
+  mStore->sync(); // another studio may have changed the list
   QStringList paths = lastProjects();
   paths.removeAll(path);
   paths.prepend(path);
@@ -179,6 +181,7 @@ void App_Settings::addLastProject(const QString& path) {
 }
 
 void App_Settings::removeLastProject(const QString& path) {
+  mStore->sync();
   QStringList paths = lastProjects();
   paths.removeAll(path);
   storeProjects(cLastProjectsKey, paths);
@@ -189,6 +192,7 @@ QStringList App_Settings::favoriteProjects() const {
 }
 
 void App_Settings::setFavoriteProject(const QString& path, bool isFavorite) {
+  mStore->sync();
   QStringList paths = favoriteProjects();
   if (paths.contains(path) == isFavorite || (isFavorite && paths.size() >= cFavoriteProjectsLimit)) {
     return;

@@ -32,7 +32,7 @@ public:
   [[nodiscard]] QString undoText() const;
   [[nodiscard]] QString redoText() const;
 
-  /// Both refuse in the operating mode and inside an edit scope; then `refusal`, if given, tells why.
+  /// Both refuse in the operating mode, then `refusal`, if given, tells why; and, without a word, inside an edit scope.
   bool undo(QString* refusal = nullptr);
   bool redo(QString* refusal = nullptr);
 

@@ -88,6 +88,8 @@ public:
   /// For moving the file under the open store: closes it, keeps records and name; `attach` goes on with the file at its
   /// new place.
   void detach();
+  /// From the next writing on the records stand in that file, which is made for it. The resources come along.
+  void moveTo(const QString& path) { mFileName = path; }
   bool attach(const QString& path);
 
 private:

@@ -42,19 +42,19 @@ bool Project_Session::fail(const QString& text) {
   return false;
 }
 
-Project_Session::Fingerprint Project_Session::fingerprintOf(const QString& path) {
-  const QFileInfo info(path);
-  return info.exists() ? Fingerprint{true, info.size(), info.lastModified()} : Fingerprint{};
-}
-
 bool Project_Session::isChangedOnDisk() const {
-  return isOpen() && fingerprintOf(mPath) != mFingerprint;
+  return isOpen() && File_State::of(mPath) != mFileState;
 }
 
 void Project_Session::setPath(const QString& path) {
   mPath = path;
-  mFingerprint = fingerprintOf(path);
+  setFileState(File_State::of(path));
   emit pathChanged();
+}
+
+void Project_Session::setFileState(const File_State& state) {
+  mFileState = state;
+  mWorkingCopy.rememberBase(state);
 }
 
 void Project_Session::close() {
@@ -111,12 +111,13 @@ bool Project_Session::open(const QString& path, Working_Copy::Others others) {
   close();
   mLastError.clear();
   const QString absolutePath = QFileInfo(path).absoluteFilePath();
-  const Fingerprint fingerprint = fingerprintOf(absolutePath);
+  const File_State state = File_State::of(absolutePath);
   if (!copyToWorkingFile(absolutePath, others) || !mDatabase.openProject(mWorkingCopy.path(), true)) {
     return failOpening(mLastError.isEmpty() ? mDatabase.lastError() : mLastError);
   }
   finishOpening(absolutePath);
-  mFingerprint = fingerprint; // a change during the copying shows at the next save
+  setFileState(state); // a change during the copying shows at the next save
+  mWorkingCopy.settle(absolutePath);
   emit opened();
   return true;
 }
@@ -125,7 +126,9 @@ bool Project_Session::recover(const QString& path, Working_Copy adopted) {
   close();
   mLastError.clear();
   mWorkingCopy = std::move(adopted);
-  const bool isOvertaken = QFileInfo(path).lastModified() > QFileInfo(mWorkingCopy.path()).lastModified();
+  const File_State now = File_State::of(path);
+  const bool isNewer = QFileInfo(path).lastModified() > QFileInfo(mWorkingCopy.path()).lastModified();
+  const File_State base = Working_Copy::baseOf(mWorkingCopy.path()).value_or(isNewer ? File_State() : now);
   {
     // What a file is, is told from its bytes: those are right only when the engine has rolled the journal back.
     DB_Sqlite database;
@@ -136,9 +139,7 @@ bool Project_Session::recover(const QString& path, Working_Copy adopted) {
     return failOpening(mDatabase.lastError());
   }
   finishOpening(QFileInfo(path).absoluteFilePath());
-  if (isOvertaken) {
-    mFingerprint = {}; // somebody has written the project file since: saving over it is asked about
-  }
+  setFileState(base);
   mHistory.setChangedOutside();
   mWorkingState = mHistory.state();
   emit opened();
@@ -166,6 +167,7 @@ bool Project_Session::create(const QString& path, const New_Project::Options& op
     return failOpening(mLastError.isEmpty() ? mDatabase.lastError() : mLastError);
   }
   finishOpening(absolutePath);
+  mWorkingCopy.settle(absolutePath);
   emit opened();
   return true;
 }
@@ -178,13 +180,27 @@ bool Project_Session::isAutosaveDue() const {
   return isOpen() && (mHistory.isStepOpen() || mHistory.state() != mWorkingState);
 }
 
+/// Another studio may have taken the working file after something had deleted it with its lock: then this one goes on
+/// with a further one.
+bool Project_Session::keepWorkingFile() {
+  if (mWorkingCopy.keepLock()) {
+    return true;
+  }
+  if (!claim(mWorkingCopy, mPath, Working_Copy::Others::Keep)) {
+    return false;
+  }
+  mDatabase.moveTo(mWorkingCopy.path());
+  mWorkingCopy.rememberBase(mFileState);
+  return true;
+}
+
 bool Project_Session::autosave() {
   mLastError.clear();
   if (!isOpen() || !mayAutosave()) {
     return fail(tr("Das Projekt wird gerade geändert."));
   }
-  if (!mWorkingCopy.keepLock()) {
-    return fail(tr("Die Arbeitsdatei \"%1\" kann nicht angelegt werden.").arg(mWorkingCopy.path()));
+  if (!keepWorkingFile()) {
+    return false;
   }
   if ((!mDatabase.isOpen() && !mDatabase.attach(mWorkingCopy.path())) || !mDatabase.recordWriteChanged()) {
     return fail(mDatabase.lastError());
@@ -196,6 +212,9 @@ bool Project_Session::autosave() {
 Project_Session::Save_Result Project_Session::writeTo(const QString& path) {
   mLastError.clear();
   mHistory.commit();
+  if (isOpen() && !keepWorkingFile()) {
+    return Save_Result::WriteFailed;
+  }
   if (!mDatabase.isOpen() && !mDatabase.attach(mWorkingCopy.path())) {
     fail(mDatabase.lastError());
     return Save_Result::WriteFailed;
@@ -223,7 +242,7 @@ Project_Session::Save_Result Project_Session::writeTo(const QString& path) {
 Project_Session::Save_Result Project_Session::save() {
   const Save_Result result = writeTo(mPath);
   if (result == Save_Result::Saved) {
-    mFingerprint = fingerprintOf(mPath);
+    setFileState(File_State::of(mPath));
     mHistory.setSaved();
   }
   return result;
@@ -243,12 +262,16 @@ Project_Session::Save_Result Project_Session::saveAs(const QString& path) {
     return result;
   }
   mDatabase.detach();
-  const bool isMoved = QFile::rename(mWorkingCopy.path(), next.path());
+  // The lock of the other name is what tells a second studio.
+  const bool isMoved = QFile::rename(mWorkingCopy.path(), next.path()) || QFile::copy(mWorkingCopy.path(), next.path());
   if (isMoved) {
     std::swap(mWorkingCopy, next);
   }
   mDatabase.attach(mWorkingCopy.path());
   setPath(absolutePath);
+  if (isMoved) {
+    mWorkingCopy.settle(absolutePath);
+  }
   mHistory.setSaved();
   return result;
 }

@@ -84,23 +84,17 @@ signals:
   void pathChanged();
 
 private:
-  struct Fingerprint {
-    bool mExists = false;
-    qint64 mSize = 0;
-    QDateTime mModified;
-    friend bool operator==(const Fingerprint&, const Fingerprint&) = default;
-  };
-
-  [[nodiscard]] static Fingerprint fingerprintOf(const QString& path);
   void onAddressChanged(const QUuid& key);
   void onAddressesChanged();
   bool fail(const QString& text);
   bool claim(Working_Copy& copy, const QString& path, Working_Copy::Others others = Working_Copy::Others::Remove);
+  bool keepWorkingFile();
   bool copyToWorkingFile(const QString& path, Working_Copy::Others others);
   bool failOpening(const QString& error);
   void finishOpening(const QString& path);
   [[nodiscard]] Save_Result writeTo(const QString& path);
   void setPath(const QString& path);
+  void setFileState(const File_State& state);
 
   Session_State& mState;
   ProjectDatabase mDatabase;
@@ -113,7 +107,7 @@ private:
   Single_Record_Undo mProjectUndo;
   Working_Copy mWorkingCopy;
   QString mPath;
-  Fingerprint mFingerprint;
+  File_State mFileState; ///< of the project file when its content was last read or written
   std::optional<History::State>
       mWorkingState; ///< what the working file holds; none when that is no state of the history
   QString mLastError;

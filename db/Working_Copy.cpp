@@ -2,6 +2,7 @@
 
 #include "base/File_Copy.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -23,6 +24,24 @@ QString lockPathOf(const QString& workingPath) {
 
 QString journalPathOf(const QString& workingPath) {
   return workingPath + QStringLiteral("-journal");
+}
+
+QString basePathOf(const QString& workingPath) {
+  return workingPath + QStringLiteral(".base");
+}
+
+QString asidePathOf(const QString& workingPath) {
+  return workingPath + QStringLiteral(".alt");
+}
+
+/// With all that belongs to it. Nothing when there is no such file.
+void moveFile(const QString& from, const QString& to) {
+  if (QFileInfo::exists(from)) {
+    Working_Copy::removeFile(to);
+    QFile::rename(from, to);
+    QFile::rename(journalPathOf(from), journalPathOf(to));
+    QFile::rename(basePathOf(from), basePathOf(to));
+  }
 }
 
 std::unique_ptr<QLockFile> makeLock(const QString& workingPath) {
@@ -57,12 +76,16 @@ Working_Copy::Working_Copy() = default;
 Working_Copy::Working_Copy(Working_Copy&& other) noexcept
     : mPath(std::exchange(other.mPath, {})),
       mLock(std::move(other.mLock)),
-      mIsKept(other.mIsKept) {}
+      mIsKept(other.mIsKept),
+      mIsSetAside(other.mIsSetAside),
+      mOthers(other.mOthers) {}
 
 Working_Copy& Working_Copy::operator=(Working_Copy&& other) noexcept {
   std::swap(mPath, other.mPath);
   std::swap(mLock, other.mLock);
   std::swap(mIsKept, other.mIsKept);
+  std::swap(mIsSetAside, other.mIsSetAside);
+  std::swap(mOthers, other.mOthers);
   return *this;
 }
 
@@ -121,7 +144,9 @@ std::optional<Working_Copy::Left_Behind> Working_Copy::findLeftBehind(const QStr
   }
   if (newest) {
     newest->mFurther = count - 1;
-    newest->mIsOvertaken = QFileInfo(projectPath).lastModified() > newest->mModified;
+    const File_State now = File_State::of(projectPath);
+    const std::optional<File_State> base = baseOf(newest->mPath);
+    newest->mIsOvertaken = now.mExists && (base ? now != *base : now.mModified > newest->mModified.toMSecsSinceEpoch());
   }
   return newest;
 }
@@ -143,12 +168,59 @@ bool Working_Copy::adopt(const QString& workingPath) {
 }
 
 bool Working_Copy::keepLock() {
-  if (!mLock || QFileInfo::exists(lockPathOf(mPath))) {
-    return mLock != nullptr;
+  if (!mLock) {
+    return false;
   }
-  mLock->unlock();
-  QDir().mkpath(QFileInfo(mPath).absolutePath());
-  return mLock->tryLock(0);
+  if (!QFileInfo::exists(lockPathOf(mPath))) {
+    mLock->unlock();
+    QDir().mkpath(QFileInfo(mPath).absolutePath());
+    if (mLock->tryLock(0)) {
+      return true;
+    }
+  }
+  qint64 owner = 0;
+  QString host;
+  QString program;
+  const bool isOurs =
+      mLock->isLocked() && mLock->getLockInfo(&owner, &host, &program) && owner == QCoreApplication::applicationPid();
+  if (!isOurs) {
+    loseLock();
+  }
+  return isOurs;
+}
+
+/// Unlocking would delete the lock of the other studio, so that is moved out of the way meanwhile.
+void Working_Copy::loseLock() {
+  const QString lock = lockPathOf(mPath);
+  const QString away = lock + QStringLiteral(".fremd");
+  const bool isAway = QFile::rename(lock, away);
+  mLock.reset();
+  if (isAway) {
+    QFile::rename(away, lock);
+  }
+  mPath.clear();
+  mIsSetAside = false;
+}
+
+void Working_Copy::settle(const QString& projectPath) {
+  if (mIsSetAside) {
+    removeFile(asidePathOf(mPath));
+    mIsSetAside = false;
+  }
+  if (mOthers == Others::Remove) {
+    removeLeftBehind(projectPath, [](const QString&) { return true; });
+    mOthers = Others::Keep;
+  }
+}
+
+void Working_Copy::rememberBase(const File_State& base) const {
+  if (!mPath.isEmpty()) {
+    base.write(basePathOf(mPath));
+  }
+}
+
+std::optional<File_State> Working_Copy::baseOf(const QString& workingPath) {
+  return File_State::read(basePathOf(workingPath));
 }
 
 bool Working_Copy::claim(const QString& projectPath, Others others) {
@@ -162,10 +234,10 @@ bool Working_Copy::claim(const QString& projectPath, Others others) {
     if (lock->tryLock(0)) {
       mLock = std::move(lock);
       mPath = path;
+      mOthers = others;
+      mIsSetAside = QFileInfo::exists(mPath);
+      moveFile(mPath, asidePathOf(mPath));
       removeFile(mPath);
-      if (others == Others::Remove) {
-        removeLeftBehind(projectPath, [](const QString&) { return true; });
-      }
       return true;
     }
     if (lock->error() != QLockFile::LockFailedError) {
@@ -180,17 +252,23 @@ void Working_Copy::release() {
     if (!mIsKept) {
       removeFile(mPath);
     }
+    if (mIsSetAside) {
+      moveFile(asidePathOf(mPath), mPath);
+    }
     mLock->unlock();
   }
   mLock.reset();
   mPath.clear();
   mIsKept = false;
+  mIsSetAside = false;
+  mOthers = Others::Keep;
 }
 
 void Working_Copy::removeFile(const QString& path) {
   QFile::remove(path);
   if (!QFileInfo::exists(path)) {
     removeJournals(path);
+    QFile::remove(basePathOf(path));
     QFile::remove(path + QStringLiteral(".neu")); // begun in its stead, and not finished
   }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "db/File_State.h"
+
 #include <QDateTime>
 #include <QString>
 
@@ -27,12 +29,13 @@ public:
     qint64 mSize = 0; ///< bytes
     QDateTime mModified;
     int mFurther = 0;          ///< how many more there are of the same project
-    bool mIsOvertaken = false; ///< the project file was written later
+    bool mIsOvertaken = false; ///< somebody else has written the project file since
   };
 
+  /// What becomes of what former owners that are gone left of the project, under any number.
   enum class Others {
     Keep,
-    Remove, ///< what former owners that are gone left of the project, under any number
+    Remove, ///< by `settle`
   };
 
   Working_Copy();
@@ -54,14 +57,22 @@ public:
   static void removeNeedless(const QString& projectPath);
 
   /// Takes the first working file that no running studio owns (with `Others::Keep` one that is not there yet) and locks
-  /// it. False when no lock can be had (the temporary directory cannot be written).
+  /// it. What lies there is set aside, and comes back when this is released before `settle`. False when no lock can be
+  /// had (the temporary directory cannot be written).
   [[nodiscard]] bool claim(const QString& projectPath, Others others = Others::Remove);
   /// Takes exactly that working file with its journal and locks it. Releasing leaves both, until `own` is called. False
   /// when it is gone or another studio has it.
   [[nodiscard]] bool adopt(const QString& workingPath);
   void own() { mIsKept = false; }
-  /// Takes the lock anew where something has deleted it. False when that fails or another studio has it by now.
+  /// The project is safely open or saved: what former owners left goes now, if the claim said so.
+  void settle(const QString& projectPath);
+  /// Takes the lock anew where something has deleted it. False when that fails or another studio has it by now: then
+  /// neither file nor lock are ours any more.
   [[nodiscard]] bool keepLock();
+
+  /// Keeps the state that the project file had when its content came into the working file, beside the working file.
+  void rememberBase(const File_State& base) const;
+  [[nodiscard]] static std::optional<File_State> baseOf(const QString& workingPath);
   /// Deletes the working file, its journals and its lock.
   void release();
 
@@ -72,7 +83,11 @@ public:
   static void removeJournals(const QString& path);
 
 private:
+  void loseLock();
+
   QString mPath;
   std::unique_ptr<QLockFile> mLock;
-  bool mIsKept = false; ///< adopted, and not our own yet
+  bool mIsKept = false;     ///< adopted, and not our own yet
+  bool mIsSetAside = false; ///< what lay in the place of the file waits under another name
+  Others mOthers = Others::Keep;
 };

@@ -238,8 +238,8 @@ private slots:
     const QModelIndex page = tree->model()->index(0, 0, tree->model()->index(0, 0));
     const auto caption = [&rig] { return rig.mSession.database().mFbPages.pages().at(0).mCaption; };
     tree->setCurrentIndex(page);
-    for (const QString& place : {u"tree"_s, u"panel"_s}) {
-      if (place == u"tree") {
+    for (const QString& place : {u"tree"_s, u"menu"_s, u"panel"_s}) {
+      if (place != u"panel") {
         tree->edit(page);
       } else {
         rig.mWindow.findChild<Page_Details_View*>()->findChild<QLineEdit*>()->setFocus();
@@ -248,6 +248,10 @@ private slots:
       QVERIFY(editor);
       editor->selectAll();
       QTest::keyClicks(editor, place);
+      if (place == u"menu") {
+        rig.mWindow.menuBar()->setFocus(Qt::MenuBarFocusReason); // as Alt does; the field is not told
+        QVERIFY(editor->isVisible());
+      }
       rig.action("onMenuFileSave")->trigger();
       QCOMPARE(caption(), place);
       QVERIFY(!rig.mSession.isModified());

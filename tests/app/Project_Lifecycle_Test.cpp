@@ -101,6 +101,8 @@ struct Lifecycle_Rig : Session_Rig {
   }
   void crashedOlder() { otherOlder(), QFile::copy(other(), left()), change(left(), "CREATE TABLE x(y)"); }
   void crashedMissing() { crashed(), QFile::remove(other()); }
+  void crashedBesideUnreadable() { crashed(), write(other(), QByteArray(4096, 'x')); }
+  void crashedOvertakenEarlier() { crashed(), File_State{true, 1, 1}.write(left() + u".base"_s); }
   void crashedOvertaken() {
     crashed();
     QFile file(other());
@@ -278,7 +280,20 @@ const std::vector<Row>& rows() {
       {"open what a crash left and is gone meanwhile", &Rig::goneMeanwhile, &Rig::openOther, {cRestore},
          cRecovery + QStringList{u"Meldung: Der Arbeitsstand ist nicht mehr vorhanden."_s}, false, cHaus, cSaved, 0},
       {"new over what a crash left", &Rig::crashed, &Rig::newProject, {cOtherPath, cJa, cNein},
-         cNewDialog + cReplaceOther + cAlreadyOpen, false, cHaus, cSaved, 1},
+         cNewDialog + cReplaceOther + QStringList{u"Ja/Nein: Von \"Anderes\" ist noch ein Arbeitsstand vorhanden"_s},
+         false, cHaus, cSaved, 1},
+      {"save as over what a crash left, no", &Rig::crashed, &Rig::saveAs, {cOtherPath, cJa, cNein},
+         cSaveDialog + cReplaceOther + QStringList{u"Ja/Nein: Von \"Anderes\" ist noch ein Arbeitsstand vorhanden"_s},
+         false, cHaus, cSaved, 1},
+      {"discard what a crash left of an unreadable project", &Rig::crashedBesideUnreadable, &Rig::openOther,
+         {cDiscard}, cRecovery + cLoading + QStringList{
+         u"Meldung: Fehler beim Öffnen der Datei: file is not a database"_s}, false, {}, {}, 1},
+      {"save what a crash left of a missing project", &Rig::crashedMissing, &Rig::openOtherAndSave, {cRestore},
+         cRecovery + cOpening, true, cOther},
+      {"save over what was written before the last autosave, no", &Rig::crashedOvertakenEarlier,
+         &Rig::openOtherAndSave, {cRestore, cNein}, cRecovery + cOpening + QStringList{
+         u"Ja/Nein: Die Datei \"DIR/Anderes.zpro\" wurde seit dem Öffnen geändert. Überschreiben?"_s}, false, cOther,
+         cLeft, 0},
       {"open what is open here", &Rig::haus, &Rig::openHere, {cJa}, cAlreadyOpen + cOpening, true, cHaus},
       {"open an older file, no", &Rig::otherOlder, &Rig::openOther, {cNein}, {cOlder}, false, cHaus},
       {"open an older file, yes", &Rig::otherOlder, &Rig::openOther, {cJa}, QStringList{cOlder} + cOpening, true,
@@ -347,6 +362,9 @@ private slots:
     const bool isDone = (mRig.get()->*expected.mAct)();
     QStringList transcript = mRig->mDialogs.mTranscript;
     transcript.replaceInStrings(mRig->folder(), u"DIR"_s).replaceInStrings(mRig->tempFolder(), u"TMP"_s);
+    static const QRegularExpression ageAndSize(u", der nie gespeichert wurde:.*"_s,
+                                               QRegularExpression::DotMatchesEverythingOption);
+    transcript.replaceInStrings(ageAndSize, {});
     QCOMPARE(transcript.replaceInStrings(cWorkingHash, {}), expected.mTranscript);
     QCOMPARE(isDone, expected.mIsDone);
     QCOMPARE(QFileInfo(mRig->mSession.path()).fileName(), expected.mOpenAfter);

@@ -27,7 +27,7 @@ private slots:
     row("one hour", 3600, 4000, 0, {tr("(vor einer Stunde)")});
     row("hours", 86399, 90000, 0, {tr("(vor 23 Stunden)")});
     row("one day, project newer", 86400, 4000, 0,
-        {tr("(vor einem Tag)"), tr("Die Projektdatei ist neuer als der Arbeitsstand.")});
+        {tr("(vor einem Tag)"), tr("Die Projektdatei wurde geändert, seit dieser Arbeitsstand begonnen wurde.")});
     row("days, one more", 200000, 300000, 1,
         {tr("(vor 2 Tagen)"), tr("Ein weiterer, älterer Arbeitsstand"), tr("löscht alle Arbeitsstände.")});
     row("several more", 60, 4000, 3, {tr("3 weitere, ältere Arbeitsstände")});
@@ -49,7 +49,7 @@ private slots:
     for (const QString& part : parts) {
       QVERIFY2(text.contains(part), qPrintable(text));
     }
-    QCOMPARE(text.contains(QStringLiteral("neuer als")), projectAge < age);
+    QCOMPARE(text.contains(QStringLiteral("seit dieser Arbeitsstand")), projectAge < age);
     QCOMPARE(text.contains(QStringLiteral("weiter")), further > 0);
   }
 };

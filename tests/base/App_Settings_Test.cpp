@@ -76,6 +76,18 @@ private slots:
     QCOMPARE(App_Settings(mFile).favoriteProjects(), QStringList({path(2), path(3)}));
   }
 
+  void twoStudiosShareTheLists() {
+    App_Settings first(mFile);
+    App_Settings second(mFile);
+    first.setFavoriteProject(path(1), true);
+    second.setFavoriteProject(path(2), true);
+    first.addLastProject(path(3));
+    second.addLastProject(path(4));
+    first.setFavoriteProject(path(1), false);
+    QCOMPARE(App_Settings(mFile).favoriteProjects(), QStringList{path(2)});
+    QCOMPARE(App_Settings(mFile).lastProjects(), QStringList({path(4), path(3)}));
+  }
+
   void errors() {
     const std::pair<QByteArray, bool> cases[] = {
         {"[Settings]\nmMcpPort=1\n", false},

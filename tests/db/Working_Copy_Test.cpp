@@ -60,8 +60,40 @@ private slots:
     Working_Copy copy;
     QVERIFY(copy.claim(cProject));
     QCOMPARE(copy.path(), path);
+    copy.settle(cProject);
     QCOMPARE(QDir(mTemp->path()).entryList(QDir::Files | QDir::Hidden),
              QStringList(QFileInfo(path + QStringLiteral(".lock")).fileName()));
+  }
+
+  /// What could not be opened or saved has not taken the place of anything.
+  void whatACrashLeftComesBack() {
+    const QString path = Working_Copy::pathFor(cProject);
+    const File_State base{true, 5, 7};
+    touch(path);
+    touch(path + QStringLiteral("-journal"));
+    QVERIFY(base.write(path + QStringLiteral(".base")));
+    const QStringList before = QDir(mTemp->path()).entryList(QDir::Files | QDir::Hidden);
+    {
+      Working_Copy copy;
+      QVERIFY(copy.claim(cProject) && !QFile::exists(path));
+      touch(path);
+      copy.rememberBase({});
+    }
+    QCOMPARE(QDir(mTemp->path()).entryList(QDir::Files | QDir::Hidden), before);
+    QVERIFY(Working_Copy::baseOf(path) == base);
+  }
+
+  /// A cleaner has deleted file and lock, and another studio has taken the place.
+  void aLockOfAnotherStudioIsNotOurs() {
+    Working_Copy copy;
+    QVERIFY(copy.claim(cProject));
+    const QString path = copy.path();
+    QVERIFY(QFile::remove(path + QStringLiteral(".lock")));
+    writeLockOfDeadProcess(path + QStringLiteral(".lock"));
+    touch(path);
+    QVERIFY(!copy.keepLock() && copy.path().isEmpty());
+    copy.release();
+    QVERIFY(QFile::exists(path) && QFile::exists(path + QStringLiteral(".lock")));
   }
 
   void aJournalWithoutItsFileGoesBeforeAFreshCopyIsMade() {
