@@ -136,7 +136,9 @@ private slots:
     rig.prepare();
     for (const Action_Row& row : Action_Table::rows()) {
       const QAction* const action = rig.action(row.mSlot);
-      QVERIFY2(action, row.mSlot);
+      if (!action) {
+        QFAIL(row.mSlot);
+      }
       QVERIFY2(action->isEnabled() == !*row.mMissing, row.mSlot);
       QVERIFY2(action->isEnabled() || action->statusTip() == QString::fromUtf8(row.mMissing), row.mSlot);
       if (row.mSubmenu) {

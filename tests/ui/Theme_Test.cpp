@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QImage>
 #include <QPainter>
+#include <QStyle>
 #include <QtTest>
 
 #include <algorithm>
