@@ -30,23 +30,6 @@ Address_Usage_Model::Rows Address_Usage_Model::rowsOf(const ProjectDatabase& dat
   return rows;
 }
 
-void Address_Usage_Model::setRows(Rows rows) {
-  if (rows == mRows) {
-    return;
-  }
-  beginResetModel();
-  mRows = std::move(rows);
-  endResetModel();
-}
-
-int Address_Usage_Model::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(mRows.size());
-}
-
-int Address_Usage_Model::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : cColumnCount;
-}
-
 QString Address_Usage_Model::textOf(const Row& row, int column) {
   switch (column) {
   case cAddress:
@@ -101,10 +84,11 @@ QVariant Address_Usage_Model::headerData(int section, Qt::Orientation orientatio
   if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
     return alignmentOf(section);
   }
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
-    return {};
-  }
-  switch (section) {
+  return Row_Table_Model::headerData(section, orientation, role);
+}
+
+QVariant Address_Usage_Model::titleOf(int column) const {
+  switch (column) {
   case cAddress:
     return tr("Adresse");
   case cName:

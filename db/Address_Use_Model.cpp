@@ -59,23 +59,6 @@ Address_Use_Model::Rows Address_Use_Model::invalidRows(const ProjectDatabase& da
   return rows;
 }
 
-void Address_Use_Model::setRows(Rows rows) {
-  if (rows == mRows) {
-    return;
-  }
-  beginResetModel();
-  mRows = std::move(rows);
-  endResetModel();
-}
-
-int Address_Use_Model::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(mRows.size());
-}
-
-int Address_Use_Model::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : cColumnCount;
-}
-
 QString Address_Use_Model::textOf(const Row& row, int column) {
   switch (column) {
   case cPage:
@@ -118,11 +101,8 @@ QVariant Address_Use_Model::data(const QModelIndex& index, int role) const {
   }
 }
 
-QVariant Address_Use_Model::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
-    return {};
-  }
-  switch (section) {
+QVariant Address_Use_Model::titleOf(int column) const {
+  switch (column) {
   case cPage:
     return tr("Seite");
   case cOwner:

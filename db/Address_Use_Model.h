@@ -1,18 +1,29 @@
 #pragma once
 
 #include "db/Address_Usage.h"
+#include "db/Row_Table_Model.h"
 
-#include <QAbstractTableModel>
 #include <QString>
 #include <QUuid>
 
-#include <vector>
-
 class ProjectDatabase;
+
+/// A use of a group address.
+struct Address_Use_Row {
+  Address_Use mUse;
+  QUuid mKey; ///< of the address
+  Address_Usage::Use_Text mText;
+  QString mPageIcon; ///< name of the icon
+  Group_Address mAddress;
+  QString mName;
+  QString mReason;
+
+  friend bool operator==(const Address_Use_Row&, const Address_Use_Row&) = default;
+};
 
 /// Uses of group addresses, one a row: where, which address, and what is wrong with it. A picture of the moment in
 /// which the rows were made.
-class Address_Use_Model : public QAbstractTableModel {
+class Address_Use_Model : public Row_Table_Model<Address_Use_Row> {
   Q_OBJECT
 
 public:
@@ -24,20 +35,9 @@ public:
   static constexpr int cReason = 5;  ///< why the use is invalid; empty when it is not
   static constexpr int cColumnCount = 6;
 
-  struct Row {
-    Address_Use mUse;
-    QUuid mKey; ///< of the address
-    Address_Usage::Use_Text mText;
-    QString mPageIcon; ///< name of the icon
-    Group_Address mAddress;
-    QString mName;
-    QString mReason;
+  using Row = Address_Use_Row;
 
-    friend bool operator==(const Row&, const Row&) = default;
-  };
-  using Rows = std::vector<Row>;
-
-  using QAbstractTableModel::QAbstractTableModel;
+  explicit Address_Use_Model(QObject* parent = nullptr) : Row_Table_Model(cColumnCount, parent) {}
 
   /// Appends the uses of one group address.
   static void append(Rows& rows, const ProjectDatabase& database, const Address_Usage& usage, const QUuid& key,
@@ -48,17 +48,12 @@ public:
   /// The bindings to addresses that do not exist.
   [[nodiscard]] static Rows invalidRows(const ProjectDatabase& database, const Address_Usage& usage,
                                         const Address_Usage::Type_Name& blockType);
-  /// Equal rows change nothing.
-  void setRows(Rows rows);
-  [[nodiscard]] const Row& row(int row) const { return mRows[static_cast<size_t>(row)]; }
 
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+protected:
+  [[nodiscard]] QVariant titleOf(int column) const override;
 
 private:
   [[nodiscard]] static QString textOf(const Row& row, int column);
-
-  Rows mRows;
 };

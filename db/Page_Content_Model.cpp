@@ -53,23 +53,6 @@ Page_Content_Model::Rows Page_Content_Model::rowsOf(const ProjectDatabase& datab
   return rows;
 }
 
-void Page_Content_Model::setRows(Rows rows) {
-  if (rows == mRows) {
-    return;
-  }
-  beginResetModel();
-  mRows = std::move(rows);
-  endResetModel();
-}
-
-int Page_Content_Model::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(mRows.size());
-}
-
-int Page_Content_Model::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : cColumnCount;
-}
-
 QString Page_Content_Model::textOf(const Row& row, int column) {
   switch (column) {
   case cKind:
@@ -104,11 +87,8 @@ QVariant Page_Content_Model::data(const QModelIndex& index, int role) const {
   }
 }
 
-QVariant Page_Content_Model::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
-    return {};
-  }
-  switch (section) {
+QVariant Page_Content_Model::titleOf(int column) const {
+  switch (column) {
   case cKind:
     return tr("Typ");
   case cName:

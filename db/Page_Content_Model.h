@@ -1,18 +1,29 @@
 #pragma once
 
 #include "db/Address_Usage.h"
+#include "db/Row_Table_Model.h"
 
-#include <QAbstractTableModel>
 #include <QString>
 #include <QUuid>
 
-#include <vector>
-
 class ProjectDatabase;
+
+/// A block or element of a page.
+struct Page_Content_Row {
+  QUuid mGuid;
+  QString mKind;
+  QString mName;
+  int mX = 0; ///< pixels, as the one below
+  int mY = 0;
+  QString mBindings;
+  QString mComment;
+
+  friend bool operator==(const Page_Content_Row&, const Page_Content_Row&) = default;
+};
 
 /// What stands on a page, one block or element a row, in the page's order. A picture of the moment in which the rows
 /// were made.
-class Page_Content_Model : public QAbstractTableModel {
+class Page_Content_Model : public Row_Table_Model<Page_Content_Row> {
   Q_OBJECT
 
 public:
@@ -23,35 +34,19 @@ public:
   static constexpr int cComment = 4;
   static constexpr int cColumnCount = 5;
 
-  struct Row {
-    QUuid mGuid;
-    QString mKind;
-    QString mName;
-    int mX = 0; ///< pixels, as the one below
-    int mY = 0;
-    QString mBindings;
-    QString mComment;
+  using Row = Page_Content_Row;
 
-    friend bool operator==(const Row&, const Row&) = default;
-  };
-  using Rows = std::vector<Row>;
-
-  using QAbstractTableModel::QAbstractTableModel;
+  explicit Page_Content_Model(QObject* parent = nullptr) : Row_Table_Model(cColumnCount, parent) {}
 
   /// Of a logic or visualisation page; none when there is no such page.
   [[nodiscard]] static Rows rowsOf(const ProjectDatabase& database, const QUuid& page,
                                    const Address_Usage::Type_Name& blockType);
-  /// Equal rows change nothing.
-  void setRows(Rows rows);
-  [[nodiscard]] const Row& row(int row) const { return mRows[static_cast<size_t>(row)]; }
 
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+protected:
+  [[nodiscard]] QVariant titleOf(int column) const override;
 
 private:
   [[nodiscard]] static QString textOf(const Row& row, int column);
-
-  Rows mRows;
 };
