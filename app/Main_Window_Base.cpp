@@ -5,7 +5,7 @@
 #include "base/App_Settings.h"
 #include "db/Project_Session.h"
 #include "ui/Address_View.h"
-#include "ui/Alt_Letters.h"
+#include "ui/Field_Keys.h"
 #include "ui/Page_View.h"
 #include "ui/Theme.h"
 
@@ -36,7 +36,7 @@ Main_Window_Base::Main_Window_Base(Project_Session& session, App_Settings& setti
       mSettings(settings),
       mIsKiosk(isKiosk) {
   Theme::apply(*qApp);
-  new Alt_Letters(*qApp, this);
+  new Field_Keys(*qApp, this);
   setObjectName(QStringLiteral("Main_Window"));
 }
 

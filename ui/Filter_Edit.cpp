@@ -26,17 +26,7 @@ bool Filter_Edit::isClearing(const QKeyEvent& event) const {
   return event.key() == Qt::Key_Escape && !text().isEmpty();
 }
 
-/// With nothing in the field there is no word to go to, so the window may have these keys.
-bool Filter_Edit::isForWindow(const QKeyEvent& event) const {
-  const bool isWordMove = event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
-  return isWordMove && event.modifiers() == Qt::ControlModifier && text().isEmpty();
-}
-
 bool Filter_Edit::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride && isForWindow(static_cast<QKeyEvent&>(*event))) {
-    event->ignore();
-    return false;
-  }
   if (event->type() == QEvent::ShortcutOverride && isClearing(static_cast<QKeyEvent&>(*event))) {
     event->accept(); // before whoever closes something with Escape
     return true;

@@ -27,7 +27,6 @@ protected:
 
 private:
   [[nodiscard]] bool isClearing(const QKeyEvent& event) const;
-  [[nodiscard]] bool isForWindow(const QKeyEvent& event) const;
 
   QTimer mDelay;
 };

@@ -55,6 +55,7 @@ Message_Dialog QTextEdit { background: @Window@; border-color: @Window@; }
 QLineEdit:focus, QTextEdit:focus, QPlainTextEdit:focus, QAbstractItemView:focus, QScrollArea:focus {
   border: 1px solid @Accent@; }
 QLineEdit:read-only { background: @Window@; }
+QLineEdit:disabled { background: @Window@; border-color: @Button@; }
 QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0px; min-height: 0px; }
 QAbstractItemView QLineEdit { border: 1px solid @Accent@; border-radius: 0px; padding: 0px; min-height: 0px; }
 QLineEdit[invalid="true"], QAbstractItemView QLineEdit[invalid="true"] { border: 1px solid @Error@; }

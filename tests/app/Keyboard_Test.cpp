@@ -8,6 +8,7 @@
 #include "app/Start_Page.h"
 #include "base/Access_Key.h"
 #include "base/App_Settings.h"
+#include "db/Project_Edits.h"
 #include "tests/db/Session_Rig.h"
 #include "ui/Address_Import_Dialog.h"
 #include "ui/Address_Search_Dialog.h"
@@ -253,12 +254,31 @@ private slots:
     QKeyEvent euro(QEvent::KeyPress, Qt::Key_E, Qt::GroupSwitchModifier, u"€"_s);
     QApplication::sendEvent(field, &euro);
     QCOMPARE(field->text(), u"€"_s);
+  }
 
-    // An empty field has no words to go to: the keys are the window's.
+  /// A field that has nothing to take back, and an empty one, which has no words to go to, leave the keys to the
+  /// window.
+  void keysThatAFieldLeavesAlone() {
+    Rig rig;
+    QVERIFY(rig.create());
+    Main_Window_Dev window(rig.mSession, rig.mSettings, rig.mState, false);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QUuid page = rig.mSession.database().mFbPages.pages().at(0).mGuid;
     auto* const tabs = window.findChild<Page_Tabs*>();
-    tabs->showPage(rig.mSession.database().mFbPages.pages().at(0).mGuid);
+    tabs->showPage(page);
+    emit window.findChild<Start_Page*>()->backRequested();
     window.onShowWork();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left, Qt::ControlModifier);
+    auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    QVERIFY(field && field->text().isEmpty());
+    QVERIFY(Project_Edits::renamePage(rig.mSession, page, u"Flur"_s));
+    QCoreApplication::processEvents();
+    QTest::keyClicks(field, u"ab"_s);
+    QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(field->text().isEmpty() && rig.mSession.isModified());
+    QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!rig.mSession.isModified());
+    QTest::keyClick(field, Qt::Key_Left, Qt::ControlModifier);
     QCOMPARE(tabs->currentIndex(), 0);
   }
 
