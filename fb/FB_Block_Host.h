@@ -1,0 +1,41 @@
+#pragma once
+
+#include "fb/model/FB_Pin_Ref.h"
+
+#include <QString>
+
+class FB_Base;
+class QMouseEvent;
+struct DB_Address_Binding;
+
+/// What a block needs of the page on which it stands. The page outlives its blocks.
+class FB_Block_Host {
+public:
+  FB_Block_Host() = default;
+  FB_Block_Host(const FB_Block_Host&) = delete;
+  FB_Block_Host& operator=(const FB_Block_Host&) = delete;
+  virtual ~FB_Block_Host() = default;
+
+  /// 1 is one pixel of the record for one on the screen.
+  [[nodiscard]] virtual double zoom() const = 0;
+  /// Whether execution number and identifier stand in the tool tips.
+  [[nodiscard]] virtual bool isDebugToolTip() const = 0;
+  /// Whether the values at the pins are shown ("Anzeige IO").
+  [[nodiscard]] virtual bool isShowingValues() const = 0;
+  /// The value of what is bound, ready to be shown; empty when none is known.
+  [[nodiscard]] virtual QString valueOf(const DB_Address_Binding& binding) const = 0;
+  /// Names of the other pages on which the pin's binding is used too; empty for none: "Erdgeschoss", "Technik, Außen".
+  [[nodiscard]] virtual QString linkedPages(const FB_Pin_Ref& pin) const = 0;
+
+  // The mouse on a block; positions are those of the event. `pin` is null when no pin is under the pointer.
+  virtual void blockPressed(FB_Base& block, const FB_Pin_Ref* pin, QMouseEvent& event) = 0;
+  virtual void blockMoved(FB_Base& block, QMouseEvent& event) = 0;
+  virtual void blockReleased(FB_Base& block, QMouseEvent& event) = 0;
+  virtual void blockDoubleClicked(FB_Base& block, const FB_Pin_Ref* pin, QMouseEvent& event) = 0;
+  /// The pointer came to another pin of the block, or left the last one.
+  virtual void pinHovered(FB_Base& block, const FB_Pin_Ref* pin) = 0;
+  /// A group address was dropped on a pin.
+  virtual void addressDropped(const FB_Pin_Ref& pin, const QUuid& address) = 0;
+  /// The block was selected (operation `setSelected`).
+  virtual void blockSelected(FB_Base& block) = 0;
+};

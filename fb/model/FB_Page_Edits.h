@@ -1,0 +1,63 @@
+#pragma once
+
+#include "db/Edit_Result.h"
+#include "fb/model/FB_Pin_Ref.h"
+
+#include <QHash>
+#include <QList>
+#include <QPointF>
+#include <QString>
+#include <QUuid>
+
+class Project_Session;
+
+/// The edits of the blocks on the logic pages, each one undo step (or part of the one that is open). Mouse, menu,
+/// property panel, assistant and test call these. All of them refuse in the operating mode, and before the first change
+/// what names a block, pin or page that is not there (any more). Positions are pixels of the unzoomed page.
+namespace FB_Page_Edits {
+
+/// What became of an edit that makes blocks.
+struct Result : Edit_Result {
+  QList<QUuid> mBlocks; ///< those that were made, in order
+};
+
+/// A block of that type, with its upper left corner there. Refuses a second one of a type that may be in a project only
+/// once.
+[[nodiscard]] Result create(Project_Session& session, const QUuid& page, int type, const QPointF& position);
+/// Empty when a block of that type may be inserted; else why not (German).
+[[nodiscard]] QString whyNot(const Project_Session& session, int type);
+
+/// Blocks with what they hang on: internal variables that no other pin reads any more are taken off the pins that stay.
+Edit_Result remove(Project_Session& session, const QList<QUuid>& blocks);
+
+/// To these upper left corners.
+Edit_Result move(Project_Session& session, const QHash<QUuid, QPointF>& positions);
+/// Rounds x and y to multiples of the grid, halves away from zero. A grid of 0 or less leaves them.
+Edit_Result alignToGrid(Project_Session& session, const QList<QUuid>& blocks, int grid);
+enum class Edge { Left, Top, Right, Bottom };
+/// To their common outermost edge.
+Edit_Result align(Project_Session& session, const QList<QUuid>& blocks, Edge edge);
+/// Makes the gaps between them equal; the outermost two stay.
+Edit_Result distribute(Project_Session& session, const QList<QUuid>& blocks, Qt::Orientation orientation);
+
+/// Connects the pin at which dragging began with the other one: an output with an input of another block. The other
+/// gets the binding of the first; when that has none, the first the other's; when none has one, both a new internal
+/// variable.
+Edit_Result connectPins(Project_Session& session, const FB_Pin_Ref& from, const FB_Pin_Ref& to);
+/// Takes the binding off the input. An internal variable that then no input of the project reads is taken off the
+/// output too; a group address stays there. A connection that is no more is left alone, without a refusal.
+Edit_Result removeConnection(Project_Session& session, const FB_Connection& connection);
+/// Takes an end of the connection to another pin of its side.
+Edit_Result moveConnection(Project_Session& session, const FB_Connection& connection, FB_Side end,
+                           const FB_Pin_Ref& to);
+
+/// To the group address of that key.
+Edit_Result bind(Project_Session& session, const FB_Pin_Ref& pin, const QUuid& address);
+Edit_Result unbind(Project_Session& session, const FB_Pin_Ref& pin);
+
+/// The block's own title; of a comment block its text, of several lines.
+Edit_Result setTitle(Project_Session& session, const QUuid& block, const QString& title);
+/// One parameter; the pins follow.
+Edit_Result setParameter(Project_Session& session, const QUuid& block, int index, const QString& value);
+
+} // namespace FB_Page_Edits

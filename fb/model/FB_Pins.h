@@ -1,0 +1,24 @@
+#pragma once
+
+#include "db/DB_FB_Control.h"
+#include "fb/model/FB_Type.h"
+
+#include <QPointF>
+
+#include <memory>
+
+/// Parameters and pins of a block's record, as its type declares them.
+namespace FB_Pins {
+
+/// A fresh record of that type: default parameters, unbound pins, an identifier of its own. Null for an unknown type.
+[[nodiscard]] std::unique_ptr<DB_FB_Control> makeBlock(int type, const QPointF& position);
+
+/// Completes missing parameters with their defaults, corrects an impossible count (no integer, or fewer than the type
+/// has at least) and makes the lists of pins anew. Pins that stay keep their binding. A block whose type declares no
+/// pins keeps what its record holds.
+void rebuild(DB_FB_Control& block);
+
+[[nodiscard]] std::vector<DB_FB_Pin>& pins(DB_FB_Control& block, FB_Side side);
+[[nodiscard]] const std::vector<DB_FB_Pin>& pins(const DB_FB_Control& block, FB_Side side);
+
+} // namespace FB_Pins
