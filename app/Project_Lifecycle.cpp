@@ -7,6 +7,7 @@
 #include "db/DB_Legacy_Import.h"
 #include "db/Demo_Project.h"
 #include "db/Working_Copy.h"
+#include "fb/model/Demo_Logic.h"
 #include "fb/model/FB_Normaliser.h"
 
 #include <QCoreApplication>
@@ -164,7 +165,7 @@ bool Project_Lifecycle::openDemo() {
     return false;
   }
   QString error;
-  if (!Demo_Project::build(mSession, path, error)) {
+  if (!Demo_Project::build(mSession, path, Demo_Logic::build, error)) {
     mDialogs.showMessage(tr("Das Demo-Projekt kann nicht angelegt werden.") + u'\n' + error);
     return false;
   }

@@ -257,6 +257,14 @@ void Address_Clipboard::fill(QMimeData& data, Project_Session& session, const QL
   data.setData(levelType(), unpacked ? QByteArray::number(unpacked->mLevel) : QByteArray());
 }
 
+QUuid Address_Clipboard::singleAddress(const QMimeData& data) {
+  if (data.data(levelType()).toInt() != cSub) {
+    return {};
+  }
+  const QJsonArray items = QJsonDocument::fromJson(data.data(mimeType())).object().value(cItems).toArray();
+  return items.size() == 1 && isWhole(items.at(0).toObject(), cSub) ? keysOf(items).constFirst() : QUuid();
+}
+
 bool Address_Clipboard::fits(Project_Session& session, const QMimeData& data, const QUuid& target) {
   bool isLevel = false;
   const int level = data.data(levelType()).toInt(&isLevel);

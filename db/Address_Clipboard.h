@@ -34,6 +34,9 @@ struct Result {
 /// The same as data of the clipboard and of dragging.
 void fill(QMimeData& data, Project_Session& session, const QList<QUuid>& keys, Use use);
 
+/// The key of the one address that is dragged; null when it is none, several or a group.
+[[nodiscard]] QUuid singleAddress(const QMimeData& data);
+
 /// Whether `paste` would find a place for the data; quick, for it is asked with every move of the mouse.
 [[nodiscard]] bool fits(Project_Session& session, const QMimeData& data, const QUuid& target);
 

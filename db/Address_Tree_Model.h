@@ -77,6 +77,8 @@ public:
   void sort(int column, Qt::SortOrder order) override;
 
   [[nodiscard]] Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+  /// Whoever else takes addresses refers to them.
+  [[nodiscard]] Qt::DropActions supportedDragActions() const override { return Qt::MoveAction | Qt::LinkAction; }
   [[nodiscard]] QStringList mimeTypes() const override;
   [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
   [[nodiscard]] bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 QString tr(const char* text) {
@@ -92,6 +94,12 @@ std::span<const Address_Use> Address_Usage::uses(const QUuid& key) const {
   }
   const Range& range = mRanges[*found];
   return std::span(mUses).subspan(range.mFirst, range.mCount);
+}
+
+const Address_Usage::Variable* Address_Usage::variable(const QUuid& key) const {
+  const auto found = std::find_if(mVariables.cbegin(), mVariables.cend(),
+                                  [&key](const Variable& variable) { return variable.mKey == key; });
+  return found == mVariables.cend() ? nullptr : &*found;
 }
 
 Address_Usage::Use_Text Address_Usage::text(const ProjectDatabase& database, const Address_Use& use,

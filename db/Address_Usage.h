@@ -62,6 +62,8 @@ public:
 
   /// In the order in which they were first met.
   [[nodiscard]] const std::vector<Variable>& variables() const { return mVariables; }
+  /// Null when no variable of that key is used.
+  [[nodiscard]] const Variable* variable(const QUuid& key) const;
   /// In the order of pages.
   [[nodiscard]] const std::vector<Invalid>& invalid() const { return mInvalid; }
 

@@ -4,6 +4,8 @@
 #include "db/Page_Tree_Model.h"
 #include "db/ProjectDatabase.h"
 
+#include <limits>
+
 namespace {
 
 /// Address and name stand in cells of their own. The number may have been given to another address since.
@@ -14,16 +16,22 @@ QString reasonOf(const ProjectDatabase& database, const Group_Address& address) 
                : Address_Use_Model::tr("Die Adresse gibt es nicht mehr.");
 }
 
+constexpr qint64 cLast = std::numeric_limits<qint64>::max(); // behind all addresses
+
 } // namespace
 
 void Address_Use_Model::append(Rows& rows, const ProjectDatabase& database, const Address_Usage& usage,
                                const QUuid& key, const Address_Usage::Type_Name& blockType) {
-  const DB_Address_Sub_Group* const group = database.mAddresses.subGroup(key);
-  if (!group) {
+  std::optional<Group_Address> address;
+  QString name;
+  if (const DB_Address_Sub_Group* const group = database.mAddresses.subGroup(key)) {
+    address = database.mAddresses.addressOf(*group);
+    name = group->mName.simplified();
+  } else if (const Address_Usage::Variable* const variable = usage.variable(key)) {
+    name = variable->mName.simplified();
+  } else {
     return;
   }
-  const Group_Address address = database.mAddresses.addressOf(*group);
-  const QString name = group->mName.simplified();
   for (const Address_Use& use : usage.uses(key)) {
     rows.push_back({use,
                     key,
@@ -68,7 +76,7 @@ QString Address_Use_Model::textOf(const Row& row, int column) {
   case cPlace:
     return row.mText.mPlace;
   case cAddress:
-    return row.mAddress.toString();
+    return row.mAddress ? row.mAddress->toString() : tr("Variable");
   case cName:
     return row.mName;
   default:
@@ -93,7 +101,8 @@ QVariant Address_Use_Model::data(const QModelIndex& index, int role) const {
     }
     return column == cPage ? shown.mPageIcon : QVariant();
   case Model_Roles::cSortKey:
-    return column == cAddress ? QVariant(Model_Roles::sortKey(shown.mAddress)) : textOf(shown, column);
+    return column == cAddress ? QVariant(shown.mAddress ? Model_Roles::sortKey(*shown.mAddress) : cLast)
+                              : textOf(shown, column);
   case Model_Roles::cIdentity:
     return QVariantList{shown.mUse.mOwnerGuid, static_cast<int>(shown.mUse.mPlace), shown.mUse.mIndex};
   default:

@@ -27,3 +27,7 @@ void Binding_Refresh::one(ProjectDatabase& database, const QUuid& key) {
     }
   });
 }
+
+void Binding_Refresh::block(const Address_Tree& tree, DB_FB_Control& block) {
+  DB_Bindings::visitOwner(block, [&tree](DB_Address_Binding& binding) { refresh(tree, binding); });
+}

@@ -3,7 +3,7 @@
 #include "db/DB_Page_List.h"
 #include "db/Undo_Adapter.h"
 
-/// The blocks or elements of all pages of a list as an owner of records in the history.
+/// The elements of all visualisation pages as an owner of records in the history; `FB_Page_Undo` is that of the blocks.
 template <class Page>
 class Child_Undo : public Undo_Adapter {
 public:
@@ -27,14 +27,16 @@ public:
 
   bool remove(const QUuid& id) override { return mList.takeChild(id) != nullptr; }
 
-  [[nodiscard]] qsizetype placeOf(const QUuid& id) const override {
-    const Child* const child = mList.child(id);
-    return child ? mList.page(child->mPageGuid)->mChildren.indexOf(child) : -1;
-  }
+  [[nodiscard]] qsizetype placeOf(const QUuid& id) const override { return mList.placeOf(id); }
 
   bool move(const QUuid& id, qsizetype place) override {
     std::unique_ptr<Child> child = mList.takeChild(id);
     return child && mList.insertChild(place, std::move(child));
+  }
+
+  [[nodiscard]] QUuid pageOf(const QUuid& id) const override {
+    const Child* const child = mList.child(id);
+    return child ? child->mPageGuid : QUuid();
   }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -24,12 +25,20 @@ public:
   [[nodiscard]] bool isEmpty() const { return mItems.empty(); }
   [[nodiscard]] Child& at(qsizetype index) const { return *mItems[static_cast<size_t>(index)]; }
 
-  /// -1 when the child is not in this list.
+  /// -1 when the child is not in this list. Quick for one near that which was asked for before, so that going through
+  /// the list in its order takes linear time.
   [[nodiscard]] qsizetype indexOf(const Child* child) const {
-    for (size_t i = 0; i < mItems.size(); ++i) {
-      if (mItems[i].get() == child) {
-        return static_cast<qsizetype>(i);
+    qsizetype below = std::min(mLastFound, size() - 1);
+    qsizetype above = below + 1;
+    while (below >= 0 || above < size()) {
+      if (below >= 0 && &at(below) == child) {
+        return mLastFound = below;
       }
+      if (above < size() && &at(above) == child) {
+        return mLastFound = above;
+      }
+      --below;
+      ++above;
     }
     return -1;
   }
@@ -57,4 +66,5 @@ public:
 
 private:
   std::vector<std::unique_ptr<Child>> mItems;
+  mutable qsizetype mLastFound = 0;
 };

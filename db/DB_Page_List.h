@@ -35,6 +35,11 @@ public:
   [[nodiscard]] qsizetype childCount() const { return mChildByGuid.size(); }
   [[nodiscard]] Page* page(const QUuid& guid) const { return mPageByGuid.value(guid); }
   [[nodiscard]] Child* child(const QUuid& guid) const { return mChildByGuid.value(guid); }
+  /// Index of the child on its page; -1 when there is none.
+  [[nodiscard]] qsizetype placeOf(const QUuid& guid) const {
+    const Child* const found = child(guid);
+    return found ? page(found->mPageGuid)->mChildren.indexOf(found) : -1;
+  }
 
   /// With the children it holds. An index outside the list appends.
   Page& insertPage(qsizetype index, std::unique_ptr<Page> page) {

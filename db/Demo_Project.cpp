@@ -62,9 +62,11 @@ void addAddresses(Address_Tree& tree, const QJsonArray& mainGroups) {
 
 void addPages(ProjectDatabase& database, const QJsonObject& from) {
   database.mFbPages.clear();
-  for (const auto& caption : array(from, "logicPages"_L1)) {
+  for (const auto& value : array(from, "logicPages"_L1)) {
+    const QJsonObject fromPage = value.toObject();
     auto page = std::make_unique<DB_FB_Page>();
-    page->mCaption = caption.toString();
+    page->mCaption = text(fromPage, "caption"_L1);
+    page->mComment = text(fromPage, "comment"_L1);
     database.mFbPages.appendPage(std::move(page));
   }
   database.mWidgetPages.clear();
@@ -86,7 +88,7 @@ QString Demo_Project::defaultPath() {
   return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/Demo.zpro");
 }
 
-bool Demo_Project::build(Project_Session& session, const QString& path, QString& error) {
+bool Demo_Project::build(Project_Session& session, const QString& path, const Fill& logic, QString& error) {
   QFile file(QStringLiteral(":/demo/demo.json"));
   QJsonParseError parseError{};
   const QJsonDocument document =
@@ -113,6 +115,10 @@ bool Demo_Project::build(Project_Session& session, const QString& path, QString&
   database.mProject.mGeopos_Longitude = demo.value("longitude"_L1).toDouble();
   addAddresses(database.mAddresses, array(demo, "addresses"_L1));
   addPages(database, demo);
+  if (!logic(database, demo, error)) {
+    session.close();
+    return false;
+  }
   if (session.save() != Project_Session::Save_Result::Saved) {
     error = session.lastError();
     session.close();

@@ -91,6 +91,16 @@ void History::dropWithoutEffect(Entries& entries) {
   entries.erase(std::remove_if(entries.begin(), entries.end(), isDropped), entries.end());
 }
 
+/// The latest step stays, however large it is.
+void History::keepToLimits() {
+  while (mSteps.size() > cLimit || (mEntryCount > cEntryLimit && mSteps.size() > 1)) {
+    mFirstState = mSteps.front().mId;
+    mEntryCount -= mSteps.front().mEntries.size();
+    mSteps.pop_front();
+    mSavedPosition = std::max<qsizetype>(mSavedPosition - 1, cSavedGone);
+  }
+}
+
 void History::commit() {
   if (mScopeDepth > 0 || mPending.empty()) {
     return;
@@ -104,13 +114,13 @@ void History::commit() {
     if (mSavedPosition > static_cast<qsizetype>(mPosition)) {
       mSavedPosition = cSavedGone;
     }
-    mSteps.erase(mSteps.begin() + static_cast<qsizetype>(mPosition), mSteps.end());
-    mSteps.push_back({mPendingText, std::move(entries), ++mLastId});
-    if (mSteps.size() > cLimit) {
-      mFirstState = mSteps.front().mId;
-      mSteps.pop_front();
-      mSavedPosition = std::max<qsizetype>(mSavedPosition - 1, cSavedGone);
+    while (mSteps.size() > mPosition) {
+      mEntryCount -= mSteps.back().mEntries.size();
+      mSteps.pop_back();
     }
+    mEntryCount += entries.size();
+    mSteps.push_back({mPendingText, std::move(entries), ++mLastId});
+    keepToLimits();
     mPosition = mSteps.size();
   }
   emit changed();
@@ -142,23 +152,28 @@ History::Entry History::applyEntry(const Entry& entry) {
 }
 
 /// Turns a step into its inverse by applying it.
-void History::applyStep(Step& step) {
+std::vector<History::Applied> History::applyStep(Step& step) {
   std::set<Undo_Adapter*> owners;
   for (const Entry& entry : step.mEntries) {
     owners.insert(entry.mOwner);
   }
   for (Undo_Adapter* const owner : owners) {
-    owner->begin();
+    owner->reset();
   }
   Entries inverse;
   inverse.reserve(step.mEntries.size());
+  std::vector<Applied> applied;
+  applied.reserve(step.mEntries.size());
   for (auto entry = step.mEntries.crbegin(); entry != step.mEntries.crend(); ++entry) {
+    const QUuid page = entry->mOwner->pageOf(entry->mId);
     inverse.push_back(applyEntry(*entry));
+    applied.push_back({entry->mOwner, entry->mId, page.isNull() ? entry->mOwner->pageOf(entry->mId) : page});
   }
   step.mEntries = std::move(inverse);
   for (Undo_Adapter* const owner : owners) {
-    owner->end();
+    owner->finish();
   }
+  return applied;
 }
 
 bool History::undo(QString* refusal) {
@@ -169,9 +184,10 @@ bool History::undo(QString* refusal) {
   if (mPosition == 0) {
     return false;
   }
-  applyStep(mSteps[mPosition - 1]);
+  const std::vector<Applied> applied = applyStep(mSteps[mPosition - 1]);
   --mPosition;
   emit changed();
+  emit stepApplied(applied);
   return true;
 }
 
@@ -183,9 +199,10 @@ bool History::redo(QString* refusal) {
   if (mPosition == mSteps.size()) {
     return false;
   }
-  applyStep(mSteps[mPosition]);
+  const std::vector<Applied> applied = applyStep(mSteps[mPosition]);
   ++mPosition;
   emit changed();
+  emit stepApplied(applied);
   return true;
 }
 
@@ -215,6 +232,7 @@ void History::clear() {
   mPending.clear();
   mPendingKnown.clear();
   mSteps.clear();
+  mEntryCount = 0;
   mFirstState = ++mLastId;
   mPosition = 0;
   mSavedPosition = 0;

@@ -17,12 +17,16 @@
 ///
 /// A step is a list of entries: owner, kind, place in its list, copy of the record. Entries are recorded through an
 /// `Edit_Scope` only. Those of one turn of the event loop are one step, closed by a zero-delay timer; a scope of its
-/// own closes its step when it is left. At most 500 steps are kept.
+/// own closes its step when it is left.
+///
+/// At most `cLimit` steps are kept. A copy of a block takes about 2 kB of memory; the oldest steps go earlier when all
+/// of them hold more than `cEntryLimit` copies.
 class History : public QObject {
   Q_OBJECT
 
 public:
-  static constexpr size_t cLimit = 500;
+  static constexpr size_t cLimit = 1000;
+  static constexpr size_t cEntryLimit = 1'000'000;
 
   explicit History(Session_State& state, QObject* parent = nullptr);
 
@@ -61,7 +65,17 @@ public:
   /// Number of committed steps that can be undone; for tests and displays.
   [[nodiscard]] size_t position() const { return mPosition; }
 
+  /// A record that undo or redo has changed, made or deleted.
+  struct Applied {
+    Undo_Adapter* mOwner = nullptr;
+    QUuid mId;
+    QUuid mPage; ///< on which it is, or was; of a page itself; null for a record that belongs to none
+  };
+
 signals:
+  /// A step was taken back or done again. Once for each, after all of it; `records` in the order in which it was done,
+  /// so that the window can go to the page that changed and select what is there.
+  void stepApplied(const std::vector<History::Applied>& records);
   /// Steps, texts or the modified mark changed.
   void changed();
 
@@ -93,13 +107,15 @@ private:
   void leaveScope();
   [[nodiscard]] static bool isWithoutEffect(const Entry& entry);
   static void dropWithoutEffect(Entries& entries);
+  void keepToLimits();
   [[nodiscard]] static Entry applyEntry(const Entry& entry);
-  static void applyStep(Step& step);
+  [[nodiscard]] static std::vector<Applied> applyStep(Step& step);
 
   Session_State& mState;
   QTimer mTimer;
   std::deque<Step> mSteps;
   size_t mPosition = 0;
+  size_t mEntryCount = 0; ///< of all steps
   qsizetype mSavedPosition = 0;
   bool mChangedOutside = false;
   quint64 mLastId = 0; ///< of steps, never given twice

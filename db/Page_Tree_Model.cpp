@@ -5,12 +5,16 @@
 #include "db/Project_Edits.h"
 #include "db/Project_Session.h"
 
+#include <QMimeData>
+
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-/// A branch's index carries this, a page's the row of its branch.
+/// A branch's index carries this, a page's the row of its branch, a block's the row of its page above `cFirstPage`.
 constexpr quintptr cIsBranch = Page_Tree_Model::cBranchCount;
+constexpr quintptr cFirstPage = cIsBranch + 1;
 
 template <class Page>
 const Page* pageAt(const DB_Page_List<Page>& list, int row) {
@@ -19,17 +23,29 @@ const Page* pageAt(const DB_Page_List<Page>& list, int row) {
 
 } // namespace
 
-Page_Tree_Model::Page_Tree_Model(Project_Session& session, QObject* parent)
+Page_Tree_Model::Page_Tree_Model(Project_Session& session, Block_Texts texts, QObject* parent)
     : QAbstractItemModel(parent),
-      mSession(session) {
-  listenTo(session.database().mFbPages);
+      mSession(session),
+      mTexts(std::move(texts)) {
+  mFollow.setSingleShot(true);
+  mFollow.setInterval(0);
+  connect(&mFollow, &QTimer::timeout, this, &Page_Tree_Model::followBlocks);
+  const DB_Page_List_Signals& logic = session.database().mFbPages;
+  listenTo(logic);
   listenTo(session.database().mWidgetPages);
+  connect(&logic, &DB_Page_List_Signals::childChanged, this, &Page_Tree_Model::onBlockChanged);
 }
 
 void Page_Tree_Model::listenTo(const DB_Page_List_Signals& list) {
   connect(&list, &DB_Page_List_Signals::structureAboutToChange, this, &Page_Tree_Model::beginResetModel);
-  connect(&list, &DB_Page_List_Signals::structureChanged, this, &Page_Tree_Model::endResetModel);
+  connect(&list, &DB_Page_List_Signals::structureChanged, this, &Page_Tree_Model::onStructureChanged);
   connect(&list, &DB_Page_List_Signals::pageChanged, this, &Page_Tree_Model::onPageChanged);
+}
+
+void Page_Tree_Model::onStructureChanged() {
+  mShown.clear();
+  mChanged.clear();
+  endResetModel();
 }
 
 void Page_Tree_Model::onPageChanged(const QUuid& guid) {
@@ -57,6 +73,22 @@ QUuid Page_Tree_Model::guidOf(const QModelIndex& index) const {
   return page ? page->mGuid : QUuid();
 }
 
+QUuid Page_Tree_Model::blockOf(const QModelIndex& index) const {
+  const bool isBlock = index.isValid() && index.internalId() >= cFirstPage;
+  const DB_FB_Page* const page = isBlock ? logicPage(index.parent()) : nullptr;
+  return page ? blocksOf(*page).value(index.row()) : QUuid();
+}
+
+QUuid Page_Tree_Model::pageOf(const QModelIndex& index) const {
+  const QUuid guid = guidOf(index);
+  return guid.isNull() ? guidOf(index.parent()) : guid;
+}
+
+const DB_FB_Control* Page_Tree_Model::block(const QModelIndex& index) const {
+  const QUuid guid = blockOf(index);
+  return guid.isNull() ? nullptr : mSession.database().mFbPages.child(guid);
+}
+
 QModelIndex Page_Tree_Model::indexOf(const QUuid& guid) const {
   const ProjectDatabase& database = mSession.database();
   if (const DB_FB_Page* const page = database.mFbPages.page(guid)) {
@@ -66,6 +98,14 @@ QModelIndex Page_Tree_Model::indexOf(const QUuid& guid) const {
     return createIndex(static_cast<int>(database.mWidgetPages.pages().indexOf(page)), 0, quintptr(cVisuBranch));
   }
   return {};
+}
+
+QModelIndex Page_Tree_Model::indexOfBlock(const QUuid& guid) const {
+  const auto& list = mSession.database().mFbPages;
+  const DB_FB_Control* const found = list.child(guid);
+  const DB_FB_Page* const page = found ? list.page(found->mPageGuid) : nullptr;
+  const qsizetype row = page ? blocksOf(*page).indexOf(guid) : -1;
+  return row < 0 ? QModelIndex() : index(static_cast<int>(row), 0, indexOf(page->mGuid));
 }
 
 QString Page_Tree_Model::controllerText(int number) const {
@@ -118,12 +158,20 @@ QModelIndex Page_Tree_Model::index(int row, int column, const QModelIndex& paren
   if (!hasIndex(row, column, parent)) {
     return {};
   }
-  return createIndex(row, column, parent.isValid() ? static_cast<quintptr>(parent.row()) : cIsBranch);
+  if (!parent.isValid()) {
+    return createIndex(row, column, cIsBranch);
+  }
+  const quintptr row0 = static_cast<quintptr>(parent.row());
+  return createIndex(row, column, parent.internalId() == cIsBranch ? row0 : cFirstPage + row0);
 }
 
 QModelIndex Page_Tree_Model::parent(const QModelIndex& child) const {
-  const bool isPage = child.isValid() && child.internalId() != cIsBranch;
-  return isPage ? createIndex(static_cast<int>(child.internalId()), 0, cIsBranch) : QModelIndex();
+  if (!child.isValid() || child.internalId() == cIsBranch) {
+    return {};
+  }
+  const bool isBlock = child.internalId() >= cFirstPage;
+  return isBlock ? createIndex(static_cast<int>(child.internalId() - cFirstPage), 0, quintptr(cLogicBranch))
+                 : createIndex(static_cast<int>(child.internalId()), 0, cIsBranch);
 }
 
 int Page_Tree_Model::rowCount(const QModelIndex& parent) const {
@@ -131,7 +179,8 @@ int Page_Tree_Model::rowCount(const QModelIndex& parent) const {
     return cBranchCount;
   }
   if (parent.internalId() != cIsBranch) {
-    return 0;
+    const DB_FB_Page* const page = logicPage(parent);
+    return page ? static_cast<int>(blocksOf(*page).size()) : 0;
   }
   const ProjectDatabase& database = mSession.database();
   const bool isLogic = parent.row() == cLogicBranch;
@@ -143,6 +192,10 @@ int Page_Tree_Model::columnCount(const QModelIndex&) const {
 }
 
 QString Page_Tree_Model::captionOf(const QModelIndex& index) const {
+  if (index.isValid() && index.internalId() >= cFirstPage) {
+    const DB_FB_Control* const shown = block(index);
+    return shown ? blockText(*shown) : QString();
+  }
   if (const DB_FB_Page* const page = logicPage(index)) {
     return page->mCaption;
   }
@@ -173,8 +226,14 @@ QVariant Page_Tree_Model::data(const QModelIndex& index, int role) const {
   case Qt::EditRole:
     return captionOf(index);
   case Qt::ToolTipRole:
+    if (const DB_FB_Control* const shown = block(index)) {
+      return blockToolTip(index, *shown);
+    }
     return Model_Roles::toolTip(captionOf(index));
   case Model_Roles::cIconName: {
+    if (index.internalId() >= cFirstPage) {
+      return QStringLiteral("plus_white");
+    }
     const QString icon = pageIcon(mSession.database(), guidOf(index));
     return icon.isEmpty() ? QVariant() : icon;
   }
@@ -192,10 +251,15 @@ Qt::ItemFlags Page_Tree_Model::flags(const QModelIndex& index) const {
   if (!index.isValid()) {
     return Qt::NoItemFlags;
   }
-  const bool isPage = index.internalId() != cIsBranch;
+  const bool isBranch = index.internalId() == cIsBranch;
+  const bool isBlock = index.internalId() >= cFirstPage;
+  const bool isLogic = isBranch ? index.row() == cLogicBranch : index.internalId() == cLogicBranch;
+  const bool mayEdit = !mSession.state().operatingMode();
   Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-  flags.setFlag(Qt::ItemNeverHasChildren, isPage);
-  flags.setFlag(Qt::ItemIsEditable, isPage && !mSession.state().operatingMode());
+  flags.setFlag(Qt::ItemNeverHasChildren, !isBranch && !isLogic);
+  flags.setFlag(Qt::ItemIsEditable, !isBranch && !isBlock && mayEdit);
+  flags.setFlag(Qt::ItemIsDragEnabled, !isBranch && isLogic && mayEdit);
+  flags.setFlag(Qt::ItemIsDropEnabled, isBranch && isLogic && mayEdit);
   return flags;
 }
 
@@ -205,4 +269,42 @@ bool Page_Tree_Model::setData(const QModelIndex& index, const QVariant& value, i
     return false;
   }
   return value.toString() == captionOf(index) || rename(guid, value.toString());
+}
+
+QStringList Page_Tree_Model::mimeTypes() const {
+  return {QStringLiteral("application/x-quarna-studio-logic-page")};
+}
+
+QMimeData* Page_Tree_Model::mimeData(const QModelIndexList& indexes) const {
+  const DB_FB_Page* const page = logicPage(indexes.value(0));
+  if (!page) {
+    return nullptr;
+  }
+  auto* const data = new QMimeData;
+  data->setData(mimeTypes().constFirst(), page->mGuid.toByteArray());
+  return data;
+}
+
+/// Null when it is no page of this project.
+QUuid Page_Tree_Model::draggedPage(const QMimeData* data) const {
+  const QUuid guid = data ? QUuid::fromString(QLatin1String(data->data(mimeTypes().constFirst()))) : QUuid();
+  return mSession.database().mFbPages.page(guid) ? guid : QUuid();
+}
+
+bool Page_Tree_Model::canDropMimeData(const QMimeData* data, Qt::DropAction action, int, int,
+                                      const QModelIndex& parent) const {
+  const bool isBranch = parent.isValid() && parent.internalId() == cIsBranch && parent.row() == cLogicBranch;
+  return isBranch && action == Qt::MoveAction && !draggedPage(data).isNull();
+}
+
+bool Page_Tree_Model::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                   const QModelIndex& parent) {
+  if (!canDropMimeData(data, action, row, column, parent)) {
+    return false;
+  }
+  const QUuid page = draggedPage(data);
+  const int from = indexOf(page).row();
+  const int before = row < 0 ? rowCount(parent) : row;
+  emit moveRequested(page, before > from ? before - 1 : before);
+  return true;
 }

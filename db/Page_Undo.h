@@ -36,6 +36,8 @@ public:
 
   bool move(const QUuid& id, qsizetype place) override { return mList.movePage(placeOf(id), place); }
 
+  [[nodiscard]] QUuid pageOf(const QUuid& id) const override { return mList.page(id) ? id : QUuid(); }
+
 private:
   DB_Page_List<Page>& mList;
 };

@@ -19,23 +19,22 @@ void setCaption(DB_Page_List<Page>& list, Undo_Adapter& undo, Edit_Scope& scope,
   list.changePage(guid, [&caption](Page& page) { page.mCaption = caption; });
 }
 
-Edit_Result checkLength(const QString& name) {
-  if (name.size() > Project_Edits::cNameLimit) {
-    return Edit_Result::refused(
-        tr("Der Name hat %1 Zeichen, erlaubt sind höchstens %2.").arg(name.size()).arg(Project_Edits::cNameLimit));
+} // namespace
+
+Edit_Result Project_Edits::checkPageName(const QString& caption) {
+  const qsizetype length = DB_Text::singleLine(caption).size();
+  if (length == 0) {
+    return Edit_Result::refused(tr("Eine Seite braucht einen Namen."));
+  }
+  if (length > cNameLimit) {
+    return Edit_Result::refused(tr("Der Name hat %1 Zeichen, erlaubt sind höchstens %2.").arg(length).arg(cNameLimit));
   }
   return Edit_Result::done();
 }
 
-} // namespace
-
 Edit_Result Project_Edits::renamePage(Project_Session& session, const QUuid& guid, const QString& caption) {
   ProjectDatabase& database = session.database();
-  const QString clean = DB_Text::singleLine(caption);
-  if (clean.isEmpty()) {
-    return Edit_Result::refused(tr("Eine Seite braucht einen Namen."));
-  }
-  if (Edit_Result result = checkLength(clean); !result) {
+  if (Edit_Result result = checkPageName(caption); !result) {
     return result;
   }
   if (!database.mFbPages.page(guid) && !database.mWidgetPages.page(guid)) {
@@ -46,9 +45,9 @@ Edit_Result Project_Edits::renamePage(Project_Session& session, const QUuid& gui
     return Edit_Result::refused(scope.refusal());
   }
   if (database.mFbPages.page(guid)) {
-    setCaption(database.mFbPages, session.fbPageUndo(), scope, guid, clean);
+    setCaption(database.mFbPages, session.fbPageUndo(), scope, guid, DB_Text::singleLine(caption));
   } else {
-    setCaption(database.mWidgetPages, session.widgetPageUndo(), scope, guid, clean);
+    setCaption(database.mWidgetPages, session.widgetPageUndo(), scope, guid, DB_Text::singleLine(caption));
   }
   return Edit_Result::done();
 }

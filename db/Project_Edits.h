@@ -15,7 +15,9 @@ namespace Project_Edits {
 /// Longest name of a page, in characters.
 inline constexpr qsizetype cNameLimit = 255;
 
-/// Renames a logic or visualisation page. A name of 1 to 255 characters in one line.
+/// A name of 1 to 255 characters in one line.
+[[nodiscard]] Edit_Result checkPageName(const QString& caption);
+/// Renames a logic or visualisation page.
 Edit_Result renamePage(Project_Session& session, const QUuid& guid, const QString& caption);
 
 /// Where the building stands: latitude -90..90 and longitude -180..180 in degrees, north and east positive.

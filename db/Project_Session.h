@@ -2,6 +2,7 @@
 
 #include "db/Address_Undo.h"
 #include "db/Child_Undo.h"
+#include "db/FB_Page_Undo.h"
 #include "db/History.h"
 #include "db/New_Project.h"
 #include "db/Page_Undo.h"
@@ -30,6 +31,7 @@ public:
   /// What the session is doing: whether edits are refused.
   [[nodiscard]] Session_State& state() const { return mState; }
   [[nodiscard]] ProjectDatabase& database() { return mDatabase; }
+  [[nodiscard]] const ProjectDatabase& database() const { return mDatabase; }
   [[nodiscard]] History& history() { return mHistory; }
   [[nodiscard]] bool isModified() const { return isOpen() && mHistory.isModified(); }
 
@@ -102,7 +104,7 @@ private:
   Address_Undo mAddressUndo;
   Page_Undo<DB_FB_Page> mFbPageUndo;
   Page_Undo<DB_Widget_Page> mWidgetPageUndo;
-  Child_Undo<DB_FB_Page> mBlockUndo;
+  FB_Page_Undo mBlockUndo;
   Child_Undo<DB_Widget_Page> mElementUndo;
   Single_Record_Undo mProjectUndo;
   Working_Copy mWorkingCopy;

@@ -78,8 +78,10 @@ bool Project_Tree_View::event(QEvent* event) {
 void Project_Tree_View::keyPressEvent(QKeyEvent* event) {
   if (QAction* const command = commandOf(*event)) {
     command->trigger();
-  } else if (mState.operatingMode() && commandOf(*event, false)) {
-    emit refused(Session_State::operatingModeRefusal());
+  } else if (commandOf(*event, false)) {
+    if (mState.operatingMode()) {
+      emit refused(Session_State::operatingModeRefusal());
+    }
   } else {
     QTreeView::keyPressEvent(event);
   }

@@ -9,9 +9,17 @@
 /// checked.
 ///
 /// Pasted blocks have identifiers of their own. Wires between them stay, through variables of their own. Inputs keep
-/// their group address; outputs lose what they write, lest two blocks write the same, unless the settings say that they
-/// keep it.
+/// their group address, found by its key, else by its numbers, and a variable from elsewhere that the project has;
+/// outputs lose what they write, lest two blocks write the same, unless the settings say that they keep it. What the
+/// project does not have is left unbound.
+///
+/// The bytes, with numbers of 32 bits in network order: "QSBLOCKS", version 1, number of blocks, then of each the
+/// length of its DATA text and the text.
 namespace FB_Clipboard {
+
+/// More is refused.
+inline constexpr quint32 cBlockLimit = 20'000;
+inline constexpr qsizetype cSizeLimit = 64 * 1024 * 1024; ///< bytes of all
 
 [[nodiscard]] QString mimeType();
 
@@ -21,7 +29,8 @@ namespace FB_Clipboard {
 /// True when this is the beginning of packed blocks; quick.
 [[nodiscard]] bool isPacked(const QByteArray& packed);
 
-/// Onto a page, with the upper left corner of what was copied there. One undo step; refuses all when one may not be.
+/// Onto a page, with the upper left corner of what was copied there, but with nothing left of or above the page. One
+/// undo step; refuses all when one may not be.
 [[nodiscard]] FB_Page_Edits::Result paste(Project_Session& session, const QUuid& page, const QByteArray& packed,
                                           const QPointF& position, bool keepOutputs);
 /// Copies on the same page, moved by `offset`.

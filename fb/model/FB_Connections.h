@@ -25,8 +25,11 @@ struct Entry {
 /// True when both are bound, to the same group address or variable.
 [[nodiscard]] bool isShared(const DB_Address_Binding& a, const DB_Address_Binding& b);
 
-/// In the order of source blocks and their outputs, then of target blocks and their inputs; in time linear to the
-/// number of pins and connections. A block is not connected to itself.
+/// More connections than a page can show: where one variable is on very many outputs and inputs, the rest is left out.
+inline constexpr size_t cLimit = 100'000;
+
+/// In the order of source blocks and their outputs, then of target blocks and their inputs, at most `cLimit`; in time
+/// linear to the number of pins and connections. A block is not connected to itself.
 [[nodiscard]] std::vector<Entry> of(const DB_FB_Page& page);
 
 /// "Und (Ausgang)  ->  Oder (Eingang 1)": source block, source pin, target block, target pin. Empty for a connection

@@ -1,25 +1,39 @@
 #include "fb/model/FB_Normaliser.h"
 
+#include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Types.h"
 
 #include <utility>
+
+void FB_Normaliser::makeStandIn(DB_FB_Control& block) {
+  block.mOriginalType = std::exchange(block.mType, FB_Types::cComment);
+  block.mOriginalTitle = std::exchange(block.mTitle, {});
+}
+
+void FB_Normaliser::normalise(DB_FB_Control& block, Result& result) {
+  const bool isStandIn = block.mType == FB_Types::cComment && block.mOriginalType != 0;
+  if (isStandIn && FB_Types::find(block.mOriginalType)) {
+    block.mType = std::exchange(block.mOriginalType, 0);
+    block.mTitle = std::exchange(block.mOriginalTitle, {});
+    ++result.mRestored;
+  } else if (isStandIn) {
+    ++result.mUnknown;
+  } else if (!FB_Types::find(block.mType)) {
+    block.mOriginalType = std::exchange(block.mType, FB_Types::cComment);
+    block.mOriginalTitle = std::exchange(block.mTitle, {});
+    ++result.mUnknown;
+  }
+  if (!FB_Pins::isBuilt(block)) {
+    FB_Pins::rebuild(block);
+    ++result.mRebuilt;
+  }
+}
 
 FB_Normaliser::Result FB_Normaliser::normalise(const DB_Page_List<DB_FB_Page>& pages) {
   Result result;
   for (const auto& page : pages.pages()) {
     for (const auto& block : page->mChildren) {
-      const bool isStandIn = block->mType == FB_Types::cComment && block->mOriginalType != 0;
-      if (isStandIn && FB_Types::find(block->mOriginalType)) {
-        block->mType = std::exchange(block->mOriginalType, 0);
-        block->mTitle = std::exchange(block->mOriginalTitle, {});
-        ++result.mRestored;
-      } else if (isStandIn) {
-        ++result.mUnknown;
-      } else if (!FB_Types::find(block->mType)) {
-        block->mOriginalType = std::exchange(block->mType, FB_Types::cComment);
-        block->mOriginalTitle = std::exchange(block->mTitle, {});
-        ++result.mUnknown;
-      }
+      normalise(*block, result);
     }
   }
   return result;

@@ -18,7 +18,7 @@ enum class FB_Editor { Number, Check, Choice, Text, File_Name };
 
 /// One parameter of a block type. Texts are German and translated in the context "FB_Types".
 struct FB_Parameter {
-  const char* mName = "";
+  const char* mName = ""; ///< "%1" stands for the parameter's index
   const char* mDescription = "";
   FB_Editor mEditor = FB_Editor::Number;
   const char* mDefault = "";
@@ -47,6 +47,6 @@ struct FB_Type {
   FB_Body mBody = FB_Body::Plain;
   bool mIsOnce = false;  ///< at most one block of the type in a project
   bool mHasPins = false; ///< parameters and pins are declared; a block of any other type keeps what its record holds
-  std::span<const FB_Parameter> mParameters;
-  std::span<const FB_Pin_Group> mPins;
+  std::span<const FB_Parameter> mParameters = {};
+  std::span<const FB_Pin_Group> mPins = {};
 };

@@ -68,7 +68,7 @@ private slots:
     const auto reasons = [this] {
       QStringList reasons;
       for (const auto& row : Address_Use_Model::invalidRows(database(), Address_Usage(database()), typeName)) {
-        reasons += row.mText.mPlace + ' ' + row.mAddress.toString() + row.mName + ": " + row.mReason;
+        reasons += row.mText.mPlace + ' ' + row.mAddress->toString() + row.mName + ": " + row.mReason;
       }
       return reasons;
     };

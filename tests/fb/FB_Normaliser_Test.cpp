@@ -1,4 +1,5 @@
 #include "fb/model/FB_Normaliser.h"
+#include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Types.h"
 #include "tests/db/Project_Dump.h"
 #include "tests/db/Session_Rig.h"
@@ -38,6 +39,27 @@ private slots:
     QCOMPARE(pages.child(unknown)->mType, 51);
     QCOMPARE(pages.child(unknown)->mTitle, QStringLiteral("Neuheit"));
     QCOMPARE(pages.child(unknown)->mOriginalType, 0);
+    QCOMPARE(pages.child(unknown)->mInputs.size(), size_t(2));
+  }
+
+  void impossibleCountsAreCorrectedWithoutAStep() {
+    Session_Rig rig;
+    QVERIFY(rig.create());
+    DB_Page_List<DB_FB_Page>& pages = rig.mSession.database().mFbPages;
+    const auto add = [&pages](const QString& count) {
+      auto block = FB_Pins::makeBlock(50, {});
+      block->mPageGuid = pages.pages().at(0).mGuid;
+      block->mParams[0] = count;
+      return pages.appendChild(std::move(block))->mGuid;
+    };
+    const QUuid wrong = add(QStringLiteral("abc"));
+    const QUuid right = add(QStringLiteral("2"));
+    pages.child(right)->mInputs[0].mLongName = QStringLiteral("Input 1"); // written in another language
+    QCOMPARE(FB_Normaliser::normalise(pages).mRebuilt, 1);
+    QCOMPARE(pages.child(wrong)->mParams.at(0), QStringLiteral("2"));
+    QCOMPARE(pages.child(right)->mInputs[0].mLongName, QStringLiteral("Input 1"));
+    QVERIFY(!rig.mSession.isModified());
+    QCOMPARE(FB_Normaliser::normalise(pages).mRebuilt, 0);
   }
 };
 

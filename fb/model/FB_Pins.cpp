@@ -1,0 +1,144 @@
+#include "fb/model/FB_Pins.h"
+
+#include "fb/model/FB_Types.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace {
+
+constexpr FB_Side cSides[] = {FB_Side::Input, FB_Side::Output};
+
+/// The declaration that a block's pins follow; null when they are as its record says.
+const FB_Type* declarationOf(const DB_FB_Control& block) {
+  const FB_Type* const type = block.mOriginalType == 0 ? FB_Types::find(block.mType) : nullptr;
+  return type && type->mHasPins ? type : nullptr;
+}
+
+/// Empty for a text that cannot count these pins.
+std::optional<int> countIn(const QString& text, const FB_Pin_Group& group) {
+  bool isNumber = false;
+  const int count = text.toInt(&isNumber, 10);
+  return isNumber && count >= group.mCount && count <= FB_Pins::cMostPins ? std::optional(count) : std::nullopt;
+}
+
+void correctCount(QString& text, const FB_Pin_Group& group) {
+  if (!countIn(text, group)) {
+    bool isNumber = false;
+    const bool isTooMany = text.toInt(&isNumber, 10) > FB_Pins::cMostPins && isNumber;
+    text = QString::number(isTooMany ? FB_Pins::cMostPins : group.mCount);
+  }
+}
+
+/// Empty as long as the parameters do not say it.
+std::optional<int> sizeOf(const FB_Pin_Group& group, const QStringList& parameters) {
+  return group.mParameter < 0 ? group.mCount : countIn(parameters.at(group.mParameter), group);
+}
+
+/// How many pins each counted group of a side has in a list that was made with another count. One parameter counts all
+/// groups of a side.
+int countBehind(size_t pins, const FB_Type& type, FB_Side side) {
+  int fixed = 0;
+  int counted = 0;
+  for (const FB_Pin_Group& group : type.mPins) {
+    if (group.mSide == side) {
+      (group.mParameter < 0 ? fixed : counted) += group.mParameter < 0 ? group.mCount : 1;
+    }
+  }
+  return counted == 0 ? 0 : std::max(0, (static_cast<int>(pins) - fixed) / counted);
+}
+
+std::vector<DB_FB_Pin> build(std::vector<DB_FB_Pin> old, const FB_Type& type, FB_Side side,
+                             const QStringList& parameters) {
+  std::vector<DB_FB_Pin> pins;
+  const int countBefore = countBehind(old.size(), type, side);
+  int oldStart = 0;
+  for (const FB_Pin_Group& group : type.mPins) {
+    if (group.mSide != side) {
+      continue;
+    }
+    const QString longName = FB_Types::text(group.mLongName);
+    const QString shortName = FB_Types::text(group.mShortName);
+    const auto numbered = [](const QString& word, int number) {
+      return word.contains(u"%1") ? word.arg(number) : word;
+    };
+    const int oldCount = group.mParameter < 0 ? group.mCount : countBefore;
+    const int count = sizeOf(group, parameters).value_or(group.mCount);
+    for (int i = 0; i < count; ++i) {
+      DB_FB_Pin pin{numbered(longName, i + 1), numbered(shortName, i + 1), {}};
+      const auto before = static_cast<size_t>(oldStart + i);
+      if (i < oldCount && before < old.size()) {
+        pin.mBinding = std::move(old[before].mBinding);
+      }
+      pins.push_back(std::move(pin));
+    }
+    oldStart += oldCount;
+  }
+  return pins;
+}
+
+} // namespace
+
+std::unique_ptr<DB_FB_Control> FB_Pins::makeBlock(int type, const QPointF& position) {
+  if (!FB_Types::find(type)) {
+    return nullptr;
+  }
+  auto block = std::make_unique<DB_FB_Control>();
+  block->mGuid = QUuid::createUuid();
+  block->mType = type;
+  block->mX = position.x();
+  block->mY = position.y();
+  rebuild(*block);
+  return block;
+}
+
+void FB_Pins::rebuild(DB_FB_Control& block) {
+  const FB_Type* const type = declarationOf(block);
+  if (!type) {
+    return;
+  }
+  for (const FB_Parameter& parameter :
+       type->mParameters.subspan(std::min(type->mParameters.size(), static_cast<size_t>(block.mParams.size())))) {
+    block.mParams.append(QString::fromUtf8(parameter.mDefault));
+  }
+  for (const FB_Pin_Group& group : type->mPins) {
+    if (group.mParameter >= 0) {
+      correctCount(block.mParams[group.mParameter], group);
+    }
+  }
+  for (const FB_Side side : cSides) {
+    auto& list = pins(block, side);
+    list = build(std::move(list), *type, side, block.mParams);
+  }
+}
+
+bool FB_Pins::isBuilt(const DB_FB_Control& block) {
+  const FB_Type* const type = declarationOf(block);
+  if (!type) {
+    return true;
+  }
+  if (static_cast<size_t>(block.mParams.size()) < type->mParameters.size()) {
+    return false;
+  }
+  size_t inputs = 0;
+  size_t outputs = 0;
+  for (const FB_Pin_Group& group : type->mPins) {
+    const auto count = sizeOf(group, block.mParams);
+    if (!count) {
+      return false;
+    }
+    (group.mSide == FB_Side::Input ? inputs : outputs) += static_cast<size_t>(*count);
+  }
+  const auto isNamed = [](const DB_FB_Pin& pin) { return !pin.mLongName.isEmpty(); };
+  return block.mInputs.size() == inputs && block.mOutputs.size() == outputs &&
+         std::ranges::all_of(block.mInputs, isNamed) && std::ranges::all_of(block.mOutputs, isNamed);
+}
+
+std::vector<DB_FB_Pin>& FB_Pins::pins(DB_FB_Control& block, FB_Side side) {
+  return side == FB_Side::Input ? block.mInputs : block.mOutputs;
+}
+
+const std::vector<DB_FB_Pin>& FB_Pins::pins(const DB_FB_Control& block, FB_Side side) {
+  return side == FB_Side::Input ? block.mInputs : block.mOutputs;
+}

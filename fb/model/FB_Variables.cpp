@@ -1,0 +1,91 @@
+#include "fb/model/FB_Variables.h"
+
+#include "db/Address_Edits.h"
+#include "db/DB_Bindings.h"
+#include "fb/model/FB_Edit.h"
+#include "fb/model/FB_Types.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+using Kind = DB_Address_Binding::Kind;
+using Place = Address_Use::Place;
+
+/// Where a variable is used.
+struct Uses {
+  qsizetype mCount = 0;
+  qsizetype mReaders = 0; ///< all but outputs
+  Address_Use mLast;
+};
+
+/// "Und Ausgang 2" without its number.
+QString withoutNumber(const QString& name) {
+  static const QRegularExpression number(QStringLiteral(" [0-9]{1,9}$"));
+  return QString(name).remove(number);
+}
+
+} // namespace
+
+FB_Variables::Names::Names(const ProjectDatabase& database) {
+  DB_Bindings::visit(database, [this](const DB_Address_Binding& binding, const Address_Use&) {
+    if (binding.mKind == Kind::Internal) {
+      mTaken.insert(binding.mName);
+    }
+  });
+}
+
+QString FB_Variables::Names::take(const QString& wish) {
+  QString name = wish.left(Address_Edits::cNameLimit);
+  const QString base = withoutNumber(name);
+  int& last = mLast[base];
+  while (name.isEmpty() || mTaken.contains(name)) {
+    const QString suffix = QStringLiteral(" %1").arg(last = std::max(last + 1, 2));
+    name = base.left(Address_Edits::cNameLimit - suffix.size()) + suffix;
+  }
+  mTaken.insert(name);
+  return name;
+}
+
+QString FB_Variables::nameFor(const DB_FB_Control& block, const DB_FB_Pin& pin) {
+  QString owner = block.mTitle.simplified();
+  if (owner.isEmpty()) {
+    owner = FB_Types::name(block.mType).remove(u'*').simplified();
+  }
+  return (owner + u' ' + pin.mLongName).simplified();
+}
+
+DB_Address_Binding FB_Variables::make(const QString& name) {
+  DB_Address_Binding binding;
+  binding.mKind = Kind::Internal;
+  binding.mKey = QUuid::createUuid();
+  binding.mName = name;
+  return binding;
+}
+
+void FB_Variables::release(FB_Edit& edit, const QSet<QUuid>& keys, Lonely lonely) {
+  if (keys.isEmpty()) {
+    return;
+  }
+  QHash<QUuid, Uses> uses;
+  std::vector<std::pair<QUuid, FB_Pin_Ref>> pins;
+  DB_Bindings::visit(edit.database(), [&](const DB_Address_Binding& binding, const Address_Use& use) {
+    if (binding.mKind == Kind::Internal && keys.contains(binding.mKey)) {
+      Uses& known = uses[binding.mKey];
+      ++known.mCount;
+      known.mReaders += use.mPlace == Place::Output ? 0 : 1;
+      known.mLast = use;
+      if (use.mPlace == Place::Output || use.mPlace == Place::Input) {
+        const FB_Side side = use.mPlace == Place::Output ? FB_Side::Output : FB_Side::Input;
+        pins.push_back({binding.mKey, {use.mOwnerGuid, side, use.mIndex}});
+      }
+    }
+  });
+  for (const auto& [key, pin] : pins) {
+    const Uses& known = *uses.constFind(key);
+    const bool isLonely = lonely == Lonely::Release && known.mCount == 1 && known.mLast.mPlace == Place::Input;
+    if (known.mReaders == 0 || isLonely) {
+      edit.setBinding(pin, {});
+    }
+  }
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "db/DB_Address_Binding.h"
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+
+class FB_Edit;
+class ProjectDatabase;
+struct DB_FB_Pin;
+class DB_FB_Control;
+
+/// The internal variables of a project, as the edits of blocks make and drop them.
+namespace FB_Variables {
+
+/// Gives names that no variable of the project has, and each of them once.
+class Names {
+public:
+  explicit Names(const ProjectDatabase& database);
+  /// "Und Ausgang", "Und Ausgang 2" and so on.
+  [[nodiscard]] QString take(const QString& wish);
+
+private:
+  QSet<QString> mTaken;
+  QHash<QString, int> mLast; ///< number by name without one
+};
+
+/// "Und Ausgang": what a variable made for that pin of the block would be called.
+[[nodiscard]] QString nameFor(const DB_FB_Control& block, const DB_FB_Pin& pin);
+/// A variable of its own; what type of data it takes is not known yet.
+[[nodiscard]] DB_Address_Binding make(const QString& name);
+
+enum class Lonely { Keep, Release };
+/// Takes those of the variables that nothing reads any more off the outputs; with `Lonely::Release` also those that are
+/// left at one single input off that.
+void release(FB_Edit& edit, const QSet<QUuid>& keys, Lonely lonely = Lonely::Keep);
+
+} // namespace FB_Variables

@@ -1,0 +1,99 @@
+#include "fb/model/FB_Type_Check.h"
+
+#include <QFile>
+#include <QtTest>
+
+/// The registry against the published list, which stands beside this test: "# category", then "id[!]<tab>name" in the
+/// order of the catalogue, "!" for what may be in a project only once; the last category has no title.
+class FB_Types_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  void theCatalogueIsAsPublished() {
+    QFile file(QFINDTESTDATA("data/block_types.txt"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString published = QString::fromUtf8(file.readAll());
+    QString declared;
+    for (const auto& category : FB_Types::categories()) {
+      declared += QStringLiteral("# ").append(QString::fromUtf8(category.mTitle)).trimmed() + u'\n';
+      for (const FB_Type& type : category.mTypes) {
+        declared += QString::number(type.mId) + (type.mIsOnce ? QStringLiteral("!") : QString()) + u'\t' +
+                    FB_Types::name(type.mId) + u'\n';
+      }
+    }
+    const QStringList expected = published.split(u'\n');
+    const QStringList lines = declared.split(u'\n');
+    for (qsizetype i = 0; i < std::min(expected.size(), lines.size()); ++i) {
+      QCOMPARE(lines.at(i), expected.at(i));
+    }
+    QCOMPARE(lines.size(), expected.size());
+    QVERIFY(FB_Types::categories()[17].mIsHs && !FB_Types::categories()[16].mIsHs);
+  }
+
+  void idsAreFoundInTheirOrder() {
+    int last = 0;
+    for (const FB_Type* type : FB_Types::all()) {
+      QVERIFY(type->mId > last);
+      QCOMPARE(FB_Types::find(type->mId), type);
+      last = type->mId;
+    }
+    QVERIFY(!FB_Types::find(0) && !FB_Types::find(49) && !FB_Types::find(99999));
+    QCOMPARE(FB_Types::name(49), QStringLiteral("Unknown"));
+    QCOMPARE(FB_Types::helpFileName(49), QString());
+  }
+
+  void helpPages_data() {
+    QTest::addColumn<int>("id");
+    QTest::addColumn<QString>("page");
+    QTest::newRow("of the class") << 50 << "fb_and.html";
+    QTest::newRow("of a long class") << 1373 << "fb_inv_1n.html";
+    QTest::newRow("change per time") << 1937 << "fb_compare_change_per_time.html";
+    QTest::newRow("week") << 1331 << "fb_time_clock_week.html";
+    QTest::newRow("holidays") << 1940 << "fb_time_clock_holiday.html";
+  }
+  void helpPages() {
+    QFETCH(int, id);
+    QTEST(FB_Types::helpFileName(id), "page");
+  }
+
+  void theRegistryHasNoProblem() {
+    QCOMPARE(FB_Type_Check::problems(FB_Types::categories()), QStringList());
+    QCOMPARE(FB_Types::find(50)->mParameters.size(), size_t(3));
+  }
+
+  void faultsOfADeclarationAreFound_data() {
+    QTest::addColumn<FB_Parameter>("parameter");
+    QTest::addColumn<FB_Pin_Group>("pins");
+    QTest::addColumn<QString>("problem");
+    const FB_Pin_Group pin{FB_Side::Input, "Eingang", "E"};
+    const FB_Parameter count{"Anzahl", "", FB_Editor::Number, "2", 2, 64};
+    QTest::newRow("below") << FB_Parameter{"P", "", FB_Editor::Number, "1", 2, 64} << pin << "out of range";
+    QTest::newRow("decimals") << FB_Parameter{"P", "", FB_Editor::Number, "1.5", 0, 64} << pin << "many decimals";
+    QTest::newRow("no number") << FB_Parameter{"P", "", FB_Editor::Number, "", 0, 64} << pin << "out of range";
+    QTest::newRow("check") << FB_Parameter{"P", "", FB_Editor::Check, "ja"} << pin << "neither 0 nor 1";
+    QTest::newRow("choice") << FB_Parameter{"P", "", FB_Editor::Choice, "2", 0, 0, 0, "a|b"} << pin << "no choice";
+    QTest::newRow("nameless") << FB_Parameter{"", "", FB_Editor::Text} << pin << "without a name";
+    QTest::newRow("pin") << count << FB_Pin_Group{FB_Side::Input, "Eingang", ""} << "pin without";
+    QTest::newRow("nothing counts") << count << FB_Pin_Group{FB_Side::Input, "E%1", "E%1", 2, 1} << "not there";
+    QTest::newRow("other minimum") << count << FB_Pin_Group{FB_Side::Input, "E%1", "E%1", 1, 0} << "no count";
+  }
+  void faultsOfADeclarationAreFound() {
+    QFETCH(FB_Parameter, parameter);
+    QFETCH(FB_Pin_Group, pins);
+    QFETCH(QString, problem);
+    const FB_Type type{.mId = 1,
+                       .mName = "A",
+                       .mClass = "FB_A",
+                       .mHasPins = true,
+                       .mParameters = {&parameter, 1},
+                       .mPins = {&pins, 1}};
+    const FB_Types::Category category{"K", {&type, 1}};
+    const QStringList found = FB_Type_Check::problems({&category, 1});
+    QVERIFY2(found.size() == 1 && found.at(0).contains(problem), qPrintable(found.join(u'\n')));
+    const FB_Types::Category twice[] = {category, category};
+    QCOMPARE(FB_Type_Check::problems(twice).filter(QStringLiteral("used twice")).size(), 2);
+  }
+};
+
+QTEST_GUILESS_MAIN(FB_Types_Test)
+#include "FB_Types_Test.moc"
