@@ -7,11 +7,10 @@ namespace {
 using Menu = Action_Menu;
 using Bar = Action_Bar;
 using When = Action_When;
+using Check = Action_Check;
 using Effect = Action_Effect;
 
 // Why an action cannot be used yet.
-constexpr const char* cPages =
-    QT_TRANSLATE_NOOP("Action_Table", "Noch nicht verfügbar: kommt mit dem Zeichnen der Programmseiten.");
 constexpr const char* cDesigner =
     QT_TRANSLATE_NOOP("Action_Table", "Noch nicht verfügbar: kommt mit dem Zeichnen der Visualisierung.");
 constexpr const char* cLink =
@@ -75,8 +74,8 @@ struct Row : Action_Row {
     mEffect = Effect::Menu;
     return *this;
   }
-  constexpr Row& checkable() {
-    mIsCheckable = true;
+  constexpr Row& checks(Check check) {
+    mCheck = check;
     return *this;
   }
   constexpr Row& missing(const char* reason) {
@@ -134,6 +133,9 @@ constexpr Action_Row cRows[] = {
     Row("onEditDelete", QT_TRANSLATE_NOOP("Action_Table", "Löschen"), u'L', ":/icons/trash-white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Löscht das Ausgewählte"))
         .in(Menu::Edit, 1).keys("Del").when(When::Delete).changes(Effect::Edit),
+    Row("onEditDuplicate", QT_TRANSLATE_NOOP("Action_Table", "Duplizieren"), u'D', ":/icons/duplicate_white.png",
+        QT_TRANSLATE_NOOP("Action_Table", "Setzt Kopien der ausgewählten Bausteine oder der Seite daneben"))
+        .in(Menu::Edit, 1).keys("Ctrl+D").when(When::Duplicate).changes(Effect::Project),
     Row("onEditSelectAll", QT_TRANSLATE_NOOP("Action_Table", "Alles auswählen"), u'n', ":/icons/select_all_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Wählt alles aus, wo die Tastatur gerade schreibt"))
         .in(Menu::Edit, 1).keys("Ctrl+A").when(When::SelectAll).changes(Effect::Edit),
@@ -172,7 +174,7 @@ constexpr Action_Row cRows[] = {
     Row("onControllerList", QT_TRANSLATE_NOOP("Action_Table", "Verteiltes Projekt"), u'V',
         ":/icons/controllers_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Die Steuerungen, auf die das Projekt verteilt ist"))
-        .in(Menu::ProjectSetup, 2).missing(cSetup),
+        .in(Menu::ProjectSetup, 2).when(When::Editable).changes(Effect::Dialog),
     Row("onEditTgmMon", QT_TRANSLATE_NOOP("Action_Table", "Telegramm Monitor"), u'T', ":/icons/monitor_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Was die Steuerung von den Bussen mitschreibt"))
         .in(Menu::ProjectSetup, 2).missing(cSetup),
@@ -203,13 +205,22 @@ constexpr Action_Row cRows[] = {
         .in(Menu::View, 1).keys("Ctrl+F4").when(When::Page).changes(Effect::View),
     Row("onZoom_Plus", QT_TRANSLATE_NOOP("Action_Table", "Zoom +"), u'Z', ":/icons/zoom_plus.png",
         QT_TRANSLATE_NOOP("Action_Table", "Vergrößert die Seite"))
-        .in(Menu::View, 2).keys("Ctrl++").bar(Bar::View).toolTip(cZoomTip).missing(cPages),
+        .in(Menu::View, 2).keys("Ctrl++").bar(Bar::View).toolTip(cZoomTip).when(When::Logic).changes(Effect::Zoom),
     Row("onZoom_Minus", QT_TRANSLATE_NOOP("Action_Table", "Zoom -"), u'm', ":/icons/zoom_minus.png",
         QT_TRANSLATE_NOOP("Action_Table", "Verkleinert die Seite"))
-        .in(Menu::View, 2).keys("Ctrl+-").bar(Bar::View).toolTip(cZoomTip).missing(cPages),
+        .in(Menu::View, 2).keys("Ctrl+-").bar(Bar::View).toolTip(cZoomTip).when(When::Logic).changes(Effect::Zoom),
+    Row("onZoom_Reset", QT_TRANSLATE_NOOP("Action_Table", "Zoom 100 %"), u'1', ":/icons/zoom_reset_white.png",
+        QT_TRANSLATE_NOOP("Action_Table", "Zeigt die Seite in ihrer eigenen Größe"))
+        .in(Menu::View, 2).keys("Ctrl+0").when(When::Logic).changes(Effect::Zoom),
+    Row("onZoom_Fit", QT_TRANSLATE_NOOP("Action_Table", "Ganze Seite"), u't', ":/icons/zoom_fit_white.png",
+        QT_TRANSLATE_NOOP("Action_Table", "Zeigt alle Bausteine der Seite"))
+        .in(Menu::View, 2).keys("Ctrl+9").when(When::Logic).changes(Effect::Zoom),
+    Row("onZoom_Selection", QT_TRANSLATE_NOOP("Action_Table", "Auswahl zeigen"), u'h', ":/icons/zoom_selection_white.png",
+        QT_TRANSLATE_NOOP("Action_Table", "Zeigt die ausgewählten Bausteine so groß wie möglich"))
+        .in(Menu::View, 2).keys("Ctrl+Shift+9").when(When::Block).changes(Effect::Zoom),
     Row("onEditRasterOnOff", QT_TRANSLATE_NOOP("Action_Table", "Raster anzeigen"), u'R', ":/icons/grid_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeigt oder verbirgt das Raster der Seiten"))
-        .in(Menu::View, 2).bar(Bar::View).checkable().missing(cPages),
+        .in(Menu::View, 2).bar(Bar::View).checks(Check::Grid).when(When::Window).changes(Effect::Setting),
     Row("onShowWork", QT_TRANSLATE_NOOP("Action_Table", "Zur Arbeitsfläche"), u'f', ":/icons/page_vertical_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Bringt die Tastatur zur gezeigten Seite"))
         .in(Menu::View, 3).keys("Ctrl+1").when(When::Window).changes(Effect::View),
@@ -227,25 +238,32 @@ constexpr Action_Row cRows[] = {
     Row("onEditNewPageProgram", QT_TRANSLATE_NOOP("Action_Table", "Neue Programm Seite"), u'N',
         ":/icons/account_tree-white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Legt eine Programmseite an"))
-        .in(Menu::Program, 0).bar(Bar::Program).missing(cPages),
+        .in(Menu::Program, 0).bar(Bar::Program).when(When::Editable).changes(Effect::Project),
+    Row("onPageProperties", QT_TRANSLATE_NOOP("Action_Table", "Eigenschaften der Seite…"), u'E', ":/icons/gear_white.png",
+        QT_TRANSLATE_NOOP("Action_Table", "Name, Kommentar, Größe und ausführende Steuerung der gezeigten Programmseite"))
+        .in(Menu::Program, 0).when(When::LogicEdit).changes(Effect::Dialog),
     Row("onProgramWireStyle", QT_TRANSLATE_NOOP("Action_Table", "Linienstil der Verbindungen"), u'L',
         ":/icons/wire_style_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeichnet die Verbindungen geschwungen oder rechtwinklig"))
-        .in(Menu::Program, 1).missing(cPages),
+        .in(Menu::Program, 1).when(When::Window).changes(Effect::Setting),
     Row("onProgramShowDebug", QT_TRANSLATE_NOOP("Action_Table", "Anzeige IO"), u'I', ":/icons/number_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeigt die Werte an Eingängen und Ausgängen"))
-        .in(Menu::Program, 1).bar(Bar::Program).checkable().missing(cPages),
+        .in(Menu::Program, 1).bar(Bar::Program).checks(Check::Values).when(When::Open).changes(Effect::View),
     Row("onProgramKeepOutputsOnCopy", QT_TRANSLATE_NOOP("Action_Table", "Beim Kopieren Ausgänge beibehalten"), u'B',
         ":/icons/copy-white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Kopierte Bausteine behalten die Verknüpfungen ihrer Ausgänge"))
-        .in(Menu::Program, 1).checkable().missing(cPages),
+        .in(Menu::Program, 1).checks(Check::KeepOutputs).when(When::Window).changes(Effect::Setting),
+    Row("onProgramShowOrder", QT_TRANSLATE_NOOP("Action_Table", "Ausführungsreihenfolge anzeigen"), u'f',
+        ":/icons/number_white.png",
+        QT_TRANSLATE_NOOP("Action_Table", "Zeigt an jedem Baustein, als wievielter er ausgeführt wird"))
+        .in(Menu::Program, 1).checks(Check::Order).when(When::Open).changes(Effect::View),
     Row("mMenuProgramAlign", QT_TRANSLATE_NOOP("Action_Table", "Ausrichten"), u'A', ":/icons/dev_widget_sort_left.png",
         QT_TRANSLATE_NOOP("Action_Table", "Richtet die ausgewählten Bausteine aus"))
         .in(Menu::Program, 2).opens(Menu::ProgramAlign).when(When::Window),
     Row("onEdit_MultipleUsedOutputs", QT_TRANSLATE_NOOP("Action_Table", "Ausgänge auf doppelte Verwendung prüfen"), u'd',
         ":/icons/check_outputs_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeigt Adressen und Variablen, auf die mehr als ein Ausgang schreibt"))
-        .in(Menu::Program, 3).missing(cPages),
+        .in(Menu::Program, 3).when(When::Open).changes(Effect::Dialog),
     Row("onEdit_CheckValidAddress", QT_TRANSLATE_NOOP("Action_Table", "Verknüpfungen auf ungültige Adressen prüfen"), u'u',
         ":/icons/warning_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeigt Verknüpfungen, deren Adresse es nicht mehr gibt"))
@@ -255,26 +273,30 @@ constexpr Action_Row cRows[] = {
     Row("onProgramProgram_Left", QT_TRANSLATE_NOOP("Action_Table", "Links ausrichten"), u'L',
         ":/icons/dev_widget_sort_left.png",
         QT_TRANSLATE_NOOP("Action_Table", "Setzt die ausgewählten Bausteine an ihre gemeinsame linke Kante"))
-        .in(Menu::ProgramAlign, 0).missing(cPages),
+        .in(Menu::ProgramAlign, 0).when(When::TwoBlocks).changes(Effect::Project),
     Row("onProgramTop", QT_TRANSLATE_NOOP("Action_Table", "Oben ausrichten"), u'O', ":/icons/dev_widget_sort_top.png",
         QT_TRANSLATE_NOOP("Action_Table", "Setzt die ausgewählten Bausteine an ihre gemeinsame obere Kante"))
-        .in(Menu::ProgramAlign, 0).missing(cPages),
+        .in(Menu::ProgramAlign, 0).when(When::TwoBlocks).changes(Effect::Project),
     Row("onProgramRight", QT_TRANSLATE_NOOP("Action_Table", "Rechts ausrichten"), u'R',
         ":/icons/dev_widget_sort_right.png",
         QT_TRANSLATE_NOOP("Action_Table", "Setzt die ausgewählten Bausteine an ihre gemeinsame rechte Kante"))
-        .in(Menu::ProgramAlign, 0).missing(cPages),
+        .in(Menu::ProgramAlign, 0).when(When::TwoBlocks).changes(Effect::Project),
     Row("onProgramBottom", QT_TRANSLATE_NOOP("Action_Table", "Unten ausrichten"), u'U',
         ":/icons/dev_widget_sort_bottom.png",
         QT_TRANSLATE_NOOP("Action_Table", "Setzt die ausgewählten Bausteine an ihre gemeinsame untere Kante"))
-        .in(Menu::ProgramAlign, 0).missing(cPages),
+        .in(Menu::ProgramAlign, 0).when(When::TwoBlocks).changes(Effect::Project),
     Row("onProgramRasterHorizontal", QT_TRANSLATE_NOOP("Action_Table", "Aufteilen Horizontal"), u'H',
         ":/icons/dev_widget_sort_grid_horizontal.png",
         QT_TRANSLATE_NOOP("Action_Table", "Gleicht die waagrechten Abstände der ausgewählten Bausteine an"))
-        .in(Menu::ProgramAlign, 1).missing(cPages),
+        .in(Menu::ProgramAlign, 1).when(When::ThreeBlocks).changes(Effect::Project),
     Row("onProgramRasterVertical", QT_TRANSLATE_NOOP("Action_Table", "Aufteilen Vertikal"), u'V',
         ":/icons/dev_widget_sort_grid_vertical.png",
         QT_TRANSLATE_NOOP("Action_Table", "Gleicht die senkrechten Abstände der ausgewählten Bausteine an"))
-        .in(Menu::ProgramAlign, 1).missing(cPages),
+        .in(Menu::ProgramAlign, 1).when(When::ThreeBlocks).changes(Effect::Project),
+    Row("onProgramAlign_Raster", QT_TRANSLATE_NOOP("Action_Table", "Am Raster ausrichten"), u'A',
+        ":/icons/grid_white-fit.png",
+        QT_TRANSLATE_NOOP("Action_Table", "Setzt die ausgewählten Bausteine auf die nächsten Rasterpunkte"))
+        .in(Menu::ProgramAlign, 2).when(When::BlocksOnGrid).changes(Effect::Project),
 
     // Visualisierung
     Row("onEditNewPageVisu", QT_TRANSLATE_NOOP("Action_Table", "Neue Visu Seite"), u'N', ":/icons/page_horizontal.png",
@@ -291,7 +313,7 @@ constexpr Action_Row cRows[] = {
         .in(Menu::Visu, 1).bar(Bar::Visu).missing(cResources),
     Row("onEditShowTabOrder", QT_TRANSLATE_NOOP("Action_Table", "Taborder anzeigen"), u'T', ":/icons/number_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zeigt, in welcher Reihenfolge die Tabulatortaste durch die Elemente führt"))
-        .in(Menu::Visu, 2).bar(Bar::Visu).checkable().missing(cDesigner),
+        .in(Menu::Visu, 2).bar(Bar::Visu).missing(cDesigner),
     Row("mMenuDesignerAlign", QT_TRANSLATE_NOOP("Action_Table", "Ausrichten"), u'A', ":/icons/dev_widget_sort_left.png",
         QT_TRANSLATE_NOOP("Action_Table", "Richtet die ausgewählten Elemente aus"))
         .in(Menu::Visu, 2).opens(Menu::DesignerAlign).when(When::Window),
@@ -371,7 +393,7 @@ constexpr Action_Row cRows[] = {
         .in(Menu::Online, 0).keys("F11").bar(Bar::Online).missing(cLink),
     Row("onControlPlay", QT_TRANSLATE_NOOP("Action_Table", "Play"), u'P', ":/icons/hs_simulation-play-gray.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zwischen Bearbeitungsmodus und Bedienemodus umschalten"))
-        .in(Menu::Online, 1).keys("F5").bar(Bar::Online).toolTip(cPlayTip).checkable().when(When::Open)
+        .in(Menu::Online, 1).keys("F5").bar(Bar::Online).toolTip(cPlayTip).checks(Check::Operating).when(When::Open)
         .changes(Effect::Mode),
     Row("onControllerSavePersistentProjectAsk", QT_TRANSLATE_NOOP("Action_Table", "Bootprojekt erzeugen"), u'e',
         ":/icons/save_project_to_control.png",

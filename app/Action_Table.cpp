@@ -31,6 +31,17 @@ bool isMet(When when, const Action_State& state) {
     return state.mIsPageShown;
   case When::Pages:
     return state.mTabCount > 1;
+  case When::Logic:
+  case When::LogicEdit:
+    return state.mIsLogicShown;
+  case When::Block:
+    return state.mSelectedBlocks >= 1;
+  case When::TwoBlocks:
+    return state.mSelectedBlocks >= 2;
+  case When::ThreeBlocks:
+    return state.mSelectedBlocks >= 3;
+  case When::BlocksOnGrid:
+    return state.mSelectedBlocks >= 1 && state.mIsGridShown;
   case When::Cut:
     return state.mCanCut;
   case When::Copy:
@@ -39,6 +50,8 @@ bool isMet(When when, const Action_State& state) {
     return state.mCanPaste;
   case When::Delete:
     return state.mCanDelete;
+  case When::Duplicate:
+    return state.mCanDuplicate;
   case When::SelectAll:
     return state.mCanSelectAll;
   default:
@@ -56,9 +69,22 @@ QString reason(When when) {
     return tr("Es wird keine Seite gezeigt.");
   case When::Pages:
     return tr("Es ist keine weitere Seite geöffnet.");
+  case When::Logic:
+  case When::LogicEdit:
+    return tr("Es wird keine Programmseite gezeigt.");
+  case When::Block:
+    return tr("Es ist kein Baustein ausgewählt.");
+  case When::TwoBlocks:
+    return tr("Dazu müssen mindestens zwei Bausteine ausgewählt sein.");
+  case When::ThreeBlocks:
+    return tr("Dazu müssen mindestens drei Bausteine ausgewählt sein.");
+  case When::BlocksOnGrid:
+    return tr("Dazu muss ein Baustein ausgewählt und das Raster angezeigt sein.");
   case When::Cut:
   case When::Delete:
     return tr("Es ist nichts ausgewählt, was gelöscht werden kann.");
+  case When::Duplicate:
+    return tr("Es ist nichts ausgewählt, was dupliziert werden kann.");
   case When::Copy:
     return tr("Es ist nichts ausgewählt, was kopiert werden kann.");
   case When::Paste:
@@ -158,7 +184,25 @@ QString Action_Table::toolTip(const Action_Row& row, const Action_State& state) 
 bool Action_Table::isOfFocus(const Action_Row& row) {
   const When when = row.mWhen;
   return when == When::Cut || when == When::Copy || when == When::Paste || when == When::Delete ||
-         when == When::SelectAll;
+         when == When::Duplicate || when == When::SelectAll;
+}
+
+bool Action_Table::isChecked(const Action_Row& row, const Action_State& state) {
+  switch (row.mCheck) {
+  case Action_Check::None:
+    return false;
+  case Action_Check::Operating:
+    return state.mIsOperating;
+  case Action_Check::Grid:
+    return state.mIsGridShown;
+  case Action_Check::Values:
+    return state.mAreValuesShown;
+  case Action_Check::KeepOutputs:
+    return state.mKeepsOutputs;
+  case Action_Check::Order:
+    return state.mIsOrderShown;
+  }
+  return false;
 }
 
 QString Action_Table::whyDisabled(const Action_Row& row, const Action_State& state) {
@@ -178,9 +222,11 @@ QString Action_Table::whyDisabled(const Action_Row& row, const Action_State& sta
   if (!isOfFocus(row) && !state.mIsOpen) {
     return tr("Es ist kein Projekt geöffnet.");
   }
-  const bool isEdit = when == When::Editable || when == When::Undo || when == When::Redo;
+  const bool isEdit = when == When::Editable || when == When::Undo || when == When::Redo ||
+                      (when >= When::LogicEdit && when <= When::BlocksOnGrid);
   // A search field takes them in the operating mode, too.
-  const bool isEditOfFocus = when == When::Cut || when == When::Paste || when == When::Delete;
+  const bool isEditOfFocus =
+      when == When::Cut || when == When::Paste || when == When::Delete || when == When::Duplicate;
   if (state.mIsOperating && (isEdit || (isEditOfFocus && !isMet(when, state)))) {
     return Session_State::operatingModeRefusal();
   }

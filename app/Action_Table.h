@@ -38,12 +38,30 @@ enum class Action_When {
   Redo,
   Page,  ///< a page is shown in a tab
   Pages, ///< there is more than one tab
+  // Of the logic page that is shown; those behind the first two only while it may be edited.
+  Logic, ///< there is one
+  Block, ///< a block is selected
+  LogicEdit,
+  TwoBlocks,    ///< at least two are selected
+  ThreeBlocks,  ///< at least three
+  BlocksOnGrid, ///< one is selected, and the grid is shown
   // What has the keyboard focus can do it.
   Cut,
   Copy,
   Paste,
   Delete,
+  Duplicate,
   SelectAll,
+};
+
+/// Whether an action shows a check mark, and for what.
+enum class Action_Check {
+  None,
+  Operating, ///< the operating mode is on
+  Grid,      ///< the grid is shown
+  Values,    ///< the values at the pins are shown
+  KeepOutputs,
+  Order, ///< the order of execution is shown
 };
 
 /// What an action that can be used changes.
@@ -55,6 +73,8 @@ enum class Action_Effect {
   Dialog,  ///< a window opens
   Menu,    ///< a submenu opens
   Mode,    ///< the operating mode
+  Zoom,    ///< of the page that is shown
+  Setting, ///< a setting of the studio
   Window,  ///< the window closes
 };
 
@@ -74,7 +94,7 @@ struct Action_Row {
   Action_When mWhen = Action_When::Always;
   Action_Effect mEffect = Action_Effect::None;
   std::optional<Action_Menu> mSubmenu; ///< the menu that the row opens
-  bool mIsCheckable = false;
+  Action_Check mCheck = Action_Check::None;
   const char* mMissing = ""; ///< German reason why the action cannot be used yet; it has no slot then
 };
 
@@ -89,11 +109,18 @@ struct Action_State {
   QString mRedoText;
   bool mIsPageShown = false;
   int mTabCount = 0;
+  bool mIsLogicShown = false; ///< a logic page is shown in a tab
+  qsizetype mSelectedBlocks = 0;
+  bool mIsGridShown = false;
+  bool mAreValuesShown = false;
+  bool mIsOrderShown = false;
+  bool mKeepsOutputs = false; ///< copied blocks keep the bindings of their outputs
   // Of what has the keyboard focus.
   bool mCanCut = false;
   bool mCanCopy = false;
   bool mCanPaste = false;
   bool mCanDelete = false;
+  bool mCanDuplicate = false;
   bool mCanSelectAll = false;
 };
 
@@ -116,6 +143,7 @@ namespace Action_Table {
 [[nodiscard]] QString toolTip(const Action_Row& row, const Action_State& state);
 /// True when it is a field or list with the keyboard focus that carries the action out, with a project or without.
 [[nodiscard]] bool isOfFocus(const Action_Row& row);
+[[nodiscard]] bool isChecked(const Action_Row& row, const Action_State& state);
 /// Why the action cannot be used now (German); empty when it can.
 [[nodiscard]] QString whyDisabled(const Action_Row& row, const Action_State& state);
 

@@ -43,6 +43,8 @@ Runner ofLine(QLineEdit* line, Command command) {
     return when(!line->isReadOnly() && isTextInClipboard(), [line] { line->paste(); });
   case Command::Delete:
     return when(isSelected && !line->isReadOnly(), [line] { line->del(); });
+  case Command::Duplicate:
+    return {};
   case Command::SelectAll:
     return when(!line->text().isEmpty(), [line] { line->selectAll(); });
   }
@@ -60,31 +62,35 @@ Runner ofText(QTextEdit* text, Command command) {
     return when(text->canPaste(), [text] { text->paste(); });
   case Command::Delete:
     return when(isSelected && !text->isReadOnly(), [text] { text->textCursor().removeSelectedText(); });
+  case Command::Duplicate:
+    return {};
   case Command::SelectAll:
     return when(!text->document()->isEmpty(), [text] { text->selectAll(); });
   }
   return {};
 }
 
-QKeySequence::StandardKey keyOf(Command command) {
+QList<QKeySequence> keysOf(Command command) {
   switch (command) {
   case Command::Cut:
-    return QKeySequence::Cut;
+    return QKeySequence::keyBindings(QKeySequence::Cut);
   case Command::Copy:
-    return QKeySequence::Copy;
+    return QKeySequence::keyBindings(QKeySequence::Copy);
   case Command::Paste:
-    return QKeySequence::Paste;
+    return QKeySequence::keyBindings(QKeySequence::Paste);
   case Command::Delete:
-    return QKeySequence::Delete;
+    return {QKeySequence(Qt::Key_Delete)}; // Ctrl+D, which deletes in some desktops' texts, duplicates here
+  case Command::Duplicate:
+    return {QKeySequence(Qt::CTRL | Qt::Key_D)};
   case Command::SelectAll:
-    return QKeySequence::SelectAll;
+    return QKeySequence::keyBindings(QKeySequence::SelectAll);
   }
-  return QKeySequence::UnknownKey;
+  return {};
 }
 
 /// A command that the widget, or one around it, has for the usual keys.
 QAction* commandOf(const QWidget* widget, const QWidget& window, Command command) {
-  const QList<QKeySequence> keys = QKeySequence::keyBindings(keyOf(command));
+  const QList<QKeySequence> keys = keysOf(command);
   for (; widget && widget != &window; widget = widget->parentWidget()) {
     for (QAction* const action : widget->actions()) {
       if (action->isEnabled() && keys.contains(action->shortcut())) {

@@ -4,13 +4,13 @@
 #include <QPointer>
 #include <QWidget>
 
-/// What the window's commands cut, copy, paste, delete and select all work on: the field or list of that window that
-/// has the keyboard focus, or had it before the focus went to a menu or another window.
+/// What the window's commands cut, copy, paste, delete, duplicate and select all work on: the field or list of that
+/// window that has the keyboard focus, or had it before the focus went to a menu or another window.
 class Edit_Target : public QObject {
   Q_OBJECT
 
 public:
-  enum class Command { Cut, Copy, Paste, Delete, SelectAll };
+  enum class Command { Cut, Copy, Paste, Delete, Duplicate, SelectAll };
 
   explicit Edit_Target(QWidget& window);
 

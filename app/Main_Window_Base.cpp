@@ -4,6 +4,7 @@
 #include "app/Project_Overview.h"
 #include "base/App_Settings.h"
 #include "db/Project_Session.h"
+#include "fb/FB_Dev_New_Control.h"
 #include "ui/Address_View.h"
 #include "ui/Field_Keys.h"
 #include "ui/Page_View.h"
@@ -86,6 +87,8 @@ void Main_Window_Base::buildTabs() {
   mTabs->tabBar()->setAccessibleName(tr("Navigation und Variablen"));
   mPageView = new Page_View(mSession, mTabs);
   mPageView->setObjectName(QStringLiteral("Navigation"));
+  mCatalogue = new FB_Dev_New_Control(mSettings, mPageView);
+  mPageView->addPanel(mCatalogue, tr("Bausteine"));
   mAddressView = new Address_View(mSession, mTabs);
   mAddressView->setObjectName(QStringLiteral("Variablen"));
   mTabs->addTab(mPageView, tr("Navigation"));
@@ -98,6 +101,7 @@ void Main_Window_Base::connectParts() {
   connect(mPageView, &Page_View::refused, this, &Main_Window_Base::showInfo);
   connect(mPageTabs, &Page_Tabs::changed, this, [this] { mPageView->showPage(mPageTabs->currentPage()); });
   connect(mPageView, &Page_View::pageChosen, this, &Main_Window_Base::showPage);
+  connect(mPageView, &Page_View::childChosen, this, &Main_Window_Base::showChild);
   connect(mAddressView, &Address_View::refused, this, &Main_Window_Base::showInfo);
   connect(mAddressView, &Address_View::info, this, &Main_Window_Base::showInfo);
   connect(mStartPage, &Start_Page::backRequested, this, &Main_Window_Base::showProjectPage);

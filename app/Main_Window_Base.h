@@ -7,6 +7,7 @@
 
 class Address_View;
 class App_Settings;
+class FB_Dev_New_Control;
 class Page_Tabs;
 class Page_View;
 class Project_Overview;
@@ -68,6 +69,8 @@ protected:
   [[nodiscard]] Page_Tabs& pageTabs() const { return *mPageTabs; }
   [[nodiscard]] bool isProjectShown() const;
   [[nodiscard]] Address_View& addressView() { return *mAddressView; }
+  [[nodiscard]] Page_View& pageView() { return *mPageView; }
+  [[nodiscard]] FB_Dev_New_Control& catalogue() { return *mCatalogue; }
 
   Project_Session& mSession;
   App_Settings& mSettings;
@@ -90,5 +93,6 @@ private:
   Project_Overview* mOverview = nullptr;
   Page_Tabs* mPageTabs = nullptr;
   Page_View* mPageView = nullptr;
+  FB_Dev_New_Control* mCatalogue = nullptr;
   Address_View* mAddressView = nullptr;
 };

@@ -20,6 +20,8 @@
 #include "base/Session_State.h"
 #include "db/Project_Edits.h"
 #include "db/Project_Session.h"
+#include "fb/FB_Page.h"
+#include "fb/FB_Page_List_Commands.h"
 #include "ui/Address_Search_Dialog.h"
 #include "ui/Address_View.h"
 #include "ui/Invalid_Address_Dialog.h"
@@ -49,6 +51,7 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
       mActions(new Window_Actions(*this)),
       mLifecycle(new Project_Lifecycle(session, settings, state, *mDialogs, this)),
       mExchange(new Address_Exchange(session, settings, *mDialogs, *this)),
+      mPageCommands(new FB_Page_List_Commands(session, settings, this)),
       mEditTarget(new Edit_Target(*this)),
       mPalette(new Command_Palette(
           session, [this] { return actionState(); }, this)) {
@@ -63,6 +66,7 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
   }
   makeModeMark();
   connectParts();
+  connectPageCommands();
   connectProjectLists();
   connectPalette();
   makeAutosave();
@@ -115,6 +119,7 @@ void Main_Window_Dev::connectParts() {
   connect(mActions, &Window_Actions::updateWanted, this, &Main_Window_Dev::updateActions);
   connect(mEditTarget, &Edit_Target::changed, this, &Main_Window_Dev::updateActions);
   connect(&pageTabs(), &Page_Tabs::changed, this, &Main_Window_Dev::updateActions);
+  connect(&mSettings, &App_Settings::changed, this, &Main_Window_Dev::updateActions);
   connect(this, &Main_Window_Base::workChanged, this, &Main_Window_Dev::updateActions);
   connect(&mState, &Session_State::operatingModeChanged, this, &Main_Window_Dev::updateActions);
   connect(&mSession, &Project_Session::opened, this, &Main_Window_Dev::updateActions);
@@ -173,10 +178,19 @@ Action_State Main_Window_Dev::actionState() const {
   state.mRedoText = history.redoText();
   state.mIsPageShown = isProjectShown() && !pageTabs().currentPage().isNull();
   state.mTabCount = pageTabs().count();
+  if (const FB_Page* const page = isProjectShown() ? pageTabs().logicPage() : nullptr) {
+    state.mIsLogicShown = true;
+    state.mSelectedBlocks = page->selectedBlocks().size();
+  }
+  state.mIsGridShown = mSettings.isOn(Setting::ShowGrid);
+  state.mKeepsOutputs = mSettings.isOn(Setting::FBCopyPasteKeepIO);
+  state.mAreValuesShown = pageTabs().areValuesShown();
+  state.mIsOrderShown = pageTabs().isOrderShown();
   state.mCanCut = mEditTarget->can(Command::Cut);
   state.mCanCopy = mEditTarget->can(Command::Copy);
   state.mCanPaste = mEditTarget->can(Command::Paste);
   state.mCanDelete = mEditTarget->can(Command::Delete);
+  state.mCanDuplicate = mEditTarget->can(Command::Duplicate);
   state.mCanSelectAll = mEditTarget->can(Command::SelectAll);
   return state;
 }
@@ -213,7 +227,9 @@ void Main_Window_Dev::onMenuFileOpen() {
 }
 
 void Main_Window_Dev::onMenuFileDemo() {
-  mLifecycle->openDemo();
+  if (mLifecycle->openDemo()) {
+    showFirstLogicPage();
+  }
 }
 
 void Main_Window_Dev::onMenuFileSave() {
@@ -281,16 +297,11 @@ void Main_Window_Dev::shareKeys(QWidget& dialog) {
   }
 }
 
-template <class Dialog>
-Dialog& Main_Window_Dev::resultDialog(Dialog*& dialog) {
-  if (!dialog) {
-    dialog = new Dialog(mSession, mSettings, this);
-    connect(dialog, &Result_Dialog::addressChosen, this, &Main_Window_Dev::showAddress);
-    connect(dialog, &Result_Dialog::pageChosen, this, &Main_Window_Dev::showPage);
-    connect(dialog, &Result_Dialog::childChosen, this, &Main_Window_Dev::showChild);
-    shareKeys(*dialog);
-  }
-  return *dialog;
+void Main_Window_Dev::connectResults(Result_Dialog& dialog) {
+  connect(&dialog, &Result_Dialog::addressChosen, this, &Main_Window_Dev::showAddress);
+  connect(&dialog, &Result_Dialog::pageChosen, this, &Main_Window_Dev::showPage);
+  connect(&dialog, &Result_Dialog::childChosen, this, &Main_Window_Dev::showChild);
+  shareKeys(dialog);
 }
 
 void Main_Window_Dev::onEdit_Search_Unused() {
@@ -330,6 +341,10 @@ void Main_Window_Dev::onEdit_Paste() {
 
 void Main_Window_Dev::onEditDelete() {
   mEditTarget->run(Edit_Target::Command::Delete);
+}
+
+void Main_Window_Dev::onEditDuplicate() {
+  mEditTarget->run(Edit_Target::Command::Duplicate);
 }
 
 void Main_Window_Dev::onEditSelectAll() {

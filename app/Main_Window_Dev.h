@@ -2,6 +2,8 @@
 
 #include "app/Action_Table.h"
 #include "app/Main_Window_Base.h"
+#include "base/Setting_Table.h"
+#include "db/History.h"
 
 #include <memory>
 
@@ -9,10 +11,15 @@ class Address_Exchange;
 class Address_Search_Dialog;
 class Command_Palette;
 class Edit_Target;
+class FB_Output_Check_Dialog;
+class FB_Page;
+class FB_Page_List_Commands;
+class FB_Usages_Dialog;
 class Invalid_Address_Dialog;
 class Project_Lifecycle;
 class Project_Search_Dialog;
 class QLabel;
+class Result_Dialog;
 class Session_State;
 class Window_Actions;
 class Window_Dialogs;
@@ -44,6 +51,7 @@ public slots:
   void onEditCopy();
   void onEdit_Paste();
   void onEditDelete();
+  void onEditDuplicate();
   void onEditSelectAll();
   void onEdit_Search();
   void onEditFindReplace();
@@ -60,6 +68,27 @@ public slots:
   void onShowWork();
   void onShowNavigation();
   void onShowVariables();
+  void onZoom_Plus();
+  void onZoom_Minus();
+  void onZoom_Reset();
+  void onZoom_Fit();
+  void onZoom_Selection();
+  void onEditRasterOnOff();
+  void onEditNewPageProgram();
+  void onPageProperties();
+  void onProgramWireStyle();
+  void onProgramShowDebug();
+  void onProgramKeepOutputsOnCopy();
+  void onProgramShowOrder();
+  void onProgramProgram_Left();
+  void onProgramTop();
+  void onProgramRight();
+  void onProgramBottom();
+  void onProgramRasterHorizontal();
+  void onProgramRasterVertical();
+  void onProgramAlign_Raster();
+  void onEdit_MultipleUsedOutputs();
+  void onControllerList();
   void onControlPlay();
   void onExtrasSettingsDev();
   void onSelectLanguage(QAction* action);
@@ -81,8 +110,22 @@ private:
   void onOpenPath(const QString& path);
   void onCommand(const QString& slot);
   void onBuildEditors(int percent);
+  void toggle(Setting setting);
+  void connectPageCommands();
+  void connectLogicPage(FB_Page& page);
+  void followSelection(const FB_Page& page);
+  void followStep(const std::vector<History::Applied>& records);
+  void showFirstLogicPage();
+  void insertBlock(int type);
   template <class Dialog>
-  Dialog& resultDialog(Dialog*& dialog);
+  Dialog& resultDialog(Dialog*& dialog) {
+    if (!dialog) {
+      dialog = new Dialog(mSession, mSettings, this);
+      connectResults(*dialog);
+    }
+    return *dialog;
+  }
+  void connectResults(Result_Dialog& dialog);
   void shareKeys(QWidget& dialog);
   void search(bool isReplacing);
 
@@ -91,10 +134,13 @@ private:
   Window_Actions* mActions;
   Project_Lifecycle* mLifecycle;
   Address_Exchange* mExchange;
+  FB_Page_List_Commands* mPageCommands;
   Edit_Target* mEditTarget;
   Command_Palette* mPalette;
   QLabel* mModeMark = nullptr;                     ///< seen while the operating mode is on
-  Address_Search_Dialog* mAddressSearch = nullptr; ///< made when first asked for, as the two below
+  Address_Search_Dialog* mAddressSearch = nullptr; ///< made when first asked for, as those below
   Invalid_Address_Dialog* mInvalidAddresses = nullptr;
   Project_Search_Dialog* mProjectSearch = nullptr;
+  FB_Usages_Dialog* mUsages = nullptr;
+  FB_Output_Check_Dialog* mOutputCheck = nullptr;
 };

@@ -1,9 +1,11 @@
 #include "app/Page_Tabs.h"
 
+#include "app/Logic_Page_Tab.h"
 #include "app/Project_Overview.h"
 #include "db/Model_Roles.h"
 #include "db/Page_Tree_Model.h"
 #include "db/Project_Session.h"
+#include "fb/FB_Page.h"
 #include "ui/Page_Content_View.h"
 #include "ui/Theme.h"
 
@@ -61,13 +63,43 @@ Page_Tabs::Page_Tabs(Project_Session& session, App_Settings& settings, Project_O
   }
 }
 
-Page_Content_View* Page_Tabs::viewAt(int index) const {
-  return qobject_cast<Page_Content_View*>(widget(index));
+/// Null for the project.
+Shown_Page* Page_Tabs::viewAt(int index) const {
+  return dynamic_cast<Shown_Page*>(widget(index));
+}
+
+FB_Page* Page_Tabs::logicPage() const {
+  const auto* const tab = qobject_cast<Logic_Page_Tab*>(currentWidget());
+  return tab ? &tab->canvas() : nullptr;
+}
+
+QList<FB_Page*> Page_Tabs::logicPages() const {
+  QList<FB_Page*> pages;
+  for (int i = 0; i < count(); ++i) {
+    if (const auto* const tab = qobject_cast<Logic_Page_Tab*>(widget(i))) {
+      pages.append(&tab->canvas());
+    }
+  }
+  return pages;
+}
+
+void Page_Tabs::setValuesShown(bool areShown) {
+  mAreValuesShown = areShown;
+  for (FB_Page* const page : logicPages()) {
+    page->showValues(areShown);
+  }
+}
+
+void Page_Tabs::setOrderShown(bool isShown) {
+  mIsOrderShown = isShown;
+  for (FB_Page* const page : logicPages()) {
+    page->showExecutionOrder(isShown);
+  }
 }
 
 int Page_Tabs::indexOfPage(const QUuid& page) const {
   for (int i = 0; i < count(); ++i) {
-    const Page_Content_View* const view = viewAt(i);
+    const Shown_Page* const view = viewAt(i);
     if (view && view->page() == page) {
       return i;
     }
@@ -76,8 +108,19 @@ int Page_Tabs::indexOfPage(const QUuid& page) const {
 }
 
 QUuid Page_Tabs::currentPage() const {
-  const Page_Content_View* const view = viewAt(currentIndex());
+  const Shown_Page* const view = viewAt(currentIndex());
   return view ? view->page() : QUuid();
+}
+
+QWidget* Page_Tabs::makeView(const QUuid& guid) {
+  if (!mSession.database().mFbPages.page(guid)) {
+    return new Page_Content_View(mSession, mSettings, guid);
+  }
+  auto* const tab = new Logic_Page_Tab(mSession, mSettings, guid);
+  tab->canvas().showValues(mAreValuesShown);
+  tab->canvas().showExecutionOrder(mIsOrderShown);
+  emit logicPageOpened(tab->canvas());
+  return tab;
 }
 
 void Page_Tabs::showPage(const QUuid& guid) {
@@ -88,8 +131,7 @@ void Page_Tabs::showPage(const QUuid& guid) {
     if (caption.isNull()) {
       return;
     }
-    auto* const view = new Page_Content_View(mSession, mSettings, guid);
-    index = addTab(view, Theme::icon(Page_Tree_Model::pageIcon(database, guid)), shortened(caption));
+    index = addTab(makeView(guid), Theme::icon(Page_Tree_Model::pageIcon(database, guid)), shortened(caption));
     setTabToolTip(index, Model_Roles::toolTip(caption).toString());
   }
   setCurrentIndex(index);
@@ -99,6 +141,13 @@ void Page_Tabs::showChild(const QUuid& page, const QUuid& child) {
   showPage(page);
   if (currentPage() == page) {
     viewAt(currentIndex())->showChild(child);
+  }
+}
+
+void Page_Tabs::showBlocks(const QUuid& page, const QList<QUuid>& blocks) {
+  showPage(page);
+  if (FB_Page* const canvas = logicPage(); canvas && currentPage() == page) {
+    canvas->showBlocks(blocks);
   }
 }
 
@@ -129,7 +178,7 @@ bool Page_Tabs::showOtherKind() {
 }
 
 void Page_Tabs::enter() {
-  if (Page_Content_View* const view = viewAt(currentIndex())) {
+  if (Shown_Page* const view = viewAt(currentIndex())) {
     view->enter();
   } else if (currentWidget() && currentWidget()->focusWidget()) {
     currentWidget()->focusWidget()->setFocus(Qt::ShortcutFocusReason);
@@ -139,10 +188,10 @@ void Page_Tabs::enter() {
 }
 
 void Page_Tabs::closeTab(int index) {
-  Page_Content_View* const view = viewAt(index);
-  if (!view) {
+  if (!viewAt(index)) {
     return;
   }
+  QWidget* const view = widget(index);
   const bool hadFocus = view->isAncestorOf(QApplication::focusWidget());
   removeTab(index);
   // It may be in the middle of handling the key that closes it.

@@ -6,9 +6,10 @@
 #include <array>
 
 class App_Settings;
-class Page_Content_View;
+class FB_Page;
 class Project_Session;
 class Project_Overview;
+class Shown_Page;
 
 /// The open pages of the project, one tab each, behind the first tab, the project itself, which stays where it is. A
 /// tab is closed by its button, by the middle mouse button or with its page; the page stays in the project. Session and
@@ -23,8 +24,18 @@ public:
   void showPage(const QUuid& guid);
   /// As `showPage`, and selects a block or element there.
   void showChild(const QUuid& page, const QUuid& child);
+  /// As `showPage`, and selects these blocks there.
+  void showBlocks(const QUuid& page, const QList<QUuid>& blocks);
   /// The page that is seen; null for the project's tab.
   [[nodiscard]] QUuid currentPage() const;
+  /// The canvas of the logic page that is seen; null when none is.
+  [[nodiscard]] FB_Page* logicPage() const;
+
+  /// On all logic pages: the values at the pins, and the order in which the blocks are executed.
+  void setValuesShown(bool areShown);
+  void setOrderShown(bool isShown);
+  [[nodiscard]] bool areValuesShown() const { return mAreValuesShown; }
+  [[nodiscard]] bool isOrderShown() const { return mIsOrderShown; }
 
   void showPrevious();
   void showNext();
@@ -37,6 +48,8 @@ public:
 signals:
   /// Another page is seen, or there are more or fewer tabs.
   void changed();
+  /// A logic page got its tab.
+  void logicPageOpened(FB_Page& page);
 
 protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -44,7 +57,9 @@ protected:
   void tabRemoved(int index) override;
 
 private:
-  [[nodiscard]] Page_Content_View* viewAt(int index) const;
+  [[nodiscard]] Shown_Page* viewAt(int index) const;
+  [[nodiscard]] QList<FB_Page*> logicPages() const;
+  [[nodiscard]] QWidget* makeView(const QUuid& guid);
   [[nodiscard]] int indexOfPage(const QUuid& page) const;
   void closeTab(int index);
   void closeAll();
@@ -56,5 +71,7 @@ private:
   App_Settings& mSettings;
   Project_Overview& mOverview;
   std::array<QUuid, 2> mLastOfKind; ///< logic, visualisation
-  int mPressed = -1;                ///< the tab on which the middle mouse button went down
+  bool mAreValuesShown = false;
+  bool mIsOrderShown = false;
+  int mPressed = -1; ///< the tab on which the middle mouse button went down
 };

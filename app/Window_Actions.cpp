@@ -42,7 +42,7 @@ Window_Actions::Window_Actions(QMainWindow& window) : QObject(&window) {
       // Only told here: who has the focus takes these keys itself, and two takers would leave both without effect.
       action->setShortcutContext(Qt::WidgetShortcut);
     }
-    action->setCheckable(row.mIsCheckable);
+    action->setCheckable(row.mCheck != Action_Check::None);
     // Only macOS would move some of them to a menu of its own by their text.
     action->setMenuRole(QAction::NoRole);
     addTo(window, row, action);
@@ -95,8 +95,6 @@ void Window_Actions::update(const Action_State& state) {
     action->setEnabled(Action_Table::whyDisabled(row, state).isEmpty());
     action->setStatusTip(Action_Table::statusTip(row, state));
     action->setToolTip(Action_Table::toolTip(row, state));
-    if (row.mIsCheckable) {
-      action->setChecked(row.mEffect == Action_Effect::Mode && state.mIsOperating);
-    }
+    action->setChecked(Action_Table::isChecked(row, state));
   }
 }

@@ -9,8 +9,6 @@ namespace {
 using Kind = Setting_Row::Kind;
 using Group = Setting_Group;
 
-constexpr const char* cWithPages =
-    QT_TRANSLATE_NOOP("Setting_Table", "Wirkt, sobald Programmseiten gezeichnet werden.");
 constexpr const char* cWithLink =
     QT_TRANSLATE_NOOP("Setting_Table", "Wirkt, sobald die Verbindung zur Steuerung da ist.");
 constexpr const char* cWithServer = QT_TRANSLATE_NOOP("Setting_Table", "Wirkt, sobald der MCP-Server da ist.");
@@ -24,26 +22,24 @@ constexpr Setting_Row cRows[] = {
 
     {Setting::ShowGrid, "mShowGrid", Group::Pages, Kind::Switch, 1, 0, 1, u'R',
      QT_TRANSLATE_NOOP("Setting_Table", "Raster anzeigen"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Zeigt die Rasterpunkte der Seiten"), "", "", cWithPages},
+     QT_TRANSLATE_NOOP("Setting_Table", "Zeigt die Rasterpunkte der Seiten")},
     {Setting::GridSize, "mGridSize", Group::Pages, Kind::Number, 8, 1, 128, u'w',
      QT_TRANSLATE_NOOP("Setting_Table", "Rasterweite"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Abstand der Rasterpunkte auf Visualisierungsseiten, 1 bis 128 Pixel"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Pixel"), "", cWithPages},
+     QT_TRANSLATE_NOOP("Setting_Table", "Abstand der Rasterpunkte, an denen Seiten ausrichten, 1 bis 128 Pixel"),
+     QT_TRANSLATE_NOOP("Setting_Table", "Pixel")},
     {Setting::FBWireStyle, "mFBWireStyle", Group::Pages, Kind::Choice, 0, 0, 1, u'L',
      QT_TRANSLATE_NOOP("Setting_Table", "Linienstil der Verbindungen"),
      QT_TRANSLATE_NOOP("Setting_Table", "Wie die Verbindungen zwischen Bausteinen gezeichnet werden"), "",
-     QT_TRANSLATE_NOOP("Setting_Table", "Geschwungen|Rechtwinklig"), cWithPages},
+     QT_TRANSLATE_NOOP("Setting_Table", "Geschwungen|Rechtwinklig")},
     {Setting::FBCopyPasteKeepIO, "mFBCopyPasteKeepIO", Group::Pages, Kind::Switch, 0, 0, 1, u'B',
      QT_TRANSLATE_NOOP("Setting_Table", "Beim Kopieren Ausgänge beibehalten"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Kopierte Bausteine behalten die Verknüpfungen ihrer Ausgänge"), "", "",
-     cWithPages},
+     QT_TRANSLATE_NOOP("Setting_Table", "Kopierte Bausteine behalten die Verknüpfungen ihrer Ausgänge")},
     {Setting::FBDebugToolTip, "mFBDebugToolTip", Group::Pages, Kind::Switch, 0, 0, 1, u'G',
      QT_TRANSLATE_NOOP("Setting_Table", "Ausführungsnummer und GUID im Tooltip der Bausteine"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Zeigt im Tooltip eines Bausteins auch, wann er ausgeführt wird und wer er ist"),
-     "", "", cWithPages},
+     QT_TRANSLATE_NOOP("Setting_Table", "Zeigt im Tooltip eines Bausteins auch, wann er ausgeführt wird und wer er ist")},
     {Setting::ShowHsBlocks, "mShowHsBlocks", Group::Pages, Kind::Switch, 0, 0, 1, u'H',
      QT_TRANSLATE_NOOP("Setting_Table", "HS-Bausteine im Katalog anzeigen"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Der Katalog zeigt auch seine Kategorie der HS-Bausteine"), "", "", cWithPages},
+     QT_TRANSLATE_NOOP("Setting_Table", "Der Katalog zeigt auch seine Kategorie der HS-Bausteine")},
     {Setting::LanguageUsr, "LanguageUsr", Group::Pages, Kind::Text, 0, 0, 0, u'z',
      QT_TRANSLATE_NOOP("Setting_Table", "Sprache, in der die Visualisierung gezeigt wird"),
      QT_TRANSLATE_NOOP("Setting_Table", "Kürzel der Sprache wie \"de\" oder \"en\"; leer für die des Studios"), "", "",

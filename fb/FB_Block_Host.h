@@ -1,10 +1,12 @@
 #pragma once
 
+#include "fb/FB_Texts.h"
 #include "fb/model/FB_Pin_Ref.h"
 
 #include <QString>
 
 class FB_Base;
+class ProjectDatabase;
 class QMouseEvent;
 struct DB_Address_Binding;
 
@@ -16,6 +18,10 @@ public:
   FB_Block_Host& operator=(const FB_Block_Host&) = delete;
   virtual ~FB_Block_Host() = default;
 
+  /// The open project, for the addresses that pins are bound to.
+  [[nodiscard]] virtual const ProjectDatabase& database() const = 0;
+  /// Whether nothing may be edited.
+  [[nodiscard]] virtual bool isOperatingMode() const = 0;
   /// 1 is one pixel of the record for one on the screen.
   [[nodiscard]] virtual double zoom() const = 0;
   /// Whether execution number and identifier stand in the tool tips.
@@ -38,4 +44,10 @@ public:
   virtual void addressDropped(const FB_Pin_Ref& pin, const QUuid& address) = 0;
   /// The block was selected (operation `setSelected`).
   virtual void blockSelected(FB_Base& block) = 0;
+
+  /// What the blocks of the page draw their texts with.
+  [[nodiscard]] FB_Texts& texts() { return mTexts; }
+
+private:
+  FB_Texts mTexts;
 };

@@ -264,7 +264,7 @@ private slots:
     Main_Window_Dev window(rig.mSession, rig.mSettings, rig.mState, false);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    const QUuid page = rig.mSession.database().mFbPages.pages().at(0).mGuid;
+    const QUuid page = rig.mSession.database().mWidgetPages.pages().at(0).mGuid;
     auto* const tabs = window.findChild<Page_Tabs*>();
     tabs->showPage(page);
     emit window.findChild<Start_Page*>()->backRequested();

@@ -6,6 +6,8 @@
 #include "app/Start_Page.h"
 #include "base/App_Settings.h"
 #include "db/Project_Edits.h"
+#include "fb/FB_Page.h"
+#include "fb/model/FB_Page_Edits.h"
 #include "tests/db/Session_Rig.h"
 #include "ui/Address_View.h"
 #include "ui/Message_Dialog.h"
@@ -71,7 +73,8 @@ struct Window_Rig : Session_Rig {
     QCoreApplication::processEvents(); // the step ends with the turn
     return isDone;
   }
-  /// A project with two steps, of which one is taken back, two pages shown, and text selected in a field.
+  /// A project with two steps, of which one is taken back, two pages shown, on the upper one three blocks, all
+  /// selected, and text selected in a field.
   void prepare() {
     show();
     QVERIFY(create());
@@ -80,11 +83,16 @@ struct Window_Rig : Session_Rig {
     tabs->showPage(mSession.database().mWidgetPages.pages().at(0).mGuid);
     tabs->showPage(pages.pages().at(0).mGuid);
     mWindow.findChild<Start_Page*>()->backRequested();
+    for (const QPointF& at : {QPointF(3, 5), QPointF(301, 47), QPointF(703, 203)}) {
+      QVERIFY(bool(FB_Page_Edits::create(mSession, pages.pages().at(0).mGuid, 50, at)));
+    }
     QVERIFY(edit() && edit(u"Nochmals"_s));
     QVERIFY(mSession.history().undo());
     QVERIFY(QTest::qWaitForWindowActive(&mWindow));
     mField = mWindow.findChild<Address_View*>()->findChild<QLineEdit*>();
     mWindow.findChild<QTabWidget*>(u"ui:mTabs"_s)->setCurrentIndex(1);
+    tabs->logicPage()->zoomIn();
+    tabs->logicPage()->selectAll();
     mField->setFocus();
     mField->setText(u"Text"_s);
     mField->setSelection(1, 2);
@@ -102,7 +110,17 @@ struct Window_Rig : Session_Rig {
     case Action_Effect::View:
       parts << QString::number(stack()->currentIndex()) << mWindow.findChild<Page_Tabs*>()->currentPage().toString()
             << QString::number(mWindow.findChild<Page_Tabs*>()->count())
+            << QString::number(mWindow.findChild<Page_Tabs*>()->areValuesShown())
+            << QString::number(mWindow.findChild<Page_Tabs*>()->isOrderShown())
             << QString::number(quintptr(QApplication::focusWidget()));
+      break;
+    case Action_Effect::Zoom:
+      parts << QString::number(mWindow.findChild<Page_Tabs*>()->logicPage()->zoom());
+      break;
+    case Action_Effect::Setting:
+      for (const Setting_Row& row : Setting_Table::rows()) {
+        parts << QString::number(mSettings.value(row.mSetting));
+      }
       break;
     case Action_Effect::Edit:
       parts << mField->text() << mField->selectedText() << QApplication::clipboard()->text();
@@ -139,8 +157,9 @@ private slots:
       if (!action) {
         QFAIL(row.mSlot);
       }
-      QVERIFY2(action->isEnabled() == !*row.mMissing, row.mSlot);
-      QVERIFY2(action->isEnabled() || action->statusTip() == QString::fromUtf8(row.mMissing), row.mSlot);
+      const bool isOfPage = row.mWhen == Action_When::Duplicate; // text cannot
+      QVERIFY2(action->isEnabled() == (!*row.mMissing && !isOfPage), row.mSlot);
+      QVERIFY2(action->isEnabled() || isOfPage || action->statusTip() == QString::fromUtf8(row.mMissing), row.mSlot);
       if (row.mSubmenu) {
         emit action->menu()->aboutToShow();
         QVERIFY2(!action->menu()->actions().isEmpty(), row.mSlot);
@@ -157,6 +176,10 @@ private slots:
       rig.prepare();
       if (qstrcmp(row.mSlot, "onShowVariables") == 0) {
         rig.mWindow.findChild<QTabWidget*>(u"ui:mTabs"_s)->setCurrentIndex(0);
+      }
+      if (row.mWhen == Action_When::Duplicate) {
+        rig.mWindow.findChild<Page_Tabs*>()->logicPage()->setFocus();
+        emit rig.mWindow.menuBar()->actions().at(1)->menu()->aboutToShow();
       }
       QAction* const action = rig.action(row.mSlot);
       const QString before = rig.signature(row.mEffect);
@@ -189,7 +212,7 @@ private slots:
     auto* const results = rig.mWindow.findChild<Result_Dialog*>();
     auto* const tabs = rig.mWindow.findChild<QTabWidget*>(u"ui:mTabs"_s);
     const auto current = [tabs] {
-      return tabs->currentWidget()->findChild<QTreeView*>()->currentIndex().data().toString();
+      return tabs->currentWidget()->findChild<Project_Tree_View*>()->currentIndex().data().toString();
     };
     const ProjectDatabase& database = rig.mSession.database();
     emit results->addressChosen(database.mAddresses.subGroup({1, 2, 3})->mKey);

@@ -2,6 +2,10 @@
 #include "app/Project_Overview.h"
 #include "base/App_Settings.h"
 #include "db/Project_Edits.h"
+#include "fb/FB_Page.h"
+#include "fb/model/FB_Page_Edits.h"
+#include "fb/model/FB_Types.h"
+#include "tests/db/Project_Dump.h"
 #include "tests/db/Session_Rig.h"
 #include "ui/Page_Content_View.h"
 
@@ -89,17 +93,42 @@ private slots:
     QVERIFY(!mTabs->showOtherKind());
   }
 
-  void aBlockIsSelectedThoughAFilterHidesIt() {
-    mTabs->showPage(logic());
+  void aChildIsSelectedThoughAFilterHidesIt() {
+    auto element = std::make_unique<DB_Widget>();
+    element->mPageGuid = visu(0);
+    element->mName = u"Flur"_s;
+    const QUuid guid = mRig->mSession.database().mWidgetPages.appendChild(std::move(element))->mGuid;
+    mTabs->showPage(visu(0));
     auto* const filter = mTabs->currentWidget()->findChild<QLineEdit*>();
     filter->setText(u"nirgends"_s);
     QCoreApplication::processEvents();
-    mTabs->showChild(logic(), mBlock);
+    mTabs->showChild(visu(0), guid);
     auto* const list = mTabs->currentWidget()->findChild<QTreeView*>();
     QVERIFY(filter->text().isEmpty());
-    const QModelIndex current = list->currentIndex();
-    QCOMPARE(current.siblingAtColumn(Page_Content_Model::cName).data().toString(), u"Flur"_s);
-    QCOMPARE(current.siblingAtColumn(Page_Content_Model::cPosition).data().toString(), u"120, 0"_s);
+    QCOMPARE(list->currentIndex().siblingAtColumn(Page_Content_Model::cName).data().toString(), u"Flur"_s);
+    mTabs->showChild(logic(), mBlock);
+    QCOMPARE(mTabs->logicPage()->selectedBlocks(), QList<QUuid>{mBlock});
+  }
+
+  /// Looking at pages changes nothing in the file.
+  void savesTheSameWhateverWasLookedAt() {
+    ProjectDatabase& database = mRig->mSession.database();
+    QVERIFY(bool(FB_Page_Edits::create(mRig->mSession, logic(), FB_Types::cConstant, {8, 8})));
+    QCoreApplication::processEvents();
+    QCOMPARE(mRig->mSession.save(), Project_Session::Save_Result::Saved);
+    const QByteArray before = Project_Dump::project(database);
+    for (const auto& page : database.mFbPages.pages()) {
+      mTabs->showPage(page->mGuid);
+      mTabs->logicPage()->zoomIn();
+      mTabs->logicPage()->selectAll();
+    }
+    mTabs->showPage(visu(0));
+    QCoreApplication::processEvents();
+    QVERIFY(!mRig->mSession.isModified());
+    const auto stamp = database.mProject.mTimestamp;
+    QCOMPARE(mRig->mSession.save(), Project_Session::Save_Result::Saved);
+    database.mProject.mTimestamp = stamp;
+    QCOMPARE(Project_Dump::project(database), before);
   }
 
 private:

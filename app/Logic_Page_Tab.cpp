@@ -1,0 +1,27 @@
+#include "app/Logic_Page_Tab.h"
+
+#include "fb/FB_Page.h"
+#include "fb/FB_Page_Parent_ScrollView.h"
+
+#include <QVBoxLayout>
+
+Logic_Page_Tab::Logic_Page_Tab(Project_Session& session, App_Settings& settings, const QUuid& page, QWidget* parent)
+    : QWidget(parent),
+      mCanvas(new FB_Page(session, settings, page)) {
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(new FB_Page_Parent_ScrollView(mCanvas));
+  setFocusProxy(mCanvas);
+}
+
+QUuid Logic_Page_Tab::page() const {
+  return mCanvas->pageGuid();
+}
+
+void Logic_Page_Tab::showChild(const QUuid& guid) {
+  mCanvas->showBlock(guid);
+}
+
+void Logic_Page_Tab::enter() {
+  mCanvas->setFocus(Qt::ShortcutFocusReason);
+}

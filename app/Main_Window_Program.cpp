@@ -1,0 +1,182 @@
+// What the main window's commands do with the logic pages.
+#include "app/Main_Window_Dev.h"
+#include "app/Page_Tabs.h"
+#include "app/Window_Dialogs.h"
+#include "base/App_Settings.h"
+#include "db/Controller_Edits.h"
+#include "db/Project_Session.h"
+#include "fb/FB_Dev_New_Control.h"
+#include "fb/FB_Output_Check_Dialog.h"
+#include "fb/FB_Page.h"
+#include "fb/FB_Page_List_Commands.h"
+#include "fb/FB_Usages_Dialog.h"
+#include "ui/Controller_List_Dlg.h"
+#include "ui/Page_View.h"
+
+void Main_Window_Dev::connectPageCommands() {
+  connect(mPageCommands, &FB_Page_List_Commands::pageMade, this, &Main_Window_Dev::showPage);
+  connect(mPageCommands, &FB_Page_List_Commands::refused, this, &Main_Window_Dev::showInfo);
+  connect(&pageView(), &Page_View::newPageRequested, mPageCommands, &FB_Page_List_Commands::onNewPage);
+  connect(&pageView(), &Page_View::duplicateRequested, mPageCommands, &FB_Page_List_Commands::onDuplicate);
+  connect(&pageView(), &Page_View::removeRequested, mPageCommands, &FB_Page_List_Commands::onRemove);
+  connect(&pageView(), &Page_View::moveRequested, mPageCommands, &FB_Page_List_Commands::onMove);
+  connect(&pageView(), &Page_View::propertiesRequested, mPageCommands, &FB_Page_List_Commands::onProperties);
+  connect(&catalogue(), &FB_Dev_New_Control::insertRequested, this, &Main_Window_Dev::insertBlock);
+  connect(&pageTabs(), &Page_Tabs::logicPageOpened, this, &Main_Window_Dev::connectLogicPage);
+  connect(&mSession.history(), &History::stepApplied, this, &Main_Window_Dev::followStep);
+}
+
+void Main_Window_Dev::connectLogicPage(FB_Page& page) {
+  connect(&page, &FB_Page::selectionChanged, this, [this, &page] { followSelection(page); });
+  connect(&page, &FB_Page::propertiesRequested, mPageCommands, &FB_Page_List_Commands::onProperties);
+  connect(&page, &FB_Page::usagesRequested, this, [this](const QUuid& key) {
+    FB_Usages_Dialog& dialog = resultDialog(mUsages);
+    dialog.showUses(key);
+    dialog.bringUp();
+  });
+  connect(&page, &FB_Page::linkActivated, this, &Main_Window_Dev::showChild);
+  connect(&page, &FB_Page::statusText, this, &Main_Window_Dev::showInfo);
+}
+
+/// The tree of pages shows the selected block.
+void Main_Window_Dev::followSelection(const FB_Page& page) {
+  const QList<QUuid> blocks = page.selectedBlocks();
+  if (!blocks.isEmpty() && &page == pageTabs().logicPage()) {
+    pageView().showBlock(page.pageGuid(), blocks.last());
+  }
+  updateActions();
+}
+
+/// Undo and redo go to the page that they change, and select there what is there again.
+void Main_Window_Dev::followStep(const std::vector<History::Applied>& records) {
+  const auto isOfPage = [](const History::Applied& record) { return !record.mPage.isNull(); };
+  const auto first = std::ranges::find_if(records, isOfPage);
+  if (first == records.end() || !mSession.database().mFbPages.page(first->mPage)) {
+    return;
+  }
+  QList<QUuid> blocks;
+  for (const History::Applied& record : records) {
+    const DB_FB_Control* const block = mSession.database().mFbPages.child(record.mId);
+    if (block && block->mPageGuid == first->mPage) {
+      blocks.append(record.mId);
+    }
+  }
+  if (first->mId != first->mPage || pageTabs().currentPage() == first->mPage) {
+    showProjectPage();
+    pageTabs().showBlocks(first->mPage, blocks);
+  }
+}
+
+void Main_Window_Dev::showFirstLogicPage() {
+  const auto& pages = mSession.database().mFbPages.pages();
+  if (mSession.isOpen() && !pages.isEmpty()) {
+    showPage(pages.at(0).mGuid);
+  }
+}
+
+void Main_Window_Dev::insertBlock(int type) {
+  FB_Page* const page = isProjectShown() ? pageTabs().logicPage() : nullptr;
+  if (page) {
+    page->insertBlock(type);
+  } else {
+    showInfo(tr("Erst eine Programmseite zeigen, dann einen Baustein einfügen."));
+  }
+}
+
+void Main_Window_Dev::onEditNewPageProgram() {
+  const QUuid shown = pageTabs().logicPage() ? pageTabs().currentPage() : QUuid();
+  mPageCommands->onNewPage(shown);
+}
+
+void Main_Window_Dev::onPageProperties() {
+  mPageCommands->onProperties(pageTabs().currentPage());
+}
+
+void Main_Window_Dev::onControllerList() {
+  const QString path = mSession.path();
+  Controller_List_Dlg dialog(mSession.database().mProject.mControllers, this);
+  if (dialog.exec() != QDialog::Accepted || mSession.path() != path) {
+    return;
+  }
+  if (const Edit_Result result = Controller_Edits::setControllers(mSession, dialog.controllers()); !result) {
+    mDialogs->showMessage(result.mError);
+  }
+}
+
+void Main_Window_Dev::onEdit_MultipleUsedOutputs() {
+  resultDialog(mOutputCheck).bringUp();
+}
+
+void Main_Window_Dev::toggle(Setting setting) {
+  mSettings.setValue(setting, mSettings.isOn(setting) ? 0 : 1);
+}
+
+void Main_Window_Dev::onZoom_Plus() {
+  pageTabs().logicPage()->zoomIn();
+}
+
+void Main_Window_Dev::onZoom_Minus() {
+  pageTabs().logicPage()->zoomOut();
+}
+
+void Main_Window_Dev::onZoom_Reset() {
+  pageTabs().logicPage()->zoomReset();
+}
+
+void Main_Window_Dev::onZoom_Fit() {
+  pageTabs().logicPage()->zoomToFit();
+}
+
+void Main_Window_Dev::onZoom_Selection() {
+  pageTabs().logicPage()->zoomToSelection();
+}
+
+void Main_Window_Dev::onEditRasterOnOff() {
+  toggle(Setting::ShowGrid);
+}
+
+void Main_Window_Dev::onProgramWireStyle() {
+  toggle(Setting::FBWireStyle);
+}
+
+void Main_Window_Dev::onProgramKeepOutputsOnCopy() {
+  toggle(Setting::FBCopyPasteKeepIO);
+}
+
+void Main_Window_Dev::onProgramShowDebug() {
+  pageTabs().setValuesShown(!pageTabs().areValuesShown());
+  updateActions();
+}
+
+void Main_Window_Dev::onProgramShowOrder() {
+  pageTabs().setOrderShown(!pageTabs().isOrderShown());
+  updateActions();
+}
+
+void Main_Window_Dev::onProgramProgram_Left() {
+  pageTabs().logicPage()->align(FB_Page_Edits::Edge::Left);
+}
+
+void Main_Window_Dev::onProgramTop() {
+  pageTabs().logicPage()->align(FB_Page_Edits::Edge::Top);
+}
+
+void Main_Window_Dev::onProgramRight() {
+  pageTabs().logicPage()->align(FB_Page_Edits::Edge::Right);
+}
+
+void Main_Window_Dev::onProgramBottom() {
+  pageTabs().logicPage()->align(FB_Page_Edits::Edge::Bottom);
+}
+
+void Main_Window_Dev::onProgramRasterHorizontal() {
+  pageTabs().logicPage()->distribute(Qt::Horizontal);
+}
+
+void Main_Window_Dev::onProgramRasterVertical() {
+  pageTabs().logicPage()->distribute(Qt::Vertical);
+}
+
+void Main_Window_Dev::onProgramAlign_Raster() {
+  pageTabs().logicPage()->alignToGrid();
+}

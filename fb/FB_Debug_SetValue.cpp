@@ -1,0 +1,38 @@
+#include "fb/FB_Debug_SetValue.h"
+
+#include "fb/FB_Block_Host.h"
+#include "fb/FB_Block_Painter.h"
+#include "fb/model/FB_Geometry.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr double cPadding = 0.75; ///< grid units at the left and right of the rows
+constexpr double cNamePart = 0.4; ///< of a row's width
+
+} // namespace
+
+void FB_Debug_SetValue::valuesChanged() {
+  update();
+}
+
+void FB_Debug_SetValue::paintContent(QPainter& painter) const {
+  const FB_Block_Painter block(painter, *this);
+  const double padding = cPadding * grid();
+  const double width = this->width() - 2 * padding;
+  painter.setPen(block.color(Theme::Role::Text));
+  block.drawText({padding, 0, width, FB_Geometry::cTitleBand * grid()}, Qt::AlignLeft | Qt::AlignVCenter,
+                 FB_Geometry::titleLines(record()).constFirst());
+  for (int i = 0; i < static_cast<int>(record().mOutputs.size()); ++i) {
+    const double top = FB_Geometry::pin(type(), FB_Side::Output, i, this->width(), grid()).y() - grid() / 2;
+    const double nameWidth = width * cNamePart;
+    painter.setPen(block.color(Theme::Role::SecondaryText));
+    block.drawText({padding, top, nameWidth, grid()}, Qt::AlignLeft | Qt::AlignVCenter,
+                   record().mOutputs[i].mShortName);
+    const QString value = host().valueOf(record().mOutputs[i].mBinding).simplified();
+    painter.setPen(block.color(Theme::Role::Text));
+    block.drawText({padding + nameWidth, top, width - nameWidth, grid()}, Qt::AlignRight | Qt::AlignVCenter,
+                   value.isEmpty() ? QStringLiteral("–") : value);
+  }
+}

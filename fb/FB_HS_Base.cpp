@@ -1,0 +1,1 @@
+#include "fb/FB_HS_Base.h"

@@ -1,0 +1,55 @@
+#include "fb/FB_Page_Overlay.h"
+
+#include "fb/FB_Base.h"
+#include "fb/FB_Page.h"
+#include "fb/FB_Page_Blocks.h"
+#include "ui/Theme.h"
+
+#include <QPainter>
+
+FB_Page_Overlay::FB_Page_Overlay(FB_Page& page) : QWidget(&page), mPage(page) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  setAttribute(Qt::WA_NoSystemBackground);
+  hide();
+}
+
+void FB_Page_Overlay::place() {
+  const bool isNeeded = mPage.gesture() || mPage.isShowingExecutionOrder();
+  if (isNeeded) {
+    setGeometry(mPage.visiblePart());
+    raise();
+  }
+  setVisible(isNeeded);
+}
+
+void FB_Page_Overlay::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.translate(-pos());
+  if (mPage.isShowingExecutionOrder()) {
+    paintOrder(painter);
+  }
+  if (const FB_Gesture* const gesture = mPage.gesture()) {
+    gesture->paint(painter);
+  }
+}
+
+/// At the upper right corner. Blocks that the controller has not numbered are executed in the order of the list.
+void FB_Page_Overlay::paintOrder(QPainter& painter) const {
+  const FB_Page_Blocks& blocks = mPage.blocks();
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (int i = 0; i < blocks.count(); ++i) {
+    if (!blocks.isShown(i)) {
+      continue;
+    }
+    const int number = blocks.at(i).record().mExecutionNumber;
+    const QString text = QString::number(number > 0 ? number : i + 1);
+    QRectF badge = painter.fontMetrics().boundingRect(text).adjusted(-5, -1, 5, 1);
+    badge.moveCenter(blocks.rect(i).topRight() * mPage.zoom());
+    painter.setPen(Theme::color(Theme::Role::Canvas));
+    painter.setBrush(Theme::color(Theme::Role::Warning));
+    painter.drawRoundedRect(badge, badge.height() / 2, badge.height() / 2);
+    painter.drawText(badge, Qt::AlignCenter, text);
+  }
+  painter.restore();
+}

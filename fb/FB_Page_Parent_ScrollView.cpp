@@ -1,0 +1,87 @@
+#include "fb/FB_Page_Parent_ScrollView.h"
+
+#include "db/Project_Session.h"
+#include "fb/FB_Page.h"
+#include "fb/model/FB_Page_Notices.h"
+#include "ui/Theme.h"
+
+#include <QLabel>
+#include <QResizeEvent>
+#include <QScrollBar>
+
+namespace {
+
+constexpr int cLineStep = 16; // pixels
+
+} // namespace
+
+FB_Page_Parent_ScrollView::FB_Page_Parent_ScrollView(FB_Page* page, QWidget* parent)
+    : QScrollArea(parent),
+      mPage(page),
+      mNotices(new QLabel(this)) {
+  setFrameShape(NoFrame);
+  setWidget(page);
+  setFocusProxy(page);
+  horizontalScrollBar()->setSingleStep(cLineStep);
+  verticalScrollBar()->setSingleStep(cLineStep);
+  mNotices->setTextFormat(Qt::PlainText);
+  mNotices->setWordWrap(true);
+  mNotices->setMargin(8);
+  mNotices->setAutoFillBackground(true);
+  QPalette colours = mNotices->palette();
+  colours.setColor(QPalette::Window, Theme::color(Theme::Role::Bar));
+  colours.setColor(QPalette::WindowText, Theme::color(Theme::Role::Error));
+  mNotices->setPalette(colours);
+  connect(page, &FB_Page::pageChanged, this, &FB_Page_Parent_ScrollView::updateNotices);
+  connect(&page->session().database(), &ProjectDatabase::recordChanged, this, [this](DB_Table table) {
+    if (table == DB_Table::Project) {
+      updateNotices();
+    }
+  });
+  updateNotices();
+}
+
+void FB_Page_Parent_ScrollView::setConnectedController(std::optional<int> number) {
+  mController = number;
+  updateNotices();
+}
+
+void FB_Page_Parent_ScrollView::updateNotices() {
+  const DB_FB_Page* const page = mPage->blocks().page();
+  QStringList notices;
+  if (page) {
+    notices = FB_Page_Notices::of(*page, mPage->session().database().mProject, mController);
+  }
+  mNotices->setText(notices.join('\n'));
+  mNotices->setVisible(!notices.isEmpty());
+  placeNotices();
+}
+
+void FB_Page_Parent_ScrollView::placeNotices() {
+  const int height = mNotices->text().isEmpty() ? 0 : mNotices->heightForWidth(width());
+  mNotices->setGeometry(0, 0, width(), height);
+  setViewportMargins(0, height, 0, 0);
+}
+
+void FB_Page_Parent_ScrollView::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  placeNotices();
+  mPage->viewChanged();
+}
+
+/// With Shift to the side, as the toolkit does with Alt.
+void FB_Page_Parent_ScrollView::wheelEvent(QWheelEvent* event) {
+  const QPoint angle = event->angleDelta();
+  if (event->modifiers().testFlag(Qt::ControlModifier)) { // beside the page
+    mPage->setZoom(mPage->zoom() + (angle.y() < 0 ? -0.1 : 0.1), {});
+    return;
+  }
+  if (event->modifiers().testFlag(Qt::ShiftModifier) && angle.x() == 0) {
+    QWheelEvent across(event->position(), event->globalPosition(), event->pixelDelta().transposed(), angle.transposed(),
+                       event->buttons(), Qt::NoModifier, event->phase(), event->inverted());
+    QScrollArea::wheelEvent(&across);
+    event->accept();
+    return;
+  }
+  QScrollArea::wheelEvent(event);
+}
