@@ -190,6 +190,7 @@ private:
   [[nodiscard]] QScrollArea* scrollArea() const;
   [[nodiscard]] FB_Pointer pointerOf(const QMouseEvent& event) const;
   [[nodiscard]] bool startsPan(const QMouseEvent& event) const;
+  [[nodiscard]] bool isBusy() const;
   void begin(std::unique_ptr<FB_Gesture> gesture);
   void followMouse(const QMouseEvent& event);
   void releaseGesture(const FB_Pointer& pointer);

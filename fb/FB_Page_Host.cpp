@@ -26,8 +26,8 @@ QString FB_Page::valueOf(const DB_Address_Binding& binding) const {
 
 void FB_Page::blockPressed(FB_Base& block, const FB_Pin_Ref* pin, QMouseEvent& event) {
   closeEditor();
-  if (mGesture) {
-    return; // another button, while one is held
+  if (isBusy()) {
+    return;
   }
   setFocus(Qt::MouseFocusReason);
   const FB_Pointer pointer = pointerOf(event);

@@ -65,6 +65,11 @@ void FB_Page::begin(std::unique_ptr<FB_Gesture> gesture) {
   mOverlay->place();
 }
 
+/// Another button while one is held. A page that went out of sight meanwhile has the mouse until that one is let go.
+bool FB_Page::isBusy() const {
+  return mGesture || !isVisible();
+}
+
 /// A menu or a box may have swallowed the release: then nothing was let go here.
 void FB_Page::followMouse(const QMouseEvent& event) {
   if (event.buttons() == Qt::NoButton) {
@@ -98,8 +103,9 @@ void FB_Page::endGesture() {
 
 void FB_Page::releaseGesture(const FB_Pointer& pointer) {
   const std::unique_ptr<FB_Gesture> gesture = std::move(mGesture);
-  endGesture();
+  mAutoScroll->stop();
   gesture->release(pointer);
+  endGesture(); // what is let go may have chosen a cursor once more
   viewChanged();
 }
 
@@ -128,8 +134,8 @@ void FB_Page::showCursor(Qt::CursorShape shape) {
 
 void FB_Page::mousePressEvent(QMouseEvent* event) {
   closeEditor();
-  if (mGesture) {
-    return; // another button, while one is held
+  if (isBusy()) {
+    return;
   }
   const FB_Pointer pointer = pointerOf(*event);
   if (startsPan(*event)) {

@@ -188,6 +188,7 @@ private slots:
     const QUuid variable = record(mFirst).mOutputs[0].mBinding.mKey;
     QVERIFY(!variable.isNull());
     QCOMPARE(record(mSecond).mInputs[1].mBinding.mKey, variable);
+    QVERIFY(!QGuiApplication::overrideCursor());
     // The wire's end is carried to the other input; let go over nothing it comes back.
     const QPoint end = pin({mSecond, FB_Side::Input, 1}) - QPoint(9, 0);
     drag(end, {20, 400});
