@@ -94,6 +94,18 @@ void clean(DB_FB_Control& block) {
   }
 }
 
+/// An unknown key that ends in one of ours would be taken for that when the project is read again. What `data` held is
+/// stored as it came in the usual case.
+bool isReadAlike(const DB_FB_Control& block, QByteArrayView data) {
+  const QByteArray stored = block.toData();
+  if (stored == data) {
+    return true;
+  }
+  DB_FB_Control again;
+  again.setData(stored);
+  return again.toData() == stored;
+}
+
 } // namespace
 
 QByteArray FB_Packed_Blocks::pack(const std::vector<const DB_FB_Control*>& blocks) {
@@ -132,6 +144,9 @@ std::optional<FB_Packed_Blocks::Blocks> FB_Packed_Blocks::unpack(const QByteArra
     blocks.push_back(std::make_unique<DB_FB_Control>());
     blocks.back()->setData(data->toByteArray());
     clean(*blocks.back());
+    if (!isReadAlike(*blocks.back(), *data)) {
+      return std::nullopt;
+    }
   }
   return reader.isAtEnd() ? std::optional(std::move(blocks)) : std::nullopt;
 }
