@@ -42,9 +42,10 @@ QString Page_Tree_Model::blockText(const DB_FB_Control& block) const {
   return title.isEmpty() || title == type.simplified() ? type : QStringLiteral("%1 (%2)").arg(title, type);
 }
 
-QString Page_Tree_Model::blockToolTip(const QModelIndex& index, const DB_FB_Control& block) const {
+QString Page_Tree_Model::blockToolTip(const DB_FB_Control& block) const {
+  const int number = mTexts.mExecution(mSession.database(), block.mGuid);
   QStringList lines{QStringLiteral("<b>%1</b>").arg(blockText(block).toHtmlEscaped()),
-                    tr("Ausführung: Seite %1, Baustein %2").arg(index.parent().row() + 1).arg(index.row() + 1)};
+                    number > 0 ? tr("Ausführung: als %1. Baustein der Steuerung").arg(number) : tr("Ausführung: nie")};
   if (block.mDisabled) {
     lines.append(tr("Der Baustein ist deaktiviert."));
   }

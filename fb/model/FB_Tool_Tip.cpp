@@ -62,16 +62,16 @@ const DB_FB_Pin* pinAt(const std::vector<DB_FB_Pin>& pins, int index) {
 
 } // namespace
 
-QString FB_Tool_Tip::of(const DB_FB_Control& block, int input, int output, bool isDebug) {
+QString FB_Tool_Tip::of(const DB_FB_Control& block, int input, int output, std::optional<int> executionNumber) {
   QString text = head(block);
   if (const DB_FB_Pin* const pin = pinAt(block.mInputs, input)) {
     text += describe(*pin);
   } else if (const DB_FB_Pin* const other = pinAt(block.mOutputs, output)) {
     text += describe(*other);
   }
-  if (isDebug) {
+  if (executionNumber) {
     text += QStringLiteral("<br>Call#: %1<br>GUID: %2<br>")
-                .arg(QString::number(block.mExecutionNumber), block.mGuid.toString(QUuid::WithoutBraces));
+                .arg(QString::number(*executionNumber), block.mGuid.toString(QUuid::WithoutBraces));
   }
   return text;
 }

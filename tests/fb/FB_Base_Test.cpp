@@ -167,7 +167,7 @@ private slots:
     QTest::newRow("output") << -1 << 0 << false << head + QStringLiteral("Ausgang 1<br>Variable:V1<br><br>");
     QTest::newRow("both: the input speaks") << 0 << 0 << false << head + input;
     QTest::newRow("debug") << -1 << -1 << true
-                           << head + QStringLiteral("<br>Call#: 7<br>GUID: 12345678-0000-0000-0000-000000000000<br>");
+                           << head + QStringLiteral("<br>Call#: 0<br>GUID: 12345678-0000-0000-0000-000000000000<br>");
   }
   void toolTip() {
     QFETCH(int, input);
@@ -177,7 +177,6 @@ private slots:
     host.mIsDebug = isDebug;
     DB_FB_Control record = makeBlock(50, 2, 1, QStringLiteral("a <b> & c"));
     record.mGuid = QUuid(QStringLiteral("12345678-0000-0000-0000-000000000000"));
-    record.mExecutionNumber = 7;
     record.mInputs[0].mBinding = addressBinding(QStringLiteral("Licht <Küche>"));
     record.mOutputs[0].mBinding.mKind = DB_Address_Binding::Kind::Internal;
     record.mOutputs[0].mBinding.mName = QStringLiteral("V1");
