@@ -24,7 +24,7 @@ qsizetype longestShortName(const std::vector<DB_FB_Pin>& pins) {
   for (const DB_FB_Pin& pin : pins) {
     longest = std::max(longest, pin.mShortName.size());
   }
-  return longest;
+  return std::min(longest, FB_Geometry::cPinNameLength);
 }
 
 /// Appends a paragraph in lines, broken at blanks where there are some. Stops when there is a line too many.

@@ -21,6 +21,8 @@ inline constexpr double cGrid = 16;
 inline constexpr double cTitleBand = 1.25;
 /// So many characters of a title are shown at most.
 inline constexpr int cTitleLength = 120;
+/// So many characters of a pin's short name make the block wider at most.
+inline constexpr qsizetype cPinNameLength = 40;
 /// The text of a comment block is wrapped behind so many characters, and ends after so many lines.
 inline constexpr int cCommentWidth = 60;
 inline constexpr int cCommentLines = 40;

@@ -106,6 +106,8 @@ private slots:
     row("short comment", 10, 0, 0, QStringLiteral("Kurz"), {}, 8, 2);
     row("comment of two lines", 10, 0, 0, QStringLiteral("Eins\n") + QString(40, u'T'), {}, 20, 3);
     row("wrapped comment", 10, 0, 0, QString(30, u'a') + u' ' + QString(40, u'b'), {}, 20, 3);
+    row("short name of 100,000 characters", 50, 1, 0, {}, QString(100000, u'S'), 30, 3);
+    row("5,000 pins", 900, 5000, 0, {}, {}, 10, 5002);
     row("comment of 5,000 characters", 10, 0, 0, QString(5000, u'T'), {}, 30, 42);
   }
   void size() {
