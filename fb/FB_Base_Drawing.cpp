@@ -9,7 +9,7 @@
 #include "fb/model/FB_Tool_Tip.h"
 #include "fb/model/FB_Types.h"
 
-#include <QLineF>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -44,8 +44,9 @@ FB_Body FB_Base::body() const {
   return type ? type->mBody : FB_Body::Plain;
 }
 
-void FB_Base::paintEvent(QPaintEvent*) {
+void FB_Base::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
+  painter.setClipRect(event->rect());
   paintBlock(painter);
 }
 

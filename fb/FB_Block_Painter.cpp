@@ -2,7 +2,6 @@
 
 #include "fb/FB_Base.h"
 #include "fb/FB_Texts.h"
-#include "fb/model/FB_Geometry.h"
 
 #include <QPainter>
 
@@ -99,6 +98,11 @@ void FB_Block_Painter::hatch(const QRectF& rect) const {
   mPainter.restore();
 }
 
+FB_Geometry::Rows FB_Block_Painter::rows(size_t count) const {
+  const QRectF part = mPainter.hasClipping() ? mPainter.clipBoundingRect() : QRectF(mBlock.rect());
+  return FB_Geometry::rowsBetween(part.top(), part.bottom(), count, mGrid);
+}
+
 void FB_Block_Painter::drawTitle() const {
   const QRectF body = bodyRect(FB_Body::Plain);
   const QRectF band(body.left(), body.top(), body.width(), FB_Geometry::cTitleBand * mGrid);
@@ -124,8 +128,9 @@ void FB_Block_Painter::drawPins() const {
   for (const FB_Side side : {FB_Side::Input, FB_Side::Output}) {
     const DB_FB_Control& record = mBlock.record();
     const std::vector<DB_FB_Pin>& pins = side == FB_Side::Input ? record.mInputs : record.mOutputs;
-    for (size_t i = 0; i < pins.size(); ++i) {
-      drawPin(pins[i], side, static_cast<int>(i));
+    const FB_Geometry::Rows shown = rows(pins.size());
+    for (int i = shown.mFirst; i < shown.mEnd; ++i) {
+      drawPin(pins[static_cast<size_t>(i)], side, i);
     }
   }
 }
@@ -154,10 +159,10 @@ void FB_Block_Painter::drawPin(const DB_FB_Pin& pin, FB_Side side, int index) co
 void FB_Block_Painter::drawPinNames() const {
   const QRectF body = bodyRect(FB_Body::Plain).adjusted(padding(), 0, -padding(), 0);
   const DB_FB_Control& record = mBlock.record();
-  const size_t rows = std::max(record.mInputs.size(), record.mOutputs.size());
+  const FB_Geometry::Rows shown = rows(std::max(record.mInputs.size(), record.mOutputs.size()));
   const double most = body.width() - padding();
   mPainter.setPen(color(Role::SecondaryText));
-  for (size_t i = 0; i < rows; ++i) {
+  for (auto i = static_cast<size_t>(shown.mFirst); i < static_cast<size_t>(shown.mEnd); ++i) {
     const QString left = i < record.mInputs.size() ? record.mInputs[i].mShortName : QString();
     const QString right = i < record.mOutputs.size() ? record.mOutputs[i].mShortName : QString();
     double leftWidth = body.width();

@@ -43,4 +43,13 @@ inline constexpr int cCommentLines = 40;
 /// The same for a block whose width is known.
 [[nodiscard]] QPointF pin(int type, FB_Side side, int index, double width, double grid);
 
+/// Rows of pins, from `mFirst` to before `mEnd`.
+struct Rows {
+  int mFirst = 0;
+  int mEnd = 0;
+};
+/// Of so many, those that may be seen between two heights below the block's upper edge, with one to spare on both
+/// sides.
+[[nodiscard]] Rows rowsBetween(double top, double bottom, size_t count, double grid);
+
 } // namespace FB_Geometry
