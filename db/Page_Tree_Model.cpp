@@ -232,7 +232,7 @@ QVariant Page_Tree_Model::data(const QModelIndex& index, int role) const {
     return Model_Roles::toolTip(captionOf(index));
   case Model_Roles::cIconName: {
     if (index.internalId() >= cFirstPage) {
-      return QStringLiteral("plus_white");
+      return QStringLiteral("block_white");
     }
     const QString icon = pageIcon(mSession.database(), guidOf(index));
     return icon.isEmpty() ? QVariant() : icon;
