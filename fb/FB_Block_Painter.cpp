@@ -59,6 +59,10 @@ double FB_Block_Painter::padding() const {
   return std::max(cPadding * mGrid, cSelectedWidth + 1); // the highlight covers no letters
 }
 
+bool FB_Block_Painter::isOneRow() const {
+  return mBlock.height() < 1.5 * mGrid;
+}
+
 QRectF FB_Block_Painter::bodyRect(FB_Body body) const {
   if (body == FB_Body::None) {
     return mBlock.rect();
@@ -81,7 +85,7 @@ void FB_Block_Painter::drawBody(FB_Body body) const {
     break;
   }
   if (mBlock.record().mDisabled) {
-    hatch(rect.adjusted(0, rect.height() > mGrid * 1.5 ? FB_Geometry::cTitleBand * mGrid : 0, 0, 0));
+    hatch(rect.adjusted(0, isOneRow() ? 0 : FB_Geometry::cTitleBand * mGrid, 0, 0));
   }
 }
 
@@ -189,7 +193,7 @@ void FB_Block_Painter::drawFrame(FB_Body body) const {
     return;
   }
   QPen pen = framePen(isSelected);
-  if (body == FB_Body::None) {
+  if (body == FB_Body::None && isOneRow()) {
     pen.setWidthF(std::min(cSelectedWidth, mGrid / 8)); // a row of a small page has no room for more
   }
   const double inset = pen.widthF() / 2;
@@ -203,10 +207,10 @@ void FB_Block_Painter::drawBodyText(const QString& text) const {
     return;
   }
   const QRectF whole = mBlock.rect();
-  const bool isTitled = whole.height() > mGrid * 1.5;
   mPainter.setPen(color(Role::Text));
-  drawText(whole.adjusted(cMargin * mGrid + 2, isTitled ? FB_Geometry::cTitleBand * mGrid : 0, -cMargin * mGrid - 2, 0),
-           Qt::AlignCenter, text);
+  drawText(
+      whole.adjusted(cMargin * mGrid + 2, isOneRow() ? 0 : FB_Geometry::cTitleBand * mGrid, -cMargin * mGrid - 2, 0),
+      Qt::AlignCenter, text);
 }
 
 void FB_Block_Painter::drawText(const QRectF& rect, Qt::Alignment alignment, const QString& text,

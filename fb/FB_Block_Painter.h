@@ -44,6 +44,8 @@ private:
   /// Pixels between the body's edge and texts.
   [[nodiscard]] double padding() const;
   void hatch(const QRectF& rect) const;
+  /// It has no title band.
+  [[nodiscard]] bool isOneRow() const;
   /// Of so many rows of pins, those that are painted now: a block may have thousands.
   [[nodiscard]] FB_Geometry::Rows rows(size_t count) const;
 

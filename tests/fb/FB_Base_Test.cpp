@@ -206,6 +206,7 @@ private slots:
     QTest::newRow("selected frame") << 50 << true << edge + QPoint(1, 0) << qRgb(202, 192, 0);
     QTest::newRow("body") << 50 << false << edge + QPoint(2, 0) << cBody;
     QTest::newRow("margin") << 50 << false << edge - QPoint(2, 0) << qRgba(0, 0, 0, 0);
+    QTest::newRow("unframed, selected") << 1330 << true << QPoint(2, 28) << qRgb(202, 192, 0);
     QTest::newRow("body up to the top") << 50 << false << QPoint(64, 0) << qRgb(255, 255, 255);
   }
   void pixel() {
