@@ -1,5 +1,6 @@
 #include "fb/model/FB_Tool_Tip.h"
 
+#include "db/DB_Text.h"
 #include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Pin_Text.h"
 #include "fb/model/FB_Types.h"
@@ -17,7 +18,7 @@ QString tr(const char* text) {
 QString escaped(const QString& text) {
   const bool isLong = text.size() > cLongest;
   const QString shown = isLong ? text.first(cLongest - 1) + u'…' : text;
-  return shown.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>"));
+  return DB_Text::rich(shown);
 }
 
 /// What tells the block from others of its type.

@@ -187,6 +187,12 @@ private slots:
     QTEST(block.toolTipText(), "text");
   }
 
+  void theToolTipKeepsTheBlanksOfAName() {
+    Host host;
+    const FB_Base block(nullptr, host, makeBlock(202, 0, 0, QStringLiteral("a\nb")));
+    QCOMPARE(block.toolTipText(), QStringLiteral("<b>[202] &gt;&nbsp;&nbsp;Größer (2xE) (a<br>b)</b><br>"));
+  }
+
   void theToolTipOfAStandInNamesTheOriginalType() {
     Host host;
     DB_FB_Control record = makeBlock(FB_Types::cComment);
