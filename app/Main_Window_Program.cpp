@@ -34,6 +34,7 @@ void Main_Window_Dev::connectLogicPage(FB_Page& page) {
     dialog.showUses(key);
     dialog.bringUp();
   });
+  connect(&page, &FB_Page::typeUsagesRequested, this, [this](int type) { resultDialog(mUsages).showType(type); });
   connect(&page, &FB_Page::linkActivated, this, &Main_Window_Dev::showChild);
   connect(&page, &FB_Page::statusText, this, &Main_Window_Dev::showInfo);
 }

@@ -55,7 +55,7 @@ void FB_Base::resizeEvent(QResizeEvent* event) {
 
 void FB_Base::dragEnterEvent(QDragEnterEvent* event) {
   // Reading what is dragged may take a while when it is a whole main group, so it is done once.
-  const QUuid address = mHost.isOperatingMode() ? QUuid() : Address_Clipboard::singleAddress(*event->mimeData());
+  const QUuid address = Address_Clipboard::singleAddress(*event->mimeData());
   mDraggedAddress = mHost.database().mAddresses.subGroup(address) ? address : QUuid();
   if (mDraggedAddress.isNull()) {
     event->ignore();

@@ -1,11 +1,9 @@
 #include "fb/FB_Inline_Edit.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
-FB_Inline_Edit::FB_Inline_Edit(const QString& text, Lines lines, QWidget* parent)
-    : QTextEdit(parent),
-      mBefore(text),
-      mLines(lines) {
+FB_Inline_Edit::FB_Inline_Edit(const QString& text, Lines lines, QWidget* parent) : QTextEdit(parent), mLines(lines) {
   setAcceptRichText(false);
   setTabChangesFocus(true);
   setPlainText(text);
@@ -30,7 +28,7 @@ void FB_Inline_Edit::accept() {
     text = text.simplified();
   }
   close();
-  if (text != mBefore) {
+  if (document()->isModified()) { // a text that was only looked at stays as it is, to the last blank
     emit accepted(text);
   }
 }
@@ -68,11 +66,13 @@ void FB_Inline_Edit::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-/// A menu over the field is part of typing, another window is not the end of it.
+/// A menu over the field is part of typing, another program's window is not the end of it. A window of this one is:
+/// what is done there, saving and closing too, is done with what was typed.
 void FB_Inline_Edit::focusOutEvent(QFocusEvent* event) {
   QTextEdit::focusOutEvent(event);
   const Qt::FocusReason reason = event->reason();
-  if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason && reason != Qt::MenuBarFocusReason) {
+  const bool isAway = reason == Qt::ActiveWindowFocusReason && !QApplication::activeWindow();
+  if (!isAway && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason) {
     accept();
   }
 }

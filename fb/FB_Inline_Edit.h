@@ -17,7 +17,7 @@ public:
   void revert();
 
 signals:
-  /// The text is another one.
+  /// The user changed the text.
   void accepted(const QString& text);
   void closed();
 
@@ -29,7 +29,6 @@ protected:
 private:
   void close();
 
-  QString mBefore;
   Lines mLines;
   bool mIsClosed = false;
 };

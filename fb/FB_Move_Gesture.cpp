@@ -39,8 +39,7 @@ void FB_Move_Gesture::start() {
   const FB_Page_Blocks& blocks = mPage.blocks();
   mBlocks = mPage.selectedBlocks();
   for (const QUuid& block : std::as_const(mBlocks)) {
-    const int index = blocks.indexOf(block);
-    mMoved.push_back({index, blocks.rect(index).topLeft()});
+    mMoved.push_back({block, blocks.rect(blocks.indexOf(block)).topLeft()});
   }
   mExtent = blocks.extent(mBlocks);
   const int pressed = blocks.indexOf(mBlock);
@@ -84,7 +83,7 @@ void FB_Move_Gesture::move(const FB_Pointer& pointer) {
   mPage.showCursor(pointer.mModifiers.testFlag(Qt::ControlModifier) ? Qt::DragCopyCursor : Qt::SizeAllCursor);
   mPlace = placeFor(pointer);
   for (const Moved& moved : mMoved) {
-    mPage.blocks().showAt(moved.mIndex, moved.mFrom + mPlace.mOffset);
+    mPage.blocks().showAt(mPage.blocks().indexOf(moved.mBlock), moved.mFrom + mPlace.mOffset);
   }
   mPage.growTo(mExtent.translated(mPlace.mOffset));
   mPage.updateCanvas();
@@ -102,7 +101,7 @@ void FB_Move_Gesture::release(const FB_Pointer& pointer) {
   }
   QHash<QUuid, QPointF> positions;
   for (const Moved& moved : mMoved) {
-    positions.insert(mPage.blocks().at(moved.mIndex).guid(), moved.mFrom + mPlace.mOffset);
+    positions.insert(moved.mBlock, moved.mFrom + mPlace.mOffset);
   }
   if (mPlace.mOffset.isNull() || !mPage.moveBlocks(positions)) {
     putBack();
@@ -122,9 +121,12 @@ void FB_Move_Gesture::click(Qt::KeyboardModifiers modifiers) {
   }
 }
 
+/// Those that are still there: the page may have followed an edit since they were let go.
 void FB_Move_Gesture::putBack() {
   for (const Moved& moved : mMoved) {
-    mPage.blocks().putBack(moved.mIndex);
+    if (const int index = mPage.blocks().indexOf(moved.mBlock); index >= 0) {
+      mPage.blocks().putBack(index);
+    }
   }
   mPage.updateSize();
   mPage.updateCanvas();

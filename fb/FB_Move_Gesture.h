@@ -24,7 +24,7 @@ public:
 
 private:
   struct Moved {
-    int mIndex;
+    QUuid mBlock;
     QPointF mFrom;
   };
 

@@ -175,7 +175,9 @@ void FB_Page::selectAll() {
   QList<QUuid> all;
   all.reserve(mBlocks.count());
   for (int i = 0; i < mBlocks.count(); ++i) {
-    all.append(mBlocks.at(i).guid());
+    if (mBlocks.isDisplayed(i)) {
+      all.append(mBlocks.at(i).guid());
+    }
   }
   select(all);
 }

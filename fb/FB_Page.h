@@ -89,6 +89,8 @@ public:
   bool insertBlock(int type);
   /// The point is rounded to whole pixels, beyond the page's edge it comes to 5 pixels before that.
   bool dropBlock(int type, const QPointF& point);
+  /// A block type of the catalogue, also from beside the page; the point is of the canvas.
+  void takeDrop(QDropEvent& event, const QPointF& point);
   bool moveBlocks(const QHash<QUuid, QPointF>& positions);
   bool nudge(const QPointF& offset);
   void alignToGrid();
@@ -159,6 +161,7 @@ signals:
   void propertiesRequested(const QUuid& page);
   /// Of an address or a variable.
   void usagesRequested(const QUuid& key);
+  void typeUsagesRequested(int type);
   void statusText(const QString& text);
   /// The page's record is another one, or it is gone.
   void pageChanged();
@@ -187,8 +190,9 @@ private:
   [[nodiscard]] QScrollArea* scrollArea() const;
   [[nodiscard]] FB_Pointer pointerOf(const QMouseEvent& event) const;
   [[nodiscard]] bool startsPan(const QMouseEvent& event) const;
+  [[nodiscard]] bool isBusy() const;
   void begin(std::unique_ptr<FB_Gesture> gesture);
-  void moveGesture(const FB_Pointer& pointer);
+  void followMouse(const QMouseEvent& event);
   void releaseGesture(const FB_Pointer& pointer);
   void endGesture();
   void onScrolled();
@@ -209,6 +213,8 @@ private:
   void paintLabels(QPainter& painter, const QRectF& region, int index) const;
   void addAlignment(QMenu& menu);
   void addUses(QMenu& menu, const FB_Base& block, const FB_Pin_Ref* pin);
+  void addVariable(QMenu& menu, const DB_Address_Binding& binding);
+  void renameVariable(const QUuid& key, const QString& name);
   void addLinks(QMenu& menu, const FB_Pin_Ref& pin);
   void pressBlock(FB_Base& block, const FB_Pin_Ref* pin, const FB_Pointer& pointer);
   [[nodiscard]] QPointF visibleCentre() const;

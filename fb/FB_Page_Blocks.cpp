@@ -57,12 +57,16 @@ QPointF FB_Page_Blocks::pinPoint(const FB_Pin_Ref& pin) const {
          FB_Geometry::pin(at(index).record(), pin.mSide, pin.mIndex, FB_Geometry::cGrid * zoom);
 }
 
+bool FB_Page_Blocks::isDisplayed(int index) const {
+  return at(index).record().mDisplay;
+}
+
 std::optional<FB_Pin_Ref> FB_Page_Blocks::pinAt(const QPointF& point) const {
   constexpr double cReach = FB_Geometry::cGrid;
   const double zoom = mHost.zoom();
   const QPointF place = point / zoom;
   for (auto item = mItems.rbegin(); item != mItems.rend(); ++item) {
-    if (item->mRect.adjusted(-cReach, -cReach, cReach, cReach).contains(place)) {
+    if (item->mBlock->record().mDisplay && item->mRect.adjusted(-cReach, -cReach, cReach, cReach).contains(place)) {
       if (const auto pin = item->mBlock->pinAt(point - item->mRect.topLeft() * zoom)) {
         return pin;
       }
@@ -168,7 +172,7 @@ void FB_Page_Blocks::showWithin(const QRectF& part, bool mayHide) {
   const double zoom = mHost.zoom();
   const QRectF place(part.topLeft() / zoom, part.size() / zoom);
   for (Item& item : mItems) {
-    const bool isSeen = place.intersects(item.mRect);
+    const bool isSeen = place.intersects(item.mRect) && item.mBlock->record().mDisplay;
     if (isSeen != item.mIsShown && (isSeen || mayHide)) {
       item.mIsShown = isSeen;
       item.mBlock->setVisible(isSeen);

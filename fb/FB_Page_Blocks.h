@@ -62,6 +62,9 @@ public:
   void putBack(int index);
   /// Shows the blocks in that part of the canvas; with `mayHide` the others are hidden.
   void showWithin(const QRectF& part, bool mayHide);
+  /// False of a block whose record says that it is not displayed: neither it nor its wires are seen, hit or selected
+  /// with others. What names it (the tree of pages) may still select it.
+  [[nodiscard]] bool isDisplayed(int index) const;
   [[nodiscard]] bool isShown(int index) const { return mItems[static_cast<size_t>(index)].mIsShown; }
 
 private:

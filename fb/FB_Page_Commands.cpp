@@ -58,24 +58,35 @@ void FB_Page_Commands::update() {
 }
 
 void FB_Page_Commands::onCut() {
-  onCopy();
-  onRemove();
+  if (copySelected()) {
+    onRemove();
+  }
 }
 
 void FB_Page_Commands::onCopy() {
+  copySelected();
+}
+
+bool FB_Page_Commands::copySelected() {
   const QList<QUuid> blocks = mPage.selectedBlocks();
+  const QByteArray packed = FB_Clipboard::pack(mPage.session(), blocks);
+  if (packed.isEmpty()) {
+    mPage.tellLater(FB_Clipboard::limitRefusal());
+    return false;
+  }
   QStringList titles;
   for (const QUuid& block : blocks) {
     titles.append(FB_Geometry::title(mPage.blocks().find(block)->record()));
   }
   auto data = std::make_unique<QMimeData>();
-  data->setData(FB_Clipboard::mimeType(), FB_Clipboard::pack(mPage.session(), blocks));
+  data->setData(FB_Clipboard::mimeType(), packed);
   data->setText(titles.join('\n'));
   if (const QImage picture = FB_Page_Picture::of(mPage, blocks); !picture.isNull()) {
     data->setImageData(picture);
   }
   mPastedAgain = 0;
   QGuiApplication::clipboard()->setMimeData(data.release());
+  return true;
 }
 
 /// At the mouse when it is over the page, else in the middle of what is seen.

@@ -30,6 +30,8 @@ private:
   QAction* add(const QString& text, const QString& icon, const QKeySequence& keys, void (FB_Page_Commands::*run)());
   void onCut();
   void onCopy();
+  /// False, and told, when the clipboard cannot take the selected blocks.
+  bool copySelected();
   void onPaste();
   void onDuplicate();
   void onRemove();

@@ -6,6 +6,7 @@
 #include "fb/FB_Move_Gesture.h"
 #include "fb/FB_Page.h"
 #include "fb/FB_Pan_Gesture.h"
+#include "fb/FB_Refused_Gesture.h"
 #include "fb/FB_Wire_Gesture.h"
 #include "fb/model/FB_Types.h"
 
@@ -25,8 +26,8 @@ QString FB_Page::valueOf(const DB_Address_Binding& binding) const {
 
 void FB_Page::blockPressed(FB_Base& block, const FB_Pin_Ref* pin, QMouseEvent& event) {
   closeEditor();
-  if (mGesture) {
-    return; // another button, while one is held
+  if (isBusy()) {
+    return;
   }
   setFocus(Qt::MouseFocusReason);
   const FB_Pointer pointer = pointerOf(event);
@@ -50,6 +51,7 @@ void FB_Page::pressBlock(FB_Base& block, const FB_Pin_Ref* pin, const FB_Pointer
     select(selected << block.guid());
   }
   if (!mayEdit()) {
+    begin(std::make_unique<FB_Refused_Gesture>(*this, pointer));
     return;
   }
   if (pin && !isAdding) {
@@ -61,7 +63,7 @@ void FB_Page::pressBlock(FB_Base& block, const FB_Pin_Ref* pin, const FB_Pointer
 
 void FB_Page::blockMoved(FB_Base& /*block*/, QMouseEvent& event) {
   if (mGesture) {
-    moveGesture(pointerOf(event));
+    followMouse(event);
   }
 }
 

@@ -1,10 +1,13 @@
 // The menus of the page and of its blocks.
 #include "base/App_Settings.h"
 #include "db/Project_Session.h"
+#include "db/Variable_Edits.h"
 #include "fb/FB_Base.h"
 #include "fb/FB_Page.h"
 #include "fb/FB_Page_Commands.h"
+#include "fb/FB_Variable_Name_Dialog.h"
 #include "fb/model/FB_Pins.h"
+#include "fb/model/FB_Types.h"
 #include "ui/Theme.h"
 
 #include <QMenu>
@@ -109,11 +112,33 @@ void FB_Page::addUses(QMenu& menu, const FB_Base& block, const FB_Pin_Ref* pin) 
       addLinks(menu, ref);
       menu.addAction(tr("Verwendungen von %1").arg(nameOf(binding)), this,
                      [this, key = binding.mKey] { emit usagesRequested(key); });
+      if (binding.mKind == DB_Address_Binding::Kind::Internal) {
+        addVariable(menu, binding);
+      }
     }
   }
   if (pin && !known.isEmpty()) {
     QAction* const unbind = menu.addAction(tr("Verknüpfung &entfernen"), this,
                                            [this, ref = *pin] { finish(FB_Page_Edits::unbind(mSession, ref)); });
     unbind->setEnabled(mayEdit());
+  }
+  if (!pin) {
+    menu.addAction(tr("Alle Bausteine \"%1\"").arg(plain(FB_Types::name(block.type()).simplified())), this,
+                   [this, type = block.type()] { emit typeUsagesRequested(type); });
+  }
+}
+
+void FB_Page::addVariable(QMenu& menu, const DB_Address_Binding& binding) {
+  QAction* const rename =
+      menu.addAction(tr("%1 umbenennen…").arg(nameOf(binding)), this,
+                     [this, key = binding.mKey, name = binding.mName] { renameVariable(key, name); });
+  rename->setEnabled(mayEdit());
+}
+
+void FB_Page::renameVariable(const QUuid& key, const QString& name) {
+  const QPointer<FB_Page> self = this;
+  FB_Variable_Name_Dialog dialog(name, window());
+  if (dialog.exec() == QDialog::Accepted && self) {
+    finish(Variable_Edits::rename(mSession, key, dialog.name()));
   }
 }

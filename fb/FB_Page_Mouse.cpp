@@ -17,6 +17,9 @@
 #include <QMouseEvent>
 #include <QScrollArea>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr double cEndReach = 12; // pixels from a pin, within which the end of its wire is taken
@@ -24,6 +27,12 @@ constexpr qsizetype cLargeNet = 64;
 
 bool isAdding(Qt::KeyboardModifiers modifiers) {
   return modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::ShiftModifier);
+}
+
+bool isEditing(const QKeyEvent& event) {
+  constexpr QKeyCombination cKeys[] = {Qt::CTRL | Qt::Key_X, Qt::CTRL | Qt::Key_V, Qt::CTRL | Qt::Key_D,
+                                       Qt::CTRL | Qt::Key_Z, Qt::CTRL | Qt::Key_Y, QKeyCombination(Qt::Key_Delete)};
+  return std::ranges::find(cKeys, event.keyCombination()) != std::end(cKeys);
 }
 
 QPointF directionOf(int key) {
@@ -56,7 +65,18 @@ void FB_Page::begin(std::unique_ptr<FB_Gesture> gesture) {
   mOverlay->place();
 }
 
-void FB_Page::moveGesture(const FB_Pointer& pointer) {
+/// Another button while one is held. A page that went out of sight meanwhile has the mouse until that one is let go.
+bool FB_Page::isBusy() const {
+  return mGesture || !isVisible();
+}
+
+/// A menu or a box may have swallowed the release: then nothing was let go here.
+void FB_Page::followMouse(const QMouseEvent& event) {
+  if (event.buttons() == Qt::NoButton) {
+    cancelGesture();
+    return;
+  }
+  const FB_Pointer pointer = pointerOf(event);
   mGesture->move(pointer);
   QScrollArea* const area = scrollArea();
   if (area && mGesture->scrollsAtEdge()) {
@@ -83,8 +103,9 @@ void FB_Page::endGesture() {
 
 void FB_Page::releaseGesture(const FB_Pointer& pointer) {
   const std::unique_ptr<FB_Gesture> gesture = std::move(mGesture);
-  endGesture();
+  mAutoScroll->stop();
   gesture->release(pointer);
+  endGesture(); // what is let go may have chosen a cursor once more
   viewChanged();
 }
 
@@ -113,8 +134,8 @@ void FB_Page::showCursor(Qt::CursorShape shape) {
 
 void FB_Page::mousePressEvent(QMouseEvent* event) {
   closeEditor();
-  if (mGesture) {
-    return; // another button, while one is held
+  if (isBusy()) {
+    return;
   }
   const FB_Pointer pointer = pointerOf(*event);
   if (startsPan(*event)) {
@@ -149,11 +170,11 @@ void FB_Page::mousePressEvent(QMouseEvent* event) {
 }
 
 void FB_Page::mouseMoveEvent(QMouseEvent* event) {
-  const FB_Pointer pointer = pointerOf(*event);
   if (mGesture) {
-    moveGesture(pointer);
+    followMouse(*event);
     return;
   }
+  const FB_Pointer pointer = pointerOf(*event);
   const int wire = mBlocks.wires().hit(pointer.mPage);
   hover(wire < 0 ? QList<int>() : mBlocks.wires().net(wire));
   if (mIsSpaceHeld) {
@@ -174,7 +195,7 @@ void FB_Page::mouseReleaseEvent(QMouseEvent* event) {
 void FB_Page::mouseDoubleClickEvent(QMouseEvent* event) {
   const QPointF point = pointerOf(*event).mPage;
   for (int i = 0; i < mBlocks.count(); ++i) {
-    if (const auto pin = mBlocks.at(i).linkAt(point)) {
+    if (const auto pin = mBlocks.isDisplayed(i) ? mBlocks.at(i).linkAt(point) : std::nullopt) {
       followLink(*pin);
       return;
     }
@@ -262,6 +283,8 @@ void FB_Page::keyPressEvent(QKeyEvent* event) {
   } else if (!direction.isNull() && !mGesture && !selectedBlocks().isEmpty()) {
     const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier);
     nudge(direction * (isFine ? 1 : mSettings.value(Setting::GridSize)));
+  } else if (!mayEdit() && isEditing(*event)) {
+    tellLater(Session_State::operatingModeRefusal()); // the commands of these keys are disabled
   } else {
     QWidget::keyPressEvent(event);
   }
@@ -291,7 +314,7 @@ void FB_Page::focusOutEvent(QFocusEvent* event) {
 
 /// The mouse opens the menus when it is pressed.
 void FB_Page::contextMenuEvent(QContextMenuEvent* event) {
-  if (event->reason() == QContextMenuEvent::Mouse) {
+  if (event->reason() == QContextMenuEvent::Mouse || mGesture) {
     return;
   }
   const QList<QUuid> selected = selectedBlocks();
@@ -310,14 +333,20 @@ void FB_Page::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void FB_Page::dragMoveEvent(QDragMoveEvent* event) {
-  dragEnterEvent(static_cast<QDragEnterEvent*>(event));
+  if (FB_Catalogue_Mime::typeOf(*event)) {
+    event->acceptProposedAction();
+  }
 }
 
 void FB_Page::dropEvent(QDropEvent* event) {
-  if (const auto type = FB_Catalogue_Mime::typeOf(*event)) {
-    event->acceptProposedAction();
+  takeDrop(*event, event->position());
+}
+
+void FB_Page::takeDrop(QDropEvent& event, const QPointF& point) {
+  if (const auto type = FB_Catalogue_Mime::typeOf(event)) {
+    event.acceptProposedAction();
     window()->activateWindow();
     setFocus(Qt::OtherFocusReason);
-    dropBlock(*type, event->position());
+    dropBlock(*type, point);
   }
 }

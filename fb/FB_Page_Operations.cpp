@@ -33,6 +33,9 @@ bool FB_Page::finish(const FB_Page_Edits::Result& result) {
     return false;
   }
   select(result.mBlocks);
+  if (!result.mNote.isEmpty()) {
+    emit statusText(result.mNote);
+  }
   return true;
 }
 

@@ -31,6 +31,9 @@ void FB_Page::paintEvent(QPaintEvent* event) {
 /// They stand beside the block, and go with it while it is dragged.
 void FB_Page::paintLabels(QPainter& painter, const QRectF& region, int index) const {
   constexpr double cReach = 32 * FB_Geometry::cGrid; // no label is longer
+  if (!mBlocks.isDisplayed(index)) {
+    return;
+  }
   const QRectF& rect = mBlocks.rect(index);
   const QRectF near((rect.topLeft() - QPointF(cReach, cReach)) * zoom(),
                     (rect.size() + 2 * QSizeF(cReach, cReach)) * zoom());

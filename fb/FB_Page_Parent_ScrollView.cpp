@@ -1,10 +1,12 @@
 #include "fb/FB_Page_Parent_ScrollView.h"
 
 #include "db/Project_Session.h"
+#include "fb/FB_Catalogue_Mime.h"
 #include "fb/FB_Page.h"
 #include "fb/model/FB_Page_Notices.h"
 #include "ui/Theme.h"
 
+#include <QDropEvent>
 #include <QLabel>
 #include <QResizeEvent>
 #include <QScrollBar>
@@ -22,6 +24,7 @@ FB_Page_Parent_ScrollView::FB_Page_Parent_ScrollView(FB_Page* page, QWidget* par
   setFrameShape(NoFrame);
   setWidget(page);
   setFocusProxy(page);
+  setAcceptDrops(true);
   horizontalScrollBar()->setSingleStep(cLineStep);
   verticalScrollBar()->setSingleStep(cLineStep);
   mNotices->setTextFormat(Qt::PlainText);
@@ -84,4 +87,18 @@ void FB_Page_Parent_ScrollView::wheelEvent(QWheelEvent* event) {
     return;
   }
   QScrollArea::wheelEvent(event);
+}
+
+void FB_Page_Parent_ScrollView::dragEnterEvent(QDragEnterEvent* event) {
+  dragMoveEvent(event);
+}
+
+void FB_Page_Parent_ScrollView::dragMoveEvent(QDragMoveEvent* event) {
+  if (FB_Catalogue_Mime::typeOf(*event)) {
+    event->acceptProposedAction();
+  }
+}
+
+void FB_Page_Parent_ScrollView::dropEvent(QDropEvent* event) {
+  mPage->takeDrop(*event, mPage->mapFrom(viewport(), event->position().toPoint()));
 }

@@ -25,7 +25,7 @@ void FB_Rubber_Band::move(const FB_Pointer& pointer) {
   const FB_Page_Blocks& blocks = mPage.blocks();
   QSet<QUuid> touched = mKept;
   for (int i = 0; i < blocks.count(); ++i) {
-    if (mRect.intersects(blocks.rect(i))) {
+    if (blocks.isDisplayed(i) && mRect.intersects(blocks.rect(i))) {
       touched.insert(blocks.at(i).guid());
     }
   }

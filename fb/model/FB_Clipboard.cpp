@@ -7,6 +7,7 @@
 #include "fb/model/FB_Types.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QSet>
 
 #include <algorithm>
@@ -95,8 +96,17 @@ QString FB_Clipboard::mimeType() {
 QByteArray FB_Clipboard::pack(const Project_Session& session, const QList<QUuid>& blocks) {
   std::vector<const DB_FB_Control*> found;
   Edit_Result missing;
-  return FB_Edit::find(session.database(), blocks, found, missing) && !found.empty() ? FB_Packed_Blocks::pack(found)
-                                                                                     : QByteArray();
+  if (!FB_Edit::find(session.database(), blocks, found, missing) || found.empty() || found.size() > cBlockLimit) {
+    return {};
+  }
+  const QByteArray packed = FB_Packed_Blocks::pack(found);
+  return packed.size() > cSizeLimit ? QByteArray() : packed;
+}
+
+QString FB_Clipboard::limitRefusal() {
+  const QLocale locale;
+  return tr("So viel lässt sich nicht auf einmal kopieren: höchstens %1 Bausteine, die zusammen %2 belegen.")
+      .arg(locale.toString(cBlockLimit), locale.formattedDataSize(cSizeLimit, 0));
 }
 
 bool FB_Clipboard::isPacked(const QByteArray& packed) {

@@ -17,13 +17,14 @@
 /// length of its DATA text and the text.
 namespace FB_Clipboard {
 
-/// More is refused.
+/// More is refused, when copied and when pasted.
+[[nodiscard]] QString limitRefusal();
 inline constexpr quint32 cBlockLimit = 20'000;
 inline constexpr qsizetype cSizeLimit = 64 * 1024 * 1024; ///< bytes of all
 
 [[nodiscard]] QString mimeType();
 
-/// Blocks of a page, in its order.
+/// Blocks of a page, in its order; empty when that are more than could be pasted.
 [[nodiscard]] QByteArray pack(const Project_Session& session, const QList<QUuid>& blocks);
 
 /// True when this is the beginning of packed blocks; quick.

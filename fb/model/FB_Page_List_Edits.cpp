@@ -148,13 +148,16 @@ FB_Page_List_Edits::Result FB_Page_List_Edits::duplicate(Project_Session& sessio
   if (const QString reason = whyNotTwice(session, *original); !reason.isEmpty()) {
     return {Edit_Result::refused(reason), {}};
   }
+  const QByteArray packed = FB_Clipboard::pack(session, blocksOf(*original));
+  if (packed.isEmpty() && !original->mChildren.isEmpty()) {
+    return {Edit_Result::refused(FB_Clipboard::limitRefusal()), {}};
+  }
   auto copy = std::make_unique<DB_FB_Page>(*original);
   copy->mGuid = QUuid::createUuid();
   copy->mCaption = copyCaption(session.database(), original->mCaption);
   const QUuid guid = insert(session, scope, std::move(copy), page);
   if (!original->mChildren.isEmpty()) {
-    const Edit_Result pasted = FB_Clipboard::paste(session, guid, FB_Clipboard::pack(session, blocksOf(*original)),
-                                                   upperLeft(*original), keepOutputs);
+    const Edit_Result pasted = FB_Clipboard::paste(session, guid, packed, upperLeft(*original), keepOutputs);
     if (!pasted) {
       scope.deleted(session.fbPageUndo(), guid);
       [[maybe_unused]] const auto taken = list.takePage(guid);

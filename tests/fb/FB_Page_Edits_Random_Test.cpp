@@ -1,4 +1,5 @@
 #include "fb/model/FB_Clipboard.h"
+#include "fb/model/FB_Page_List_Edits.h"
 #include "tests/fb/Logic_Rig.h"
 
 #include <QCryptographicHash>
@@ -53,6 +54,7 @@ private:
   static constexpr quint32 cDefaultCount = 10'000;
 #endif
   static constexpr qsizetype cMostBlocks = 200;
+  static constexpr qsizetype cMostPages = 6;
 
   const char* where(quint32 edit, quint32 seed) {
     mWhere = QStringLiteral("edit %1, seed %2").arg(edit).arg(seed).toUtf8();
@@ -118,12 +120,33 @@ private:
     return FB_Page_Edits::move(mRig.mSession, positions);
   }
 
+  Edit_Result editPages() {
+    namespace Edits = FB_Page_List_Edits;
+    Project_Session& session = mRig.mSession;
+    const QUuid some = page().mGuid;
+    const bool mayGrow = pages().pages().size() < cMostPages && pages().childCount() < cMostBlocks;
+    switch (mayGrow ? bounded(4) : 2 + bounded(2)) {
+    case 0:
+      return Edits::create(session, {}, some);
+    case 1:
+      return Edits::duplicate(session, some, bounded(2));
+    case 2:
+      return pages().pages().size() > 1 ? Edits::remove(session, some) : Edit_Result::done();
+    default: {
+      Edits::Properties properties = Edits::properties(session, some);
+      properties.mCaption = QStringLiteral("Seite %1").arg(bounded(9));
+      properties.mIsActive = bounded(2) != 0;
+      return Edits::setProperties(session, some, properties);
+    }
+    }
+  }
+
   Edit_Result edit() {
     using namespace FB_Page_Edits;
     static constexpr int cTypes[] = {10, 11, 12, 50, 50, 51, 53, 1337};
     Project_Session& session = mRig.mSession;
     const bool isFull = pages().childCount() >= cMostBlocks;
-    switch (isFull ? 12 + bounded(8) : bounded(21)) {
+    switch (isFull ? 12 + bounded(10) : bounded(24)) {
     case 0:
     case 1:
       return create(session, page().mGuid, cTypes[bounded(std::size(cTypes))], point());
@@ -159,6 +182,10 @@ private:
       return align(session, some(), static_cast<Edge>(bounded(4)));
     case 19:
       return distribute(session, some(), bounded(2) ? Qt::Horizontal : Qt::Vertical);
+    case 20:
+      return editPages();
+    case 21:
+      return FB_Page_List_Edits::move(session, page().mGuid, bounded(pages().pages().size()));
     default: { // two in one turn
       const Edit_Result first = move();
       const Edit_Result second = remove(session, {one()});

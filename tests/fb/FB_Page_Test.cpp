@@ -14,6 +14,7 @@
 
 #include <QDropEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
@@ -144,6 +145,42 @@ private slots:
     QCOMPARE(block(mFirst).pos(), QPoint(64, 64));
   }
 
+  void whatHappensInTheMiddleOfADrag_data() {
+    QTest::addColumn<std::function<void()>>("event");
+    QTest::addColumn<int>("blocks");
+    const auto row = [](const char* name, int blocks, std::function<void()> event) {
+      QTest::newRow(name) << std::move(event) << blocks;
+    };
+    row("the block goes", 1, [this] { pages().takeChild(mFirst); });
+    row("the page goes", 0, [this] { pages().takePage(mGuid); });
+    row("undo", 2, [this] { mRig->mSession.history().undo(); });
+    row("operating mode", 2, [this] { mRig->mState.setOperatingMode(true); });
+    row("zoom", 2, [this] { mPage->zoomIn(); });
+    row("a menu has swallowed the release", 2, [this] {
+      QMouseEvent event(QEvent::MouseMove, QPointF(9, 9), mPage->mapToGlobal(QPointF(300, 300)), Qt::NoButton,
+                        Qt::NoButton, {});
+      QCoreApplication::sendEvent(&block(mFirst), &event);
+    });
+  }
+
+  void whatHappensInTheMiddleOfADrag() {
+    QFETCH(std::function<void()>, event);
+    QFETCH(int, blocks);
+    mPage->select({mSecond});
+    mPage->nudge({8, 0});
+    mRig->mSession.history().commit();
+    press({80, 80});
+    move({200, 400});
+    event();
+    release({200, 400});
+    QTRY_COMPARE(mPage->blocks().count(), blocks);
+    QVERIFY(!mPage->gesture());
+    if (blocks == 2) {
+      QCOMPARE(record(mFirst).mY, 64.0);
+      QCOMPARE(block(mFirst).y(), qRound(64 * mPage->zoom()));
+    }
+  }
+
   void arrowKeysMoveByTheGrid() {
     click({80, 80});
     key(Qt::Key_Right);
@@ -163,6 +200,7 @@ private slots:
     const QUuid variable = record(mFirst).mOutputs[0].mBinding.mKey;
     QVERIFY(!variable.isNull());
     QCOMPARE(record(mSecond).mInputs[1].mBinding.mKey, variable);
+    QVERIFY(!QGuiApplication::overrideCursor());
     // The wire's end is carried to the other input; let go over nothing it comes back.
     const QPoint end = pin({mSecond, FB_Side::Input, 1}) - QPoint(9, 0);
     drag(end, {20, 400});
@@ -225,6 +263,29 @@ private slots:
     }
   }
 
+  void dropsBesideThePageComeToItsEdge() {
+    pages().changePage(mGuid, [](DB_FB_Page& page) { page.mWidth = page.mHeight = 500; });
+    QTRY_COMPARE(mPage->size(), QSize(500, 500));
+    QMimeData data;
+    FB_Catalogue_Mime::fill(data, 51);
+    QDragEnterEvent enter({520, 100}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(mView->viewport(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(520, 100), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(mView->viewport(), &drop);
+    QCOMPARE(mPage->blocks().rect(2).topLeft(), QPointF(495, 100));
+  }
+
+  void aBlockThatIsNotDisplayedIsHiddenWithItsWires() {
+    dragPin({mFirst, FB_Side::Output, 0}, {mSecond, FB_Side::Input, 0});
+    pages().changeChild(mSecond, [](DB_FB_Control& block) { block.mDisplay = false; });
+    QTRY_VERIFY(!block(mSecond).isVisible());
+    QVERIFY(mPage->blocks().wires().at(0).mIsHidden);
+    mPage->selectAll();
+    QCOMPARE(mPage->selectedBlocks(), {mFirst});
+    QVERIFY(!mPage->blocks().pinAt(pin({mSecond, FB_Side::Input, 0})));
+  }
+
   void undoBringsBlocksBackAndSelectsThem() {
     mPage->select({mFirst});
     mPage->commands().remove()->trigger();
@@ -254,6 +315,12 @@ private slots:
     drag({80, 80}, {300, 400});
     QCOMPARE(mPage->selectedBlocks(), {mFirst}); // looking is fine
     QCOMPARE(block(mFirst).pos(), QPoint(64, 64));
+    QCOMPARE(message(), Session_State::operatingModeRefusal());
+    for (const QKeySequence::StandardKey keys : {QKeySequence::Paste, QKeySequence::Undo}) {
+      Session_State::process().setSuppressedMessage({});
+      QTest::keySequence(mView->windowHandle(), keys);
+      QCOMPARE(message(), Session_State::operatingModeRefusal());
+    }
     mPage->selectAll();
     QCOMPARE(mPage->selectedBlocks(), {mFirst});
     mPage->alignToGrid();
@@ -292,6 +359,34 @@ private slots:
     QCOMPARE(record(comment).mTitle, QStringLiteral("Flur"));
     type(QStringLiteral("Keller"), Qt::Key_Escape, {});
     QCOMPARE(record(comment).mTitle, QStringLiteral("Flur"));
+    // A window of the program takes the keyboard: what it does, it does with what was typed.
+    mPage->editText(comment);
+    QTest::keyClicks(mPage->findChild<FB_Inline_Edit*>(), QStringLiteral("Hof"));
+    QWidget other;
+    other.show();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QCOMPARE(record(comment).mTitle, QStringLiteral("Hof"));
+  }
+
+  void aVariableIsRenamedAtEveryPin() {
+    dragPin({mFirst, FB_Side::Output, 0}, {mSecond, FB_Side::Input, 0});
+    click({80, 80}, {}, Qt::RightButton);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    const auto actions = menu->actions();
+    const auto rename = std::find_if(actions.begin(), actions.end(), [](const QAction* action) {
+      return action->text() == QStringLiteral("Und Ausgang umbenennen…");
+    });
+    QVERIFY(rename != actions.end());
+    QTimer::singleShot(0, qApp, [] {
+      QWidget* const dialog = QApplication::activeModalWidget();
+      QTest::keyClicks(dialog->findChild<QLineEdit*>(), QStringLiteral("Nacht"));
+      QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    (*rename)->trigger();
+    menu->close();
+    QCOMPARE(record(mFirst).mOutputs[0].mBinding.mName, QStringLiteral("Nacht"));
+    QCOMPARE(record(mSecond).mInputs[0].mBinding.mName, QStringLiteral("Nacht"));
   }
 
   void theMenuOfThePage() {
