@@ -225,6 +225,17 @@ private slots:
     QVERIFY(!results->isVisible());
   }
 
+  void theOverviewLeadsToALogicPageAndThatToUsages() {
+    Window_Rig rig;
+    rig.show();
+    QVERIFY(rig.create());
+    QVERIFY(press(rig.mWindow, u"Programmseite öffnen"_s));
+    FB_Page* const page = rig.mWindow.findChild<Page_Tabs*>()->logicPage();
+    QVERIFY(page);
+    emit page->typeUsagesRequested(50);
+    QCOMPARE(rig.mWindow.findChild<Result_Dialog*>()->windowTitle(), u"Verwendungen: Baustein \"Und\""_s);
+  }
+
   void theTitleFollowsTheUndoPosition() {
     Window_Rig rig;
     QVERIFY(rig.create());
