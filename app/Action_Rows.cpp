@@ -240,7 +240,7 @@ constexpr Action_Row cRows[] = {
         QT_TRANSLATE_NOOP("Action_Table", "Legt eine Programmseite an"))
         .in(Menu::Program, 0).bar(Bar::Program).when(When::Editable).changes(Effect::Project),
     Row("onPageProperties", QT_TRANSLATE_NOOP("Action_Table", "Eigenschaften der Seite…"), u'E', ":/icons/gear_white.png",
-        QT_TRANSLATE_NOOP("Action_Table", "Name, Kommentar, Größe und ausführende Steuerung der gezeigten Programmseite"))
+        QT_TRANSLATE_NOOP("Action_Table", "Name, Bemerkung, Größe und ausführende Steuerung der gezeigten Programmseite"))
         .in(Menu::Program, 0).when(When::LogicEdit).changes(Effect::Dialog),
     Row("onProgramWireStyle", QT_TRANSLATE_NOOP("Action_Table", "Linienstil der Verbindungen"), u'L',
         ":/icons/wire_style_white.png",

@@ -26,6 +26,7 @@
 #include "ui/Address_View.h"
 #include "ui/Invalid_Address_Dialog.h"
 #include "ui/Project_Search_Dialog.h"
+#include "ui/Theme.h"
 #include "ui/Undo_Step.h"
 
 #include <QAction>
@@ -84,18 +85,21 @@ Main_Window_Dev::~Main_Window_Dev() {
 }
 
 /// None on a kiosk, which offers nothing to do.
-Main_Window_Base::Steps Main_Window_Dev::stepsOfWindow() const {
+Main_Window_Base::Steps Main_Window_Dev::stepsOfWindow() {
   if (isKiosk()) {
     return {};
   }
   const auto action = [this](const char* slot) { return mActions->action(QString::fromLatin1(slot)); };
+  auto* const logic = new QAction(Theme::icon(QStringLiteral("account_tree-white")), tr("Programmseite öffnen"), this);
+  logic->setStatusTip(tr("Öffnet die erste Programmseite, um Bausteine zu setzen und zu verbinden"));
+  connect(logic, &QAction::triggered, this, &Main_Window_Dev::showFirstLogicPage);
   return {{action("onMenuFileNew"), action("onMenuFileOpen"), action("onMenuFileDemo")},
           {{tr("Ein Projekt anlegen; es beginnt mit einer Programmseite und zwei Visualisierungsseiten."),
             action("onMenuFileNew")},
            {tr("Die Gruppenadressen des Gebäudes aus der ETS übernehmen."), action("onEdit_ODBC_Import")},
            {tr("Festlegen, wo das Gebäude steht."), action("onEditGeopos")},
            {tr("Jeden Befehl, jede Seite und Adresse durch Tippen finden."), action("onShowPalette")}},
-          {action("onEdit_ODBC_Import"), action("onEditGeopos")}};
+          {logic, action("onEdit_ODBC_Import"), action("onEditGeopos")}};
 }
 
 void Main_Window_Dev::makeModeMark() {

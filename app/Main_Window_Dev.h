@@ -98,7 +98,7 @@ protected:
   void closeEvent(QCloseEvent* event) override;
 
 private:
-  [[nodiscard]] Steps stepsOfWindow() const;
+  [[nodiscard]] Steps stepsOfWindow();
   void connectParts();
   void connectProjectLists();
   void connectPalette();

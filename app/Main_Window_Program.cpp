@@ -70,7 +70,9 @@ void Main_Window_Dev::followStep(const std::vector<History::Applied>& records) {
 
 void Main_Window_Dev::showFirstLogicPage() {
   const auto& pages = mSession.database().mFbPages.pages();
-  if (mSession.isOpen() && !pages.isEmpty()) {
+  if (pages.isEmpty()) {
+    showInfo(tr("Das Projekt hat keine Programmseite."));
+  } else if (mSession.isOpen()) {
     showPage(pages.at(0).mGuid);
   }
 }

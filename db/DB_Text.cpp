@@ -20,3 +20,9 @@ QString DB_Text::singleLine(const QString& text) {
 bool DB_Text::isSameLine(const QString& a, const QString& b) {
   return a == b || clean(a).simplified() == clean(b).simplified();
 }
+
+QString DB_Text::rich(const QString& text) {
+  return text.toHtmlEscaped()
+      .replace(u'\n', QStringLiteral("<br>"))
+      .replace(QStringLiteral("  "), QStringLiteral("&nbsp;&nbsp;"));
+}

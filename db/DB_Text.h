@@ -11,6 +11,9 @@ namespace DB_Text {
 /// As `clean`, with a blank for each line break and tab, and no white space at the ends.
 [[nodiscard]] QString singleLine(const QString& text);
 
+/// As rich text that shows the same: mark-up is none, lines stay lines, and two blanks do not become one.
+[[nodiscard]] QString rich(const QString& text);
+
 /// True when both are the same but for the kind and number of white space.
 [[nodiscard]] bool isSameLine(const QString& a, const QString& b);
 

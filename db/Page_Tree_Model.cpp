@@ -227,12 +227,12 @@ QVariant Page_Tree_Model::data(const QModelIndex& index, int role) const {
     return captionOf(index);
   case Qt::ToolTipRole:
     if (const DB_FB_Control* const shown = block(index)) {
-      return blockToolTip(index, *shown);
+      return blockToolTip(*shown);
     }
     return Model_Roles::toolTip(captionOf(index));
   case Model_Roles::cIconName: {
     if (index.internalId() >= cFirstPage) {
-      return QStringLiteral("plus_white");
+      return QStringLiteral("block_white");
     }
     const QString icon = pageIcon(mSession.database(), guidOf(index));
     return icon.isEmpty() ? QVariant() : icon;

@@ -47,6 +47,8 @@ public:
   struct Block_Texts {
     std::function<QString(const DB_FB_Control& block)> mTitle; ///< as it stands on the page
     Address_Usage::Type_Name mType;                            ///< display name of its type
+    /// As the how-many-th it is executed; 0 for never.
+    std::function<int(const ProjectDatabase& database, const QUuid& block)> mExecution;
   };
 
   Page_Tree_Model(Project_Session& session, Block_Texts texts, QObject* parent = nullptr);
@@ -105,7 +107,7 @@ private:
   [[nodiscard]] const QList<QUuid>& blocksOf(const DB_FB_Page& page) const;
   [[nodiscard]] const DB_FB_Control* block(const QModelIndex& index) const;
   [[nodiscard]] QString blockText(const DB_FB_Control& block) const;
-  [[nodiscard]] QString blockToolTip(const QModelIndex& index, const DB_FB_Control& block) const;
+  [[nodiscard]] QString blockToolTip(const DB_FB_Control& block) const;
   [[nodiscard]] QUuid draggedPage(const QMimeData* data) const;
 
   void onPageChanged(const QUuid& guid);

@@ -1,6 +1,6 @@
 // The blocks in the tree: what is shown of them, and how the rows follow the pages without losing what is selected or
 // expanded.
-#include "db/Model_Roles.h"
+#include "db/DB_Text.h"
 #include "db/Page_Tree_Model.h"
 #include "db/Project_Session.h"
 
@@ -42,9 +42,10 @@ QString Page_Tree_Model::blockText(const DB_FB_Control& block) const {
   return title.isEmpty() || title == type.simplified() ? type : QStringLiteral("%1 (%2)").arg(title, type);
 }
 
-QString Page_Tree_Model::blockToolTip(const QModelIndex& index, const DB_FB_Control& block) const {
-  QStringList lines{QStringLiteral("<b>%1</b>").arg(blockText(block).toHtmlEscaped()),
-                    tr("Ausführung: Seite %1, Baustein %2").arg(index.parent().row() + 1).arg(index.row() + 1)};
+QString Page_Tree_Model::blockToolTip(const DB_FB_Control& block) const {
+  const int number = mTexts.mExecution(mSession.database(), block.mGuid);
+  QStringList lines{QStringLiteral("<b>%1</b>").arg(DB_Text::rich(blockText(block))),
+                    number > 0 ? tr("Ausführung: als %1. Baustein der Steuerung").arg(number) : tr("Ausführung: nie")};
   if (block.mDisabled) {
     lines.append(tr("Der Baustein ist deaktiviert."));
   }

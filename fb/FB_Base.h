@@ -53,7 +53,7 @@ public:
   virtual void applyProperties();
   /// The user changed that parameter: a type enables the editors that depend on it.
   virtual void parameterEdited(FB_Property_Editors& editors, int index) const;
-  /// Draws the whole block: body, title, pins and what its type adds.
+  /// Draws the block as far as the painter's clip reaches: body, title, pins and what its type adds.
   virtual void paintBlock(QPainter& painter) const;
   /// Binds a pin of the copy, or with an empty binding unbinds it. Does nothing when there is no such pin.
   virtual void setBinding(FB_Side side, int index, const DB_Address_Binding& binding);

@@ -1,13 +1,15 @@
 // How a block looks and where its pins are hit.
+#include "db/ProjectDatabase.h"
 #include "fb/FB_Base.h"
 #include "fb/FB_Block_Host.h"
 #include "fb/FB_Block_Painter.h"
 #include "fb/FB_Pin_Labels.h"
+#include "fb/model/FB_Execution_Order.h"
 #include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Tool_Tip.h"
 #include "fb/model/FB_Types.h"
 
-#include <QLineF>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -42,8 +44,9 @@ FB_Body FB_Base::body() const {
   return type ? type->mBody : FB_Body::Plain;
 }
 
-void FB_Base::paintEvent(QPaintEvent*) {
+void FB_Base::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
+  painter.setClipRect(event->rect());
   paintBlock(painter);
 }
 
@@ -61,7 +64,10 @@ void FB_Base::paintBlock(QPainter& painter) const {
 }
 
 QString FB_Base::toolTipText() const {
-  return FB_Tool_Tip::of(mRecord, mHoveredInput, mHoveredOutput, mHost.isDebugToolTip());
+  const bool isDebug = mHost.isDebugToolTip();
+  return FB_Tool_Tip::of(mRecord, mHoveredInput, mHoveredOutput,
+                         isDebug ? std::optional(FB_Execution_Order::ofBlock(mHost.database(), mRecord.mGuid))
+                                 : std::nullopt);
 }
 
 void FB_Base::paintLabels(QPainter& painter) const {

@@ -2,7 +2,6 @@
 
 #include "fb/FB_Base.h"
 #include "fb/FB_Texts.h"
-#include "fb/model/FB_Geometry.h"
 
 #include <QPainter>
 
@@ -60,6 +59,10 @@ double FB_Block_Painter::padding() const {
   return std::max(cPadding * mGrid, cSelectedWidth + 1); // the highlight covers no letters
 }
 
+bool FB_Block_Painter::isOneRow() const {
+  return mBlock.height() < 1.5 * mGrid;
+}
+
 QRectF FB_Block_Painter::bodyRect(FB_Body body) const {
   if (body == FB_Body::None) {
     return mBlock.rect();
@@ -82,7 +85,7 @@ void FB_Block_Painter::drawBody(FB_Body body) const {
     break;
   }
   if (mBlock.record().mDisabled) {
-    hatch(rect.adjusted(0, rect.height() > mGrid * 1.5 ? FB_Geometry::cTitleBand * mGrid : 0, 0, 0));
+    hatch(rect.adjusted(0, isOneRow() ? 0 : FB_Geometry::cTitleBand * mGrid, 0, 0));
   }
 }
 
@@ -97,6 +100,11 @@ void FB_Block_Painter::hatch(const QRectF& rect) const {
   }
   mPainter.drawLines(lines);
   mPainter.restore();
+}
+
+FB_Geometry::Rows FB_Block_Painter::rows(size_t count) const {
+  const QRectF part = mPainter.hasClipping() ? mPainter.clipBoundingRect() : QRectF(mBlock.rect());
+  return FB_Geometry::rowsBetween(part.top(), part.bottom(), count, mGrid);
 }
 
 void FB_Block_Painter::drawTitle() const {
@@ -124,8 +132,9 @@ void FB_Block_Painter::drawPins() const {
   for (const FB_Side side : {FB_Side::Input, FB_Side::Output}) {
     const DB_FB_Control& record = mBlock.record();
     const std::vector<DB_FB_Pin>& pins = side == FB_Side::Input ? record.mInputs : record.mOutputs;
-    for (size_t i = 0; i < pins.size(); ++i) {
-      drawPin(pins[i], side, static_cast<int>(i));
+    const FB_Geometry::Rows shown = rows(pins.size());
+    for (int i = shown.mFirst; i < shown.mEnd; ++i) {
+      drawPin(pins[static_cast<size_t>(i)], side, i);
     }
   }
 }
@@ -154,10 +163,10 @@ void FB_Block_Painter::drawPin(const DB_FB_Pin& pin, FB_Side side, int index) co
 void FB_Block_Painter::drawPinNames() const {
   const QRectF body = bodyRect(FB_Body::Plain).adjusted(padding(), 0, -padding(), 0);
   const DB_FB_Control& record = mBlock.record();
-  const size_t rows = std::max(record.mInputs.size(), record.mOutputs.size());
+  const FB_Geometry::Rows shown = rows(std::max(record.mInputs.size(), record.mOutputs.size()));
   const double most = body.width() - padding();
   mPainter.setPen(color(Role::SecondaryText));
-  for (size_t i = 0; i < rows; ++i) {
+  for (auto i = static_cast<size_t>(shown.mFirst); i < static_cast<size_t>(shown.mEnd); ++i) {
     const QString left = i < record.mInputs.size() ? record.mInputs[i].mShortName : QString();
     const QString right = i < record.mOutputs.size() ? record.mOutputs[i].mShortName : QString();
     double leftWidth = body.width();
@@ -184,7 +193,7 @@ void FB_Block_Painter::drawFrame(FB_Body body) const {
     return;
   }
   QPen pen = framePen(isSelected);
-  if (body == FB_Body::None) {
+  if (body == FB_Body::None && isOneRow()) {
     pen.setWidthF(std::min(cSelectedWidth, mGrid / 8)); // a row of a small page has no room for more
   }
   const double inset = pen.widthF() / 2;
@@ -198,10 +207,10 @@ void FB_Block_Painter::drawBodyText(const QString& text) const {
     return;
   }
   const QRectF whole = mBlock.rect();
-  const bool isTitled = whole.height() > mGrid * 1.5;
   mPainter.setPen(color(Role::Text));
-  drawText(whole.adjusted(cMargin * mGrid + 2, isTitled ? FB_Geometry::cTitleBand * mGrid : 0, -cMargin * mGrid - 2, 0),
-           Qt::AlignCenter, text);
+  drawText(
+      whole.adjusted(cMargin * mGrid + 2, isOneRow() ? 0 : FB_Geometry::cTitleBand * mGrid, -cMargin * mGrid - 2, 0),
+      Qt::AlignCenter, text);
 }
 
 void FB_Block_Painter::drawText(const QRectF& rect, Qt::Alignment alignment, const QString& text,

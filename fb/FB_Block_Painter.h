@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fb/model/FB_Type.h"
+#include "fb/model/FB_Geometry.h"
 #include "ui/Theme.h"
 
 #include <QRectF>
@@ -44,6 +44,10 @@ private:
   /// Pixels between the body's edge and texts.
   [[nodiscard]] double padding() const;
   void hatch(const QRectF& rect) const;
+  /// It has no title band.
+  [[nodiscard]] bool isOneRow() const;
+  /// Of so many rows of pins, those that are painted now: a block may have thousands.
+  [[nodiscard]] FB_Geometry::Rows rows(size_t count) const;
 
   QPainter& mPainter;
   const FB_Base& mBlock;

@@ -1,5 +1,6 @@
 #include "fb/FB_Catalogue_Tip.h"
 
+#include "db/DB_Text.h"
 #include "fb/model/FB_Types.h"
 
 #include <QCoreApplication>
@@ -46,7 +47,7 @@ void addLine(QStringList& lines, const QString& title, const QString& text) {
 } // namespace
 
 QString FB_Catalogue_Tip::of(const FB_Type& type) {
-  QStringList lines{QStringLiteral("<b>%1</b>").arg(FB_Types::name(type.mId).toHtmlEscaped()),
+  QStringList lines{QStringLiteral("<b>%1</b>").arg(DB_Text::rich(FB_Types::name(type.mId))),
                     tr("Bausteintyp %1").arg(type.mId)};
   if (type.mHasPins) {
     addLine(lines, tr("Eingänge: %1"), pinNames(type, FB_Side::Input));

@@ -4,6 +4,7 @@
 #include "fb/FB_Block_Painter.h"
 #include "fb/model/FB_Geometry.h"
 
+#include <QLocale>
 #include <QPainter>
 
 namespace {
@@ -11,10 +12,19 @@ namespace {
 constexpr double cPadding = 0.75; ///< grid units at the left and right of the rows
 constexpr double cNamePart = 0.4; ///< of a row's width
 
+constexpr int cFirstValue = 1; ///< parameter of the first output's value
+
 } // namespace
 
 void FB_Debug_SetValue::valuesChanged() {
   update();
+}
+
+QString FB_Debug_SetValue::preset(int output) const {
+  const QString text = record().mParams.value(cFirstValue + output);
+  bool isNumber = false;
+  const double number = text.toDouble(&isNumber);
+  return isNumber ? QLocale().toString(number, 'f', QLocale::FloatingPointShortest) : text.simplified();
 }
 
 void FB_Debug_SetValue::paintContent(QPainter& painter) const {
@@ -31,8 +41,8 @@ void FB_Debug_SetValue::paintContent(QPainter& painter) const {
     block.drawText({padding, top, nameWidth, grid()}, Qt::AlignLeft | Qt::AlignVCenter,
                    record().mOutputs[i].mShortName);
     const QString value = host().valueOf(record().mOutputs[i].mBinding).simplified();
-    painter.setPen(block.color(Theme::Role::Text));
+    painter.setPen(block.color(value.isEmpty() ? Theme::Role::SecondaryText : Theme::Role::Text));
     block.drawText({padding + nameWidth, top, width - nameWidth, grid()}, Qt::AlignRight | Qt::AlignVCenter,
-                   value.isEmpty() ? QStringLiteral("–") : value);
+                   value.isEmpty() ? preset(i) : value);
   }
 }

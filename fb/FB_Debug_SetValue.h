@@ -2,7 +2,8 @@
 
 #include "fb/FB_Base.h"
 
-/// Presets the values of its outputs: a row for each of them, with the value that is there.
+/// Presets the values of its outputs: a row for each of them, with the value that is there, or in a paler
+/// colour the one that will be sent.
 class FB_Debug_SetValue : public FB_Base {
   Q_OBJECT
 
@@ -11,4 +12,6 @@ public:
 
   void valuesChanged() override;
   void paintContent(QPainter& painter) const override;
+  /// What its parameters say for that output.
+  [[nodiscard]] QString preset(int output) const;
 };

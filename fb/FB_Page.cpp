@@ -12,6 +12,8 @@
 #include "fb/model/FB_Types.h"
 #include "ui/Message_Box.h"
 
+#include <QTimer>
+
 #include <algorithm>
 #include <utility>
 
@@ -37,6 +39,12 @@ FB_Page::FB_Page(Project_Session& session, App_Settings& settings, const QUuid& 
   updateSize();
   mCommands->update();
   connect(mFollower, &FB_Page_Follower::changed, this, &FB_Page::follow);
+  auto* const addresses = new QTimer(this); // those that change in one turn are taken over once
+  addresses->setSingleShot(true);
+  connect(addresses, &QTimer::timeout, this, &FB_Page::refreshBindings);
+  const Address_Tree& tree = session.database().mAddresses;
+  connect(&tree, &Address_Tree::recordChanged, addresses, qOverload<>(&QTimer::start));
+  connect(&tree, &Address_Tree::structureChanged, addresses, qOverload<>(&QTimer::start));
   connect(&session.history(), &History::stepApplied, this, &FB_Page::onStepApplied);
   connect(mAutoScroll, &FB_Auto_Scroll::scrolled, this, &FB_Page::onScrolled);
   connect(mLinks, &FB_Page_Links::changed, this, qOverload<>(&QWidget::update));
@@ -77,6 +85,14 @@ void FB_Page::follow(const QSet<QUuid>& changed, bool arePagesChanged) {
       tellSelection();
     }
     emit pageChanged();
+  }
+  update();
+}
+
+/// Addresses have other names or numbers: the records are up to date, the blocks' copies become so.
+void FB_Page::refreshBindings() {
+  for (int i = 0; i < mBlocks.count(); ++i) {
+    mBlocks.at(i).refreshBindings();
   }
   update();
 }

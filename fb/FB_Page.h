@@ -205,6 +205,7 @@ private:
   void setTenths(int tenths, const QPointF& anchor);
   void zoomTo(const QRectF& rect);
   void follow(const QSet<QUuid>& changed, bool arePagesChanged);
+  void refreshBindings();
   void onStepApplied(const std::vector<History::Applied>& records);
   void onSettingChanged();
   void openPageMenu(const QPoint& screen);

@@ -13,6 +13,7 @@
 void FB_Page::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const QRectF region = event->region().boundingRect();
+  painter.setClipRect(region); // tells the parts below what need not be drawn
   const DB_FB_Page* const page = mBlocks.page();
   FB_Page_Ground::Look look{zoom(), size(), !page || page->mActive, mSettings.isOn(Setting::ShowGrid)};
   FB_Page_Ground::paint(painter, region, look);

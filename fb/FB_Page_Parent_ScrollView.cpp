@@ -44,6 +44,11 @@ FB_Page_Parent_ScrollView::FB_Page_Parent_ScrollView(FB_Page* page, QWidget* par
   updateNotices();
 }
 
+/// A scroll area would bring what it thinks has the focus into view: the whole page, that is, its middle.
+bool FB_Page_Parent_ScrollView::focusNextPrevChild(bool next) {
+  return QAbstractScrollArea::focusNextPrevChild(next);
+}
+
 void FB_Page_Parent_ScrollView::setConnectedController(std::optional<int> number) {
   mController = number;
   updateNotices();

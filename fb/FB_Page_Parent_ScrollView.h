@@ -21,6 +21,7 @@ public:
   void setConnectedController(std::optional<int> number);
 
 protected:
+  bool focusNextPrevChild(bool next) override;
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   // Blocks may be dropped beside the page, too: they come to its edge.

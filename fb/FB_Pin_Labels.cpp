@@ -3,6 +3,7 @@
 #include "fb/FB_Base.h"
 #include "fb/FB_Block_Host.h"
 #include "fb/FB_Texts.h"
+#include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Pin_Text.h"
 #include "ui/Theme.h"
 
@@ -106,11 +107,13 @@ FB_Pin_Labels::Row FB_Pin_Labels::rowOf(FB_Side side, int index, double column) 
 }
 
 template <class On_Row>
-void FB_Pin_Labels::visit(On_Row&& onRow) const {
+void FB_Pin_Labels::visit(double top, double bottom, On_Row&& onRow) const {
+  const double edge = mBlock.record().mY * mHost.zoom();
   for (const FB_Side side : {FB_Side::Input, FB_Side::Output}) {
     const std::vector<DB_FB_Pin>& pins = pinsOf(mBlock, side);
     const double column = valueColumn(side);
-    for (int i = 0; i < static_cast<int>(pins.size()); ++i) {
+    const FB_Geometry::Rows shown = FB_Geometry::rowsBetween(top - edge, bottom - edge, pins.size(), mGrid);
+    for (int i = shown.mFirst; i < shown.mEnd; ++i) {
       if (pins[i].mBinding.mKind != DB_Address_Binding::Kind::None &&
           onRow(FB_Pin_Ref{mBlock.guid(), side, i}, pins[i].mBinding, rowOf(side, i, column))) {
         return;
@@ -125,7 +128,8 @@ void FB_Pin_Labels::paint(QPainter& painter) const {
   const double padding = cGap * mGrid;
   QColor ground = Theme::color(Role::Canvas);
   ground.setAlpha(cGroundAlpha);
-  visit([&](const FB_Pin_Ref& pin, const DB_Address_Binding& binding, const Row& row) {
+  const QRectF part = painter.hasClipping() ? painter.clipBoundingRect() : rect(mBlock);
+  visit(part.top(), part.bottom(), [&](const FB_Pin_Ref& pin, const DB_Address_Binding& binding, const Row& row) {
     const Qt::Alignment alignment = (pin.mSide == FB_Side::Input ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
     if (!row.mValue.mRect.isNull()) {
       painter.setPen(QPen(Theme::color(Role::Border), 1));
@@ -147,7 +151,7 @@ void FB_Pin_Labels::paint(QPainter& painter) const {
 
 std::optional<FB_Pin_Ref> FB_Pin_Labels::linkAt(const QPointF& point) const {
   std::optional<FB_Pin_Ref> found;
-  visit([&](const FB_Pin_Ref& pin, const DB_Address_Binding&, const Row& row) {
+  visit(point.y(), point.y(), [&](const FB_Pin_Ref& pin, const DB_Address_Binding&, const Row& row) {
     if (row.mLink.mRect.contains(point)) {
       found = pin;
     }

@@ -18,6 +18,7 @@ class FB_Pin_Labels {
 public:
   FB_Pin_Labels(const FB_Base& block, const FB_Block_Host& host);
 
+  /// As far as the painter's clip reaches.
   void paint(QPainter& painter) const;
   /// Nothing is painted outside of that. Quick: a page asks it of all of its blocks.
   [[nodiscard]] static QRectF rect(const FB_Base& block);
@@ -38,9 +39,10 @@ private:
   [[nodiscard]] Row rowOf(FB_Side side, int index, double column) const;
   [[nodiscard]] QString valueText(const DB_Address_Binding& binding) const;
   [[nodiscard]] double valueColumn(FB_Side side) const;
-  /// Calls `onRow` with the reference and row of each pin that is bound; ends when that returns true.
+  /// Calls `onRow` with the reference and row of each pin that is bound and may be seen between these heights of the
+  /// canvas; ends when that returns true.
   template <class On_Row>
-  void visit(On_Row&& onRow) const;
+  void visit(double top, double bottom, On_Row&& onRow) const;
 
   const FB_Base& mBlock;
   const FB_Block_Host& mHost;

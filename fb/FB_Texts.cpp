@@ -8,6 +8,15 @@ namespace {
 
 constexpr double cFontHeight = 0.7; ///< of the grid
 constexpr qsizetype cMostEntries = 8192;
+constexpr qsizetype cMostCharacters = 500; // shaping takes its time; no line on a page is that long
+
+/// What the toolkit would break a line at stands in names of old and foreign projects.
+QString oneLine(const QString& text) {
+  QString line = text.first(std::min(text.size(), cMostCharacters));
+  std::ranges::replace_if(
+      line, [](QChar letter) { return letter < u' ' || letter == QChar::LineSeparator || letter == u'\u2029'; }, u' ');
+  return line;
+}
 
 } // namespace
 
@@ -38,7 +47,7 @@ void FB_Texts::draw(QPainter& painter, const QRectF& rect, Qt::Alignment alignme
   Entry* shown = &entry(text);
   if (shown->mWidth > rect.width()) {
     if (shown->mElidedWidth != rect.width()) {
-      shown->mElided = mMetrics.elidedText(text, mode, rect.width());
+      shown->mElided = mMetrics.elidedText(shown->mText.text(), mode, rect.width());
       shown->mElidedWidth = rect.width();
     }
     const QString elided = shown->mElided;
@@ -63,7 +72,7 @@ FB_Texts::Entry& FB_Texts::entry(const QString& text) {
     mEntries.clear();
   }
   Entry made;
-  made.mText.setText(text);
+  made.mText.setText(oneLine(text));
   made.mText.setTextFormat(Qt::PlainText);
   made.mText.prepare({}, mFont);
   made.mWidth = made.mText.size().width();

@@ -1,14 +1,11 @@
 #include "fb/FB_Wires.h"
 
-#include "base/Group_Address.h"
 #include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Pins.h"
 #include "ui/Theme.h"
 
-#include <QHash>
 #include <QPainter>
 #include <QPainterPathStroker>
-#include <QUuid>
 
 #include <algorithm>
 #include <cmath>
@@ -43,20 +40,14 @@ void FB_Wires::rebuild(const DB_FB_Page& page) {
   mCourses.clear();
   mCourses.reserve(entries.size());
   mBoxes.resize(entries.size());
-  QHash<std::pair<QUuid, Group_Address>, int> nets;
   for (const FB_Connections::Entry& entry : entries) {
     const DB_FB_Control& from = page.mChildren.at(entry.mSource);
     const DB_FB_Control& to = page.mChildren.at(entry.mTarget);
     const DB_Address_Binding& binding = from.mOutputs[static_cast<size_t>(entry.mOutput)].mBinding;
     const int index = count();
     mWires.push_back({entry, !from.mDisplay || !to.mDisplay, binding.mKind == DB_Address_Binding::Kind::GroupAddress});
-    const std::pair identity(binding.mKey, binding.mKey.isNull()
-                                               ? Group_Address(binding.mMain, binding.mMiddle, binding.mSub)
-                                               : Group_Address()); // older records have addresses without a key
-    const auto known = nets.constFind(identity);
-    const int net = known != nets.cend() ? *known : *nets.insert(identity, static_cast<int>(nets.size()));
     const QPointF source = pinOf(entry.mSource, FB_Side::Output, entry.mOutput);
-    mCourses.push_back({source, pinOf(entry.mTarget, FB_Side::Input, entry.mInput), net, {}, {}});
+    mCourses.push_back({source, pinOf(entry.mTarget, FB_Side::Input, entry.mInput), entry.mNet, {}, {}});
     mBlocks[static_cast<size_t>(entry.mSource)].mWires.push_back(index);
     mBlocks[static_cast<size_t>(entry.mTarget)].mWires.push_back(index);
   }

@@ -3,10 +3,13 @@
 #include "db/Address_Tree_Model.h"
 #include "db/Project_Session.h"
 #include "ui/Address_Cell_Delegate.h"
+#include "ui/Drag_Label.h"
 #include "ui/Theme.h"
 
+#include <QDrag>
 #include <QHeaderView>
 #include <QMenu>
+#include <QMimeData>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -110,6 +113,25 @@ void Address_Tree_View::updateCommands() {
 }
 
 /// An edit that moved its row has built the rows anew, and that has closed the editor already.
+/// The usual picture, a whole row, would hide the pin that one aims at. What was moved is made anew by the model.
+void Address_Tree_View::startDrag(Qt::DropActions actions) {
+  QModelIndexList dragged = selectionModel()->selectedIndexes();
+  dragged.removeIf([](const QModelIndex& index) { return !index.flags().testFlag(Qt::ItemIsDragEnabled); });
+  QMimeData* const data = dragged.isEmpty() ? nullptr : mModel.mimeData(dragged);
+  if (!data) {
+    return;
+  }
+  const QModelIndexList rows = selectionModel()->selectedRows();
+  const QModelIndex first = rows.value(0);
+  const QString name = first.siblingAtColumn(Address_Rows::cName).data().toString();
+  auto* const drag = new QDrag(this);
+  drag->setMimeData(data);
+  drag->setPixmap(Drag_Label::picture(*this, rows.size() == 1 ? first.data().toString() + u' ' + name
+                                                              : tr("%1 Zeilen").arg(rows.size())));
+  drag->setHotSpot(Drag_Label::hotSpot());
+  drag->exec(actions & ~Qt::DropActions(Qt::CopyAction), Qt::MoveAction);
+}
+
 void Address_Tree_View::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
   const bool isTab = hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem;
   if (!editor->isHidden()) {

@@ -47,6 +47,7 @@ signals:
 protected:
   void updateCommands() override;
   void onCopy() override;
+  void startDrag(Qt::DropActions actions) override;
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:

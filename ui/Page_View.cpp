@@ -2,6 +2,7 @@
 
 #include "db/Page_Tree_Model.h"
 #include "db/Project_Session.h"
+#include "fb/model/FB_Execution_Order.h"
 #include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Types.h"
 #include "ui/Empty_Hint.h"
@@ -24,7 +25,7 @@ constexpr int cAnyHeight = 1000; // the splitter keeps the ratio only
 Page_View::Page_View(Project_Session& session, QWidget* parent)
     : QWidget(parent),
       mSession(session),
-      mModel(new Page_Tree_Model(session, {&FB_Geometry::title, &FB_Types::name}, this)),
+      mModel(new Page_Tree_Model(session, {&FB_Geometry::title, &FB_Types::name, &FB_Execution_Order::ofBlock}, this)),
       mSplitter(new QSplitter(Qt::Vertical)),
       mTreeOrHint(new QStackedWidget),
       mPanels(new QTabWidget),

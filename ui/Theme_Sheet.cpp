@@ -34,6 +34,7 @@ QToolButton:checked { background: @Accent@; color: @AccentText@; }
 QToolButton:focus { border-color: @Accent@; }
 QToolButton:checked:focus { border-color: @AccentText@; }
 QToolButton:disabled { color: @DisabledText@; }
+QToolButton:checked:disabled { background: @Button@; border-color: @Border@; }
 QToolButton::menu-button { border: none; width: 14px; }
 QToolButton#qt_toolbar_ext_button, QToolButton#qt_menubar_ext_button { padding: 0px; border: none; }
 QTabBar QToolButton { background: @Button@; padding: 0px; }

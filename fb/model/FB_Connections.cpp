@@ -110,7 +110,7 @@ std::vector<FB_Connections::Entry> FB_Connections::of(const DB_FB_Page& page) {
     for (int at = pins.firstInput(output); at != Pins::cNone; at = pins.input(at).mNext) {
       const Pins::Pin& input = pins.input(at);
       if (input.mBlock != output.mBlock) {
-        entries.push_back({output.mBlock, output.mIndex, input.mBlock, input.mIndex});
+        entries.push_back({output.mBlock, output.mIndex, input.mBlock, input.mIndex, output.mIdentity});
       }
       if (entries.size() == cLimit) {
         return entries;

@@ -19,6 +19,7 @@ struct Entry {
   int mOutput = 0;
   int mTarget = 0;
   int mInput = 0;
+  int mNet = 0; ///< number of what the pins are bound to: all connections through one variable or address have the same
   friend bool operator==(const Entry&, const Entry&) = default;
 };
 

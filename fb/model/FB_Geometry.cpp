@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -24,7 +25,7 @@ qsizetype longestShortName(const std::vector<DB_FB_Pin>& pins) {
   for (const DB_FB_Pin& pin : pins) {
     longest = std::max(longest, pin.mShortName.size());
   }
-  return longest;
+  return std::min(longest, FB_Geometry::cPinNameLength);
 }
 
 /// Appends a paragraph in lines, broken at blanks where there are some. Stops when there is a line too many.
@@ -106,4 +107,12 @@ QPointF FB_Geometry::pin(const DB_FB_Control& block, FB_Side side, int index, do
 QPointF FB_Geometry::pin(int type, FB_Side side, int index, double width, double grid) {
   const double y = isOneRow(type) ? cRowHeight / 2 : 2 + index;
   return {side == FB_Side::Input ? 0 : width, y * grid};
+}
+
+FB_Geometry::Rows FB_Geometry::rowsBetween(double top, double bottom, size_t count, double grid) {
+  constexpr double cAbove = 2; // a row's middle stands so far below the edge, or less
+  constexpr double cSpare = 2; // half of the row itself, and the next one
+  const auto all = static_cast<double>(count);
+  return {static_cast<int>(std::clamp(std::floor(top / grid - cAbove - cSpare), 0.0, all)),
+          static_cast<int>(std::clamp(std::ceil(bottom / grid + cSpare), 0.0, all))};
 }

@@ -21,6 +21,8 @@ inline constexpr double cGrid = 16;
 inline constexpr double cTitleBand = 1.25;
 /// So many characters of a title are shown at most.
 inline constexpr int cTitleLength = 120;
+/// So many characters of a pin's short name make the block wider at most.
+inline constexpr qsizetype cPinNameLength = 40;
 /// The text of a comment block is wrapped behind so many characters, and ends after so many lines.
 inline constexpr int cCommentWidth = 60;
 inline constexpr int cCommentLines = 40;
@@ -40,5 +42,14 @@ inline constexpr int cCommentLines = 40;
 [[nodiscard]] QPointF pin(const DB_FB_Control& block, FB_Side side, int index, double grid = cGrid);
 /// The same for a block whose width is known.
 [[nodiscard]] QPointF pin(int type, FB_Side side, int index, double width, double grid);
+
+/// Rows of pins, from `mFirst` to before `mEnd`.
+struct Rows {
+  int mFirst = 0;
+  int mEnd = 0;
+};
+/// Of so many, those that may be seen between two heights below the block's upper edge, with one to spare on both
+/// sides.
+[[nodiscard]] Rows rowsBetween(double top, double bottom, size_t count, double grid);
 
 } // namespace FB_Geometry

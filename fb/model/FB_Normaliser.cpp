@@ -1,8 +1,11 @@
 #include "fb/model/FB_Normaliser.h"
 
+#include "fb/model/FB_Page_List_Edits.h"
 #include "fb/model/FB_Pins.h"
+#include "fb/model/FB_Positions.h"
 #include "fb/model/FB_Types.h"
 
+#include <algorithm>
 #include <utility>
 
 void FB_Normaliser::makeStandIn(DB_FB_Control& block) {
@@ -19,10 +22,12 @@ void FB_Normaliser::normalise(DB_FB_Control& block, Result& result) {
   } else if (isStandIn) {
     ++result.mUnknown;
   } else if (!FB_Types::find(block.mType)) {
-    block.mOriginalType = std::exchange(block.mType, FB_Types::cComment);
-    block.mOriginalTitle = std::exchange(block.mTitle, {});
+    makeStandIn(block);
     ++result.mUnknown;
   }
+  const QPointF position = FB_Positions::clamped({block.mX, block.mY});
+  block.mX = position.x();
+  block.mY = position.y();
   if (!FB_Pins::isBuilt(block)) {
     FB_Pins::rebuild(block);
     ++result.mRebuilt;
@@ -31,7 +36,10 @@ void FB_Normaliser::normalise(DB_FB_Control& block, Result& result) {
 
 FB_Normaliser::Result FB_Normaliser::normalise(const DB_Page_List<DB_FB_Page>& pages) {
   Result result;
+  using namespace FB_Page_List_Edits;
   for (const auto& page : pages.pages()) {
+    page->mWidth = std::clamp(page->mWidth, cSizeMinimum, cSizeMaximum);
+    page->mHeight = std::clamp(page->mHeight, cSizeMinimum, cSizeMaximum);
     for (const auto& block : page->mChildren) {
       normalise(*block, result);
     }

@@ -8,6 +8,7 @@
 ///
 /// A block of a type that this studio does not know becomes a comment that keeps its original type and title; a studio
 /// that knows the type gives them back. Parameters and pins become as the type declares them (`FB_Pins::rebuild`).
+/// Positions and sizes of pages that no edit would accept become the nearest that one would.
 namespace FB_Normaliser {
 
 struct Result {

@@ -33,7 +33,9 @@ private:
   };
   [[nodiscard]] Cell cellOf(const QPointF& point) const;
   /// Index of the cell in `mFirst`.
-  [[nodiscard]] size_t place(int column, int row) const { return static_cast<size_t>(row * mColumns + column); }
+  [[nodiscard]] size_t place(int column, int row) const {
+    return static_cast<size_t>(row) * static_cast<size_t>(mColumns) + static_cast<size_t>(column);
+  }
 
   std::vector<QRectF> mObstacles;
   QSizeF mLargest{0, 0};

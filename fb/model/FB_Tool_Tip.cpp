@@ -1,5 +1,6 @@
 #include "fb/model/FB_Tool_Tip.h"
 
+#include "db/DB_Text.h"
 #include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Pin_Text.h"
 #include "fb/model/FB_Types.h"
@@ -17,7 +18,7 @@ QString tr(const char* text) {
 QString escaped(const QString& text) {
   const bool isLong = text.size() > cLongest;
   const QString shown = isLong ? text.first(cLongest - 1) + u'…' : text;
-  return shown.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>"));
+  return DB_Text::rich(shown);
 }
 
 /// What tells the block from others of its type.
@@ -62,16 +63,16 @@ const DB_FB_Pin* pinAt(const std::vector<DB_FB_Pin>& pins, int index) {
 
 } // namespace
 
-QString FB_Tool_Tip::of(const DB_FB_Control& block, int input, int output, bool isDebug) {
+QString FB_Tool_Tip::of(const DB_FB_Control& block, int input, int output, std::optional<int> executionNumber) {
   QString text = head(block);
   if (const DB_FB_Pin* const pin = pinAt(block.mInputs, input)) {
     text += describe(*pin);
   } else if (const DB_FB_Pin* const other = pinAt(block.mOutputs, output)) {
     text += describe(*other);
   }
-  if (isDebug) {
+  if (executionNumber) {
     text += QStringLiteral("<br>Call#: %1<br>GUID: %2<br>")
-                .arg(QString::number(block.mExecutionNumber), block.mGuid.toString(QUuid::WithoutBraces));
+                .arg(QString::number(*executionNumber), block.mGuid.toString(QUuid::WithoutBraces));
   }
   return text;
 }

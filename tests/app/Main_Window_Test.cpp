@@ -225,6 +225,22 @@ private slots:
     QVERIFY(!results->isVisible());
   }
 
+  void theOverviewLeadsToALogicPageAndThatToUsages() {
+    Window_Rig rig;
+    rig.show();
+    QVERIFY(rig.create());
+    QVERIFY(press(rig.mWindow, u"Programmseite öffnen"_s));
+    FB_Page* const page = rig.mWindow.findChild<Page_Tabs*>()->logicPage();
+    QVERIFY(page);
+    page->setFocus();
+    QTRY_VERIFY(page->hasFocus());
+    QTest::keyClick(page, Qt::Key_Tab);
+    QVERIFY(!page->hasFocus());
+    QCOMPARE(page->pos(), QPoint()); // the place stays when Tab leaves
+    emit page->typeUsagesRequested(50);
+    QCOMPARE(rig.mWindow.findChild<Result_Dialog*>()->windowTitle(), u"Verwendungen: Baustein \"Und\""_s);
+  }
+
   void theTitleFollowsTheUndoPosition() {
     Window_Rig rig;
     QVERIFY(rig.create());

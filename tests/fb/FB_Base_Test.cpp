@@ -106,6 +106,8 @@ private slots:
     row("short comment", 10, 0, 0, QStringLiteral("Kurz"), {}, 8, 2);
     row("comment of two lines", 10, 0, 0, QStringLiteral("Eins\n") + QString(40, u'T'), {}, 20, 3);
     row("wrapped comment", 10, 0, 0, QString(30, u'a') + u' ' + QString(40, u'b'), {}, 20, 3);
+    row("short name of 100,000 characters", 50, 1, 0, {}, QString(100000, u'S'), 30, 3);
+    row("5,000 pins", 900, 5000, 0, {}, {}, 10, 5002);
     row("comment of 5,000 characters", 10, 0, 0, QString(5000, u'T'), {}, 30, 42);
   }
   void size() {
@@ -167,7 +169,7 @@ private slots:
     QTest::newRow("output") << -1 << 0 << false << head + QStringLiteral("Ausgang 1<br>Variable:V1<br><br>");
     QTest::newRow("both: the input speaks") << 0 << 0 << false << head + input;
     QTest::newRow("debug") << -1 << -1 << true
-                           << head + QStringLiteral("<br>Call#: 7<br>GUID: 12345678-0000-0000-0000-000000000000<br>");
+                           << head + QStringLiteral("<br>Call#: 0<br>GUID: 12345678-0000-0000-0000-000000000000<br>");
   }
   void toolTip() {
     QFETCH(int, input);
@@ -177,13 +179,18 @@ private slots:
     host.mIsDebug = isDebug;
     DB_FB_Control record = makeBlock(50, 2, 1, QStringLiteral("a <b> & c"));
     record.mGuid = QUuid(QStringLiteral("12345678-0000-0000-0000-000000000000"));
-    record.mExecutionNumber = 7;
     record.mInputs[0].mBinding = addressBinding(QStringLiteral("Licht <Küche>"));
     record.mOutputs[0].mBinding.mKind = DB_Address_Binding::Kind::Internal;
     record.mOutputs[0].mBinding.mName = QStringLiteral("V1");
     FB_Base block(nullptr, host, record);
     block.setHoveredPins(input, output);
     QTEST(block.toolTipText(), "text");
+  }
+
+  void theToolTipKeepsTheBlanksOfAName() {
+    Host host;
+    const FB_Base block(nullptr, host, makeBlock(202, 0, 0, QStringLiteral("a\nb")));
+    QCOMPARE(block.toolTipText(), QStringLiteral("<b>[202] &gt;&nbsp;&nbsp;Größer (2xE) (a<br>b)</b><br>"));
   }
 
   void theToolTipOfAStandInNamesTheOriginalType() {
@@ -205,6 +212,7 @@ private slots:
     QTest::newRow("selected frame") << 50 << true << edge + QPoint(1, 0) << qRgb(202, 192, 0);
     QTest::newRow("body") << 50 << false << edge + QPoint(2, 0) << cBody;
     QTest::newRow("margin") << 50 << false << edge - QPoint(2, 0) << qRgba(0, 0, 0, 0);
+    QTest::newRow("unframed, selected") << 1330 << true << QPoint(2, 28) << qRgb(202, 192, 0);
     QTest::newRow("body up to the top") << 50 << false << QPoint(64, 0) << qRgb(255, 255, 255);
   }
   void pixel() {

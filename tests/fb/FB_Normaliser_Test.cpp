@@ -1,4 +1,6 @@
 #include "fb/model/FB_Normaliser.h"
+#include "fb/model/FB_Page_Edits.h"
+#include "fb/model/FB_Page_List_Edits.h"
 #include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Types.h"
 #include "tests/db/Project_Dump.h"
@@ -60,6 +62,32 @@ private slots:
     QCOMPARE(pages.child(right)->mInputs[0].mLongName, QStringLiteral("Input 1"));
     QVERIFY(!rig.mSession.isModified());
     QCOMPARE(FB_Normaliser::normalise(pages).mRebuilt, 0);
+  }
+
+  void placesThatNobodyReachesAreCorrected_data() {
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("corrected");
+    QTest::newRow("right") << -12.5 << -12.5;
+    QTest::newRow("far") << 1e300 << double(FB_Page_Edits::cPositionLimit);
+    QTest::newRow("far left") << -1e12 << -double(FB_Page_Edits::cPositionLimit);
+    QTest::newRow("no number") << qQNaN() << 0.0;
+  }
+  void placesThatNobodyReachesAreCorrected() {
+    QFETCH(double, x);
+    Session_Rig rig;
+    QVERIFY(rig.create());
+    DB_Page_List<DB_FB_Page>& pages = rig.mSession.database().mFbPages;
+    DB_FB_Page& page = pages.pages().at(0);
+    page.mWidth = 2'000'000'000;
+    page.mHeight = -1;
+    auto block = FB_Pins::makeBlock(50, {x, 7});
+    block->mPageGuid = page.mGuid;
+    const DB_FB_Control& added = *pages.appendChild(std::move(block));
+    FB_Normaliser::normalise(pages);
+    QTEST(added.mX, "corrected");
+    QCOMPARE(added.mY, 7.0);
+    QCOMPARE(page.mWidth, FB_Page_List_Edits::cSizeMaximum);
+    QCOMPARE(page.mHeight, FB_Page_List_Edits::cSizeMinimum);
   }
 };
 

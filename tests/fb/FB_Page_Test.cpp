@@ -1,4 +1,5 @@
 #include "base/App_Settings.h"
+#include "db/Address_Edits.h"
 #include "fb/FB_Base.h"
 #include "fb/FB_Catalogue_Mime.h"
 #include "fb/FB_Inline_Edit.h"
@@ -51,6 +52,17 @@ private slots:
     mView.reset();
     mSettings.reset();
     mRig.reset();
+  }
+
+  void blocksFollowTheNamesOfAddresses() {
+    const QUuid key = mRig->addAddress({1, 2, 3}, QStringLiteral("Licht"))->mKey;
+    QVERIFY(FB_Page_Edits::bind(mRig->mSession, {mFirst, FB_Side::Input, 0}, key));
+    const auto name = [&] { return block(mFirst).record().mInputs[0].mBinding.mName; };
+    QTRY_COMPARE(name(), QStringLiteral("Licht"));
+    QVERIFY(Address_Edits::set(mRig->mSession, {key}, Address_Edits::Field::Name, QStringLiteral("Lampe")));
+    QTRY_COMPARE(name(), QStringLiteral("Lampe"));
+    QVERIFY(mRig->mSession.history().undo());
+    QTRY_COMPARE(name(), QStringLiteral("Licht"));
   }
 
   void zoomDoesNotDrift() {

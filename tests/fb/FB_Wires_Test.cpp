@@ -110,7 +110,7 @@ private slots:
     add({150, 200}, {}, {});
     add({320, 300}, {far}, {back});
     for (const FB_Wires::Style style : {FB_Wires::Style::Curved, FB_Wires::Style::Orthogonal}) {
-      const QRect part(220, 100, 60, 300);
+      const QRect part(220, 100, 100, 300);
       mWires.setStyle(style);
       const QImage whole = painted(QRect(0, 0, 500, 500));
       QCOMPARE(painted(part).copy(part), whole.copy(part));
