@@ -95,6 +95,7 @@ void FB_Page::onScrolled() {
 
 void FB_Page::endGesture() {
   mAutoScroll->stop();
+  mOverlay->update(); // it stays where it shows the execution order
   if (mHasCursor) {
     QGuiApplication::restoreOverrideCursor();
     mHasCursor = false;
