@@ -101,7 +101,10 @@ void Main_Window_Base::connectParts() {
   connect(mPageView, &Page_View::refused, this, &Main_Window_Base::showInfo);
   connect(mPageTabs, &Page_Tabs::changed, this, [this] { mPageView->showPage(mPageTabs->currentPage()); });
   connect(mPageView, &Page_View::pageChosen, this, &Main_Window_Base::showPage);
-  connect(mPageView, &Page_View::childChosen, this, &Main_Window_Base::showChild);
+  connect(mPageView, &Page_View::childChosen, this, [this](const QUuid& page, const QUuid& child) {
+    showChild(page, child);
+    mPageTabs->enter();
+  });
   connect(mAddressView, &Address_View::refused, this, &Main_Window_Base::showInfo);
   connect(mAddressView, &Address_View::info, this, &Main_Window_Base::showInfo);
   connect(mStartPage, &Start_Page::backRequested, this, &Main_Window_Base::showProjectPage);

@@ -29,11 +29,7 @@ void Main_Window_Dev::connectPageCommands() {
 void Main_Window_Dev::connectLogicPage(FB_Page& page) {
   connect(&page, &FB_Page::selectionChanged, this, [this, &page] { followSelection(page); });
   connect(&page, &FB_Page::propertiesRequested, mPageCommands, &FB_Page_List_Commands::onProperties);
-  connect(&page, &FB_Page::usagesRequested, this, [this](const QUuid& key) {
-    FB_Usages_Dialog& dialog = resultDialog(mUsages);
-    dialog.showUses(key);
-    dialog.bringUp();
-  });
+  connect(&page, &FB_Page::usagesRequested, this, [this](const QUuid& key) { resultDialog(mUsages).showUses(key); });
   connect(&page, &FB_Page::typeUsagesRequested, this, [this](int type) { resultDialog(mUsages).showType(type); });
   connect(&page, &FB_Page::linkActivated, this, &Main_Window_Dev::showChild);
   connect(&page, &FB_Page::statusText, this, &Main_Window_Dev::showInfo);
@@ -42,8 +38,12 @@ void Main_Window_Dev::connectLogicPage(FB_Page& page) {
 /// The tree of pages shows the selected block.
 void Main_Window_Dev::followSelection(const FB_Page& page) {
   const QList<QUuid> blocks = page.selectedBlocks();
-  if (!blocks.isEmpty() && &page == pageTabs().logicPage()) {
-    pageView().showBlock(page.pageGuid(), blocks.last());
+  if (&page == pageTabs().logicPage()) {
+    if (blocks.isEmpty()) {
+      pageView().showPage(page.pageGuid());
+    } else {
+      pageView().showBlock(page.pageGuid(), blocks.last());
+    }
   }
   updateActions();
 }
@@ -62,10 +62,16 @@ void Main_Window_Dev::followStep(const std::vector<History::Applied>& records) {
       blocks.append(record.mId);
     }
   }
-  if (first->mId != first->mPage || pageTabs().currentPage() == first->mPage) {
-    showProjectPage();
-    pageTabs().showBlocks(first->mPage, blocks);
+  const bool isShown = pageTabs().currentPage() == first->mPage;
+  const QList<QUuid> selected = isShown ? pageTabs().logicPage()->selectedBlocks() : QList<QUuid>();
+  const bool isSelected = !blocks.isEmpty() && std::ranges::all_of(blocks, [&selected](const QUuid& block) {
+    return selected.contains(block);
+  });
+  if (isSelected && isProjectShown()) {
+    return; // with others beside them, which stay selected
   }
+  showProjectPage();
+  pageTabs().showBlocks(first->mPage, blocks);
 }
 
 void Main_Window_Dev::showFirstLogicPage() {

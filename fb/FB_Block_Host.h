@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <limits>
+
 class FB_Base;
 class ProjectDatabase;
 class QMouseEvent;
@@ -32,6 +34,10 @@ public:
   [[nodiscard]] virtual QString valueOf(const DB_Address_Binding& binding) const = 0;
   /// Names of the other pages on which the pin's binding is used too; empty for none: "Erdgeschoss", "Technik, Außen".
   [[nodiscard]] virtual QString linkedPages(const FB_Pin_Ref& pin) const = 0;
+
+  /// Pixels that there are for what stands beside the pin, when less than usual: half of the way to the next pin that a
+  /// wire leads to.
+  [[nodiscard]] virtual double labelRoom(const FB_Pin_Ref& /*pin*/) const { return std::numeric_limits<double>::max(); }
 
   // The mouse on a block; positions are those of the event. `pin` is null when no pin is under the pointer.
   virtual void blockPressed(FB_Base& block, const FB_Pin_Ref* pin, QMouseEvent& event) = 0;

@@ -40,6 +40,7 @@ void FB_Move_Gesture::start() {
   mBlocks = mPage.selectedBlocks();
   for (const QUuid& block : std::as_const(mBlocks)) {
     mMoved.push_back({block, blocks.rect(blocks.indexOf(block)).topLeft()});
+    blocks.at(blocks.indexOf(block)).raise();
   }
   mExtent = blocks.extent(mBlocks);
   const int pressed = blocks.indexOf(mBlock);

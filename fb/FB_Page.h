@@ -142,6 +142,7 @@ public:
   [[nodiscard]] bool isShowingValues() const override { return mShowsValues; }
   [[nodiscard]] QString valueOf(const DB_Address_Binding& binding) const override;
   [[nodiscard]] QString linkedPages(const FB_Pin_Ref& pin) const override;
+  [[nodiscard]] double labelRoom(const FB_Pin_Ref& pin) const override;
   void blockPressed(FB_Base& block, const FB_Pin_Ref* pin, QMouseEvent& event) override;
   void blockMoved(FB_Base& block, QMouseEvent& event) override;
   void blockReleased(FB_Base& block, QMouseEvent& event) override;
@@ -187,6 +188,7 @@ protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+  void tellInserted();
   [[nodiscard]] QScrollArea* scrollArea() const;
   [[nodiscard]] FB_Pointer pointerOf(const QMouseEvent& event) const;
   [[nodiscard]] bool startsPan(const QMouseEvent& event) const;
@@ -215,7 +217,7 @@ private:
   void addUses(QMenu& menu, const FB_Base& block, const FB_Pin_Ref* pin);
   void addVariable(QMenu& menu, const DB_Address_Binding& binding);
   void renameVariable(const QUuid& key, const QString& name);
-  void addLinks(QMenu& menu, const FB_Pin_Ref& pin);
+  void addLinks(QMenu& menu, const FB_Pin_Ref& pin, QSet<QUuid>& known);
   void pressBlock(FB_Base& block, const FB_Pin_Ref* pin, const FB_Pointer& pointer);
   [[nodiscard]] QPointF visibleCentre() const;
 

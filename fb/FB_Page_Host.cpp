@@ -20,6 +20,16 @@ bool FB_Page::isDebugToolTip() const {
   return mSettings.isOn(Setting::FBDebugToolTip);
 }
 
+double FB_Page::labelRoom(const FB_Pin_Ref& pin) const {
+  const int block = mBlocks.indexOf(pin.mBlock);
+  if (block < 0) {
+    return FB_Block_Host::labelRoom(pin);
+  }
+  const double room = mBlocks.wires().room(block, pin.mSide, pin.mIndex);
+  // To the left the page ends.
+  return pin.mSide == FB_Side::Input ? std::min(room, mBlocks.pinPoint(pin).x()) : room;
+}
+
 QString FB_Page::valueOf(const DB_Address_Binding& binding) const {
   return mValues ? mValues(binding) : QString();
 }

@@ -8,8 +8,13 @@ QString FB_Page::linkedPages(const FB_Pin_Ref& pin) const {
   return mLinks->text(pin);
 }
 
-void FB_Page::addLinks(QMenu& menu, const FB_Pin_Ref& pin) {
+/// Pages that are `known` stand in the menu already.
+void FB_Page::addLinks(QMenu& menu, const FB_Pin_Ref& pin, QSet<QUuid>& known) {
   for (const FB_Page_Links::Target& target : mLinks->targets(pin)) {
+    if (known.contains(target.mPage)) {
+      continue;
+    }
+    known.insert(target.mPage);
     QString caption = target.mCaption;
     menu.addAction(tr("Zur Seite: %1").arg(caption.replace('&', QLatin1String("&&"))), this,
                    [this, target] { emit linkActivated(target.mPage, target.mPin.mBlock); });

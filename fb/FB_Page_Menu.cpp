@@ -16,6 +16,8 @@ namespace {
 
 using Edge = FB_Page_Edits::Edge;
 
+constexpr size_t cFewBindings = 3; ///< that have room in the menu itself
+
 struct Edge_Row {
   Edge mEdge;
   const char* mText;
@@ -91,30 +93,35 @@ void FB_Page::addAlignment(QMenu& menu) {
   }
   edges->addSeparator();
   const bool isEnough = selectedBlocks().size() > 2;
-  edges->addAction(tr("&Waagrecht verteilen"), this, [this] { distribute(Qt::Horizontal); })->setEnabled(isEnough);
-  edges->addAction(tr("&Senkrecht verteilen"), this, [this] { distribute(Qt::Vertical); })->setEnabled(isEnough);
+  edges->addAction(tr("Aufteilen &Horizontal"), this, [this] { distribute(Qt::Horizontal); })->setEnabled(isEnough);
+  edges->addAction(tr("Aufteilen &Vertikal"), this, [this] { distribute(Qt::Vertical); })->setEnabled(isEnough);
   menu.addSeparator();
 }
 
-/// Where else the binding of the pin, or of the block's pins, is used.
+/// Where else the binding of the pin, or of the block's pins, is used; of many pins in a menu below, each page once.
 void FB_Page::addUses(QMenu& menu, const FB_Base& block, const FB_Pin_Ref* pin) {
   QSet<QUuid> known;
+  std::vector<const DB_Address_Binding*> bindings;
+  QSet<QUuid> pages;
   for (const FB_Side side : {FB_Side::Input, FB_Side::Output}) {
     const std::vector<DB_FB_Pin>& pins = FB_Pins::pins(block.record(), side);
     for (int i = 0; i < static_cast<int>(pins.size()); ++i) {
       const FB_Pin_Ref ref{block.guid(), side, i};
       const DB_Address_Binding& binding = pins[static_cast<size_t>(i)].mBinding;
       const bool isMeant = !pin || *pin == ref;
-      if (!isMeant || binding.mKind == DB_Address_Binding::Kind::None || known.contains(binding.mKey)) {
-        continue;
+      if (isMeant && binding.mKind != DB_Address_Binding::Kind::None && !known.contains(binding.mKey)) {
+        known.insert(binding.mKey);
+        bindings.push_back(&binding);
+        addLinks(menu, ref, pages);
       }
-      known.insert(binding.mKey);
-      addLinks(menu, ref);
-      menu.addAction(tr("Verwendungen von %1").arg(nameOf(binding)), this,
-                     [this, key = binding.mKey] { emit usagesRequested(key); });
-      if (binding.mKind == DB_Address_Binding::Kind::Internal) {
-        addVariable(menu, binding);
-      }
+    }
+  }
+  QMenu& uses = bindings.size() > cFewBindings ? *menu.addMenu(tr("&Verknüpfungen")) : menu;
+  for (const DB_Address_Binding* const binding : bindings) {
+    uses.addAction(tr("Verwendungen von %1").arg(nameOf(*binding)), this,
+                   [this, key = binding->mKey] { emit usagesRequested(key); });
+    if (binding->mKind == DB_Address_Binding::Kind::Internal) {
+      addVariable(uses, *binding);
     }
   }
   if (pin && !known.isEmpty()) {

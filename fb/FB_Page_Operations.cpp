@@ -59,15 +59,27 @@ bool FB_Page::insertBlock(int type) {
   if (isDone) {
     bringIntoView(mBlocks.extent(selectedBlocks()));
     setFocus(Qt::OtherFocusReason);
+    tellInserted();
   }
   return isDone;
+}
+
+/// The block that was just made is the only one selected.
+void FB_Page::tellInserted() {
+  if (FB_Base* const block = mBlocks.find(selectedBlocks().value(0))) {
+    block->inserted();
+  }
 }
 
 bool FB_Page::dropBlock(int type, const QPointF& point) {
   QPointF place(std::round(point.x()), std::round(point.y()));
   place.setX(place.x() > width() ? width() - cFromEdge : place.x());
   place.setY(place.y() > height() ? height() - cFromEdge : place.y());
-  return finish(FB_Page_Edits::create(mSession, mGuid, type, place / zoom()));
+  const bool isDone = finish(FB_Page_Edits::create(mSession, mGuid, type, place / zoom()));
+  if (isDone) {
+    tellInserted();
+  }
+  return isDone;
 }
 
 bool FB_Page::moveBlocks(const QHash<QUuid, QPointF>& positions) {

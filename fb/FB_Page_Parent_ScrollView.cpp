@@ -8,6 +8,7 @@
 
 #include <QDropEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QResizeEvent>
 #include <QScrollBar>
 
@@ -21,7 +22,9 @@ FB_Page_Parent_ScrollView::FB_Page_Parent_ScrollView(FB_Page* page, QWidget* par
     : QScrollArea(parent),
       mPage(page),
       mNotices(new QLabel(this)) {
-  setFrameShape(NoFrame);
+  setFrameStyle(int(Box) | int(Plain)); // drawn here: it tells who has the keyboard
+  setLineWidth(1);
+  page->installEventFilter(this);
   setWidget(page);
   setFocusProxy(page);
   setAcceptDrops(true);
@@ -69,6 +72,23 @@ void FB_Page_Parent_ScrollView::placeNotices() {
   const int height = mNotices->text().isEmpty() ? 0 : mNotices->heightForWidth(width());
   mNotices->setGeometry(0, 0, width(), height);
   setViewportMargins(0, height, 0, 0);
+}
+
+bool FB_Page_Parent_ScrollView::event(QEvent* event) {
+  const bool isDone = QScrollArea::event(event);
+  if (event->type() == QEvent::Paint) {
+    QPainter painter(this);
+    painter.setPen(Theme::color(mPage->hasFocus() ? Theme::Role::Accent : Theme::Role::Window));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+  return isDone;
+}
+
+bool FB_Page_Parent_ScrollView::eventFilter(QObject* object, QEvent* event) {
+  if (object == mPage && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
+    update();
+  }
+  return QScrollArea::eventFilter(object, event);
 }
 
 void FB_Page_Parent_ScrollView::resizeEvent(QResizeEvent* event) {

@@ -21,6 +21,8 @@ public:
   void setConnectedController(std::optional<int> number);
 
 protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;

@@ -24,6 +24,8 @@ constexpr double cValueHeight = 0.8;
 constexpr double cNameWidth = 10;
 constexpr double cVariableWidth = 8; ///< less: a wire tells already what it is connected to
 constexpr double cLinkWidth = 8;
+constexpr double cLeastRoom = 3;
+constexpr double cLinkShare = 0.45;  ///< of the room, at most
 constexpr double cNameBottom = 0.06; ///< above the wire
 constexpr double cNameHeight = 0.9;
 constexpr double cMost = 4 * cGap + cValueWidth + cNameWidth + cLinkWidth;
@@ -82,6 +84,8 @@ double FB_Pin_Labels::valueColumn(FB_Side side) const {
 FB_Pin_Labels::Row FB_Pin_Labels::rowOf(FB_Side side, int index, double column) const {
   const DB_Address_Binding& binding = pinsOf(mBlock, side)[index].mBinding;
   const QPointF pin = mBlock.pinPoint(side, index);
+  const FB_Pin_Ref ref{mBlock.guid(), side, index};
+  const double room = std::max(mHost.labelRoom(ref), cLeastRoom * mGrid);
   double from = cGap * mGrid; // distance from the pin
   const auto place = [&](const QString& text, double width, double top, double height) {
     const double left = side == FB_Side::Input ? pin.x() - from - width : pin.x() + from;
@@ -90,7 +94,7 @@ FB_Pin_Labels::Row FB_Pin_Labels::rowOf(FB_Side side, int index, double column) 
   };
   constexpr double cNameTop = -cNameBottom - cNameHeight;
   const auto placeAbove = [&](const QString& text, double most) {
-    return place(text, std::min(mTexts.width(text) + 1, most * mGrid), cNameTop, cNameHeight);
+    return place(text, std::clamp(most, 1.0, mTexts.width(text) + 1), cNameTop, cNameHeight);
   };
   Row row;
   if (column > 0) {
@@ -98,10 +102,15 @@ FB_Pin_Labels::Row FB_Pin_Labels::rowOf(FB_Side side, int index, double column) 
     row.mValue = place(valueText(binding), column, -cValueHeight / 2, cValueHeight);
   }
   const bool isVariable = binding.mKind == DB_Address_Binding::Kind::Internal;
-  row.mName = placeAbove(FB_Pin_Text::label(binding), isVariable ? cVariableWidth : cNameWidth);
-  const QString pages = mHost.linkedPages({mBlock.guid(), side, index});
-  if (!pages.isEmpty()) {
-    row.mLink = placeAbove(QCoreApplication::translate("FB_Pin_Labels", "->%1").arg(pages), cLinkWidth);
+  const QString pages = mHost.linkedPages(ref);
+  const QString link = pages.isEmpty() ? QString() : QCoreApplication::translate("FB_Pin_Labels", "->%1").arg(pages);
+  const double most = room - from - cGap * mGrid;
+  const double forLink =
+      link.isEmpty() ? 0 : std::min({mTexts.width(link) + 1, cLinkWidth * mGrid, cLinkShare * most}) + cGap * mGrid;
+  row.mName = placeAbove(FB_Pin_Text::label(binding),
+                         std::min((isVariable ? cVariableWidth : cNameWidth) * mGrid, most - forLink));
+  if (!link.isEmpty()) {
+    row.mLink = placeAbove(link, std::min(cLinkWidth * mGrid, room - from - cGap * mGrid));
   }
   return row;
 }

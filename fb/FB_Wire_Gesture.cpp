@@ -57,6 +57,7 @@ void FB_Wire_Gesture::paint(QPainter& painter) const {
   painter.drawPath(FB_Wires::curve(isForward ? start : mEnd, isForward ? mEnd : start, mPage.zoom()));
   if (mTarget) {
     const double radius = FB_Geometry::cGrid * mPage.zoom() / 2;
-    painter.drawEllipse(mEnd, radius, radius);
+    const double inside = mTarget->mSide == FB_Side::Input ? radius / 2 : -radius / 2; // where the pin's mark is
+    painter.drawEllipse(mEnd + QPointF(inside, 0), radius, radius);
   }
 }

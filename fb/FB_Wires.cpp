@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -17,6 +19,7 @@ constexpr double cHitWidth = 8;   // of the pen; at least that many pixels
 constexpr double cLong = 1500;    // px; of a longer curve only the seen parts are drawn
 constexpr double cNetExtra = 1;   // px that the net under the mouse is wider
 constexpr int cNetBrighter = 135; // per cent
+constexpr int cAsItIs = 100;      // per cent
 
 } // namespace
 
@@ -199,6 +202,20 @@ QList<int> FB_Wires::netOf(int block, FB_Side side, int pin) const {
   return {};
 }
 
+double FB_Wires::room(int block, FB_Side side, int pin) const {
+  double room = std::numeric_limits<double>::max();
+  for (const int wire : mBlocks[static_cast<size_t>(block)].mWires) {
+    const FB_Connections::Entry& entry = at(wire).mEntry;
+    const bool isHere = side == FB_Side::Output ? entry.mSource == block && entry.mOutput == pin
+                                                : entry.mTarget == block && entry.mInput == pin;
+    const double way = target(wire).x() - source(wire).x();
+    if (isHere && way > 0) {
+      room = std::min(room, way / 2 * mScale);
+    }
+  }
+  return room;
+}
+
 bool FB_Wires::isSeen(int index, const QRectF& region) const {
   const QRectF& box = mBoxes[static_cast<size_t>(index)]; // a straight wire's has no height
   return box.left() <= region.right() && box.right() >= region.left() && box.top() <= region.bottom() &&
@@ -206,15 +223,8 @@ bool FB_Wires::isSeen(int index, const QRectF& region) const {
 }
 
 void FB_Wires::paint(QPainter& painter, const QRectF& region, const QSet<int>& net) const {
-  struct Batch {
-    Theme::Role mRole;
-    bool mIsNet;
-    std::vector<int> mWires;
-  };
-  std::array<Batch, 4> batches{{{Theme::Role::WireVariable, false, {}},
-                                {Theme::Role::WireAddress, false, {}},
-                                {Theme::Role::WireVariable, true, {}},
-                                {Theme::Role::WireAddress, true, {}}}};
+  std::vector<int> shown;
+  std::vector<int> lit;                                   // above all others
   const double width = std::max(1.0, std::round(mScale)); // 1 px is drawn three times as fast as any more
   const double margin = (width + cNetExtra) / 2 + 1;
   const QRectF wide = region.adjusted(-margin, -margin, margin, margin);
@@ -229,7 +239,7 @@ void FB_Wires::paint(QPainter& painter, const QRectF& region, const QSet<int>& n
         continue;
       }
     }
-    batches[(at(i).mIsAddress ? 1U : 0U) + (net.contains(i) ? 2U : 0U)].mWires.push_back(i);
+    (net.contains(i) ? lit : shown).push_back(i);
   }
   const auto isLong = [this](int wire) {
     const QSizeF size = mBoxes[static_cast<size_t>(wire)].size() * mScale;
@@ -239,19 +249,24 @@ void FB_Wires::paint(QPainter& painter, const QRectF& region, const QSet<int>& n
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
   const QTransform onPixels = painter.transform();
-  for (const Batch& batch : batches) {
-    const QColor color = Theme::color(batch.mRole);
-    const double pen = batch.mIsNet ? width + cNetExtra : width;
-    painter.setPen(
-        QPen(batch.mIsNet ? color.lighter(cNetBrighter) : color, pen, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+  // In their order, as they are hit: the last one lies on top.
+  const auto draw = [&](const std::vector<int>& wires, double penWidth, int lightness) {
     // A straight line of an odd width is sharp in the middle of the pixels, one of an even width between them.
-    const double shift = mStyle == Style::Orthogonal && std::fmod(pen, 2) == 1 ? 0.5 : 0;
+    const double shift = mStyle == Style::Orthogonal && std::fmod(penWidth, 2) == 1 ? 0.5 : 0;
     painter.setTransform(QTransform::fromTranslate(shift, shift) * onPixels);
-    for (const int wire : batch.mWires) {
+    std::optional<bool> isAddressPen;
+    for (const int wire : wires) {
+      if (isAddressPen != at(wire).mIsAddress) {
+        isAddressPen = at(wire).mIsAddress;
+        const QColor color = Theme::color(*isAddressPen ? Theme::Role::WireAddress : Theme::Role::WireVariable);
+        painter.setPen(QPen(color.lighter(lightness), penWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+      }
       // One path of them all would take ten times as long.
       painter.drawPath(isLong(wire) ? zoomedCurveOf(wire).partsIn(wide) : path(wire));
     }
-  }
+  };
+  draw(shown, width, cAsItIs);
+  draw(lit, width + cNetExtra, cNetBrighter);
   painter.restore();
 }
 

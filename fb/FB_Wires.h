@@ -42,6 +42,8 @@ public:
   /// All wires that share the binding of that wire, itself among them.
   [[nodiscard]] QList<int> net(int index) const;
   /// All wires that share the binding of that pin.
+  /// Half of the way to the nearest pin that a wire leads on to, zoomed; the greatest number without one.
+  [[nodiscard]] double room(int block, FB_Side side, int pin) const;
   [[nodiscard]] QList<int> netOf(int block, FB_Side side, int pin) const;
 
   /// The wires in `region` of the zoomed page; those of `net` above the others, brighter and 1 px wider.

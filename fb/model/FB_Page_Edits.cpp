@@ -136,10 +136,16 @@ Edit_Result FB_Page_Edits::remove(Project_Session& session, const QList<QUuid>& 
     return result;
   }
   const QSet<QUuid> variables = variablesOf(found);
+  QSet<QUuid> written;
+  for (const DB_FB_Control* const block : found) {
+    for (const DB_FB_Pin& output : block->mOutputs) {
+      written.insert(output.mBinding.mKey);
+    }
+  }
   for (const DB_FB_Control* const block : found) {
     edit.remove(QUuid(block->mGuid));
   }
-  FB_Variables::release(edit, variables, FB_Variables::Lonely::Release);
+  FB_Variables::releaseAfterRemoval(edit, variables, written);
   return result;
 }
 

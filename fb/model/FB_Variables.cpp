@@ -14,10 +14,41 @@ using Place = Address_Use::Place;
 
 /// Where a variable is used.
 struct Uses {
-  qsizetype mCount = 0;
-  qsizetype mReaders = 0; ///< all but outputs
-  Address_Use mLast;
+  qsizetype mInputs = 0;
+  qsizetype mOutputs = 0;
+  qsizetype mOthers = 0; ///< elements, which read and write, and what disables a block
 };
+
+/// Takes those that nothing reads off their outputs, and those for which `isUnwritten` says so off their inputs.
+template <class Is_Unwritten>
+void takeOff(FB_Edit& edit, const QSet<QUuid>& keys, Is_Unwritten&& isUnwritten) {
+  if (keys.isEmpty()) {
+    return;
+  }
+  QHash<QUuid, Uses> uses;
+  std::vector<std::pair<QUuid, FB_Pin_Ref>> pins;
+  DB_Bindings::visit(edit.database(), [&](const DB_Address_Binding& binding, const Address_Use& use) {
+    if (binding.mKind != Kind::Internal || !keys.contains(binding.mKey)) {
+      return;
+    }
+    Uses& known = uses[binding.mKey];
+    if (use.mPlace == Place::Output) {
+      ++known.mOutputs;
+      pins.push_back({binding.mKey, {use.mOwnerGuid, FB_Side::Output, use.mIndex}});
+    } else if (use.mPlace == Place::Input) {
+      ++known.mInputs;
+      pins.push_back({binding.mKey, {use.mOwnerGuid, FB_Side::Input, use.mIndex}});
+    } else {
+      ++known.mOthers;
+    }
+  });
+  for (const auto& [key, pin] : pins) {
+    const Uses& known = *uses.constFind(key);
+    if (known.mInputs + known.mOthers == 0 || isUnwritten(known, key)) {
+      edit.setBinding(pin, {});
+    }
+  }
+}
 
 /// "Und Ausgang 2" without its number.
 QString withoutNumber(const QString& name) {
@@ -63,29 +94,12 @@ DB_Address_Binding FB_Variables::make(const QString& name) {
   return binding;
 }
 
-void FB_Variables::release(FB_Edit& edit, const QSet<QUuid>& keys, Lonely lonely) {
-  if (keys.isEmpty()) {
-    return;
-  }
-  QHash<QUuid, Uses> uses;
-  std::vector<std::pair<QUuid, FB_Pin_Ref>> pins;
-  DB_Bindings::visit(edit.database(), [&](const DB_Address_Binding& binding, const Address_Use& use) {
-    if (binding.mKind == Kind::Internal && keys.contains(binding.mKey)) {
-      Uses& known = uses[binding.mKey];
-      ++known.mCount;
-      known.mReaders += use.mPlace == Place::Output ? 0 : 1;
-      known.mLast = use;
-      if (use.mPlace == Place::Output || use.mPlace == Place::Input) {
-        const FB_Side side = use.mPlace == Place::Output ? FB_Side::Output : FB_Side::Input;
-        pins.push_back({binding.mKey, {use.mOwnerGuid, side, use.mIndex}});
-      }
-    }
+void FB_Variables::release(FB_Edit& edit, const QSet<QUuid>& keys) {
+  takeOff(edit, keys, [](const Uses&, const QUuid&) { return false; });
+}
+
+void FB_Variables::releaseAfterRemoval(FB_Edit& edit, const QSet<QUuid>& keys, const QSet<QUuid>& written) {
+  takeOff(edit, keys, [&written](const Uses& uses, const QUuid& key) {
+    return uses.mOutputs + uses.mOthers == 0 && (uses.mInputs == 1 || written.contains(key));
   });
-  for (const auto& [key, pin] : pins) {
-    const Uses& known = *uses.constFind(key);
-    const bool isLonely = lonely == Lonely::Release && known.mCount == 1 && known.mLast.mPlace == Place::Input;
-    if (known.mReaders == 0 || isLonely) {
-      edit.setBinding(pin, {});
-    }
-  }
 }

@@ -31,9 +31,10 @@ private:
 /// A variable of its own; what type of data it takes is not known yet.
 [[nodiscard]] DB_Address_Binding make(const QString& name);
 
-enum class Lonely { Keep, Release };
-/// Takes those of the variables that nothing reads any more off the outputs; with `Lonely::Release` also those that are
-/// left at one single input off that.
-void release(FB_Edit& edit, const QSet<QUuid>& keys, Lonely lonely = Lonely::Keep);
+/// Takes those of the variables that nothing reads any more off the outputs.
+void release(FB_Edit& edit, const QSet<QUuid>& keys);
+/// The same after blocks are gone that had them; also takes those that nothing writes any more off the inputs, when a
+/// block that wrote them is gone (`written`) or only one input is left.
+void releaseAfterRemoval(FB_Edit& edit, const QSet<QUuid>& keys, const QSet<QUuid>& written);
 
 } // namespace FB_Variables
