@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr double cEndReach = 12; // pixels from a pin, within which the end of its wire is taken
+constexpr double cEndReach = 24; // pixels from a pin, within which the end of its wire is taken
 constexpr qsizetype cLargeNet = 64;
 
 bool isAdding(Qt::KeyboardModifiers modifiers) {
@@ -160,7 +160,8 @@ void FB_Page::mousePressEvent(QMouseEvent* event) {
     const std::optional<FB_Side> end = mayEdit() ? wireEndAt(wire, pointer.mPage) : std::nullopt;
     // The outer half of a pin lies beside its block.
     const std::optional<FB_Pin_Ref> pin = mayEdit() ? mBlocks.pinAt(pointer.mPage) : std::nullopt;
-    if (end) {
+    // An output has many wires: on the pin itself a further one begins.
+    if (end && !(pin && pin->mSide == FB_Side::Output)) {
       begin(std::make_unique<FB_Wire_End_Gesture>(*this, mBlocks.connection(wire), *end, pointer));
     } else if (pin) {
       begin(std::make_unique<FB_Wire_Gesture>(*this, *pin, pointer));

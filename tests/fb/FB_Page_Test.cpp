@@ -208,6 +208,10 @@ private slots:
     drag(end, pin({mSecond, FB_Side::Input, 0}));
     QCOMPARE(record(mSecond).mInputs[0].mBinding.mKey, variable);
     QVERIFY(record(mSecond).mInputs[1].mBinding.mKey.isNull());
+    // On the outer half of a bound output, where its wire begins, a further wire is drawn.
+    drag(pin({mFirst, FB_Side::Output, 0}) + QPoint(3, 0), pin({mSecond, FB_Side::Input, 1}));
+    QCOMPARE(record(mSecond).mInputs[1].mBinding.mKey, variable);
+    QVERIFY(mRig->mSession.history().undo());
     press(pin({mFirst, FB_Side::Output, 0}));
     move({500, 400});
     key(Qt::Key_Escape);
