@@ -40,7 +40,7 @@ void Main_Window_Dev::followSelection(const FB_Page& page) {
   const QList<QUuid> blocks = page.selectedBlocks();
   if (&page == pageTabs().logicPage()) {
     if (blocks.isEmpty()) {
-      pageView().showPage(page.pageGuid());
+      pageView().leaveBlock();
     } else {
       pageView().showBlock(page.pageGuid(), blocks.last());
     }

@@ -109,6 +109,13 @@ void Page_View::showBlock(const QUuid& page, const QUuid& block) {
   mShowWanted.start();
 }
 
+void Page_View::leaveBlock() {
+  mShowWanted.stop();
+  if (!mCurrentBlock.isNull()) {
+    mTree->setCurrentIndex(mModel->indexOf(mCurrent));
+  }
+}
+
 void Page_View::onShowBlock() {
   mModel->followBlocks();
   const QModelIndex block = mModel->indexOfBlock(mWanted);

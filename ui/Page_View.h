@@ -30,6 +30,8 @@ public:
   /// Selects a block in the tree, at the end of the turn, so that showing many costs no more than showing the last one.
   /// The keyboard focus stays where it is.
   void showBlock(const QUuid& page, const QUuid& block);
+  /// No block is selected any more: its page is, instead.
+  void leaveBlock();
   /// Takes the keyboard focus.
   void enter();
   /// A further panel below the tree, before what there is to say about the page, and shown at first.
