@@ -63,7 +63,7 @@ public:
   /// Invalid when there is no such page.
   [[nodiscard]] QModelIndex indexOf(const QUuid& guid) const;
   /// Invalid when there is no such block.
-  [[nodiscard]] QModelIndex indexOfBlock(const QUuid& block) const;
+  [[nodiscard]] QModelIndex indexOfBlock(const QUuid& guid) const;
   [[nodiscard]] std::optional<Details> detailsOf(const QUuid& guid) const;
   /// Name of the icon of a page; empty when there is no such page.
   [[nodiscard]] static QString pageIcon(const ProjectDatabase& database, const QUuid& guid);

@@ -107,7 +107,7 @@ public:
   bool duplicate(const QList<QUuid>& blocks, const QPointF& offset);
   bool paste(const QByteArray& packed, const QPointF& position);
   /// Opens the text of a comment, or the value of a constant, for typing; nothing for other blocks.
-  void editText(const QUuid& block);
+  void editText(const QUuid& guid);
   /// Tells a refusal; the page follows at once what was changed.
   bool finish(const Edit_Result& result);
   bool finish(const FB_Page_Edits::Result& result);

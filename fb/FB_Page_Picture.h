@@ -11,6 +11,6 @@ namespace FB_Page_Picture {
 
 /// The blocks with the wires between them on the page's ground, as large as they are on the screen. Null when that
 /// would be too large for a picture.
-[[nodiscard]] QImage of(FB_Page& page, const QList<QUuid>& blocks);
+[[nodiscard]] QImage of(FB_Page& page, const QList<QUuid>& guids);
 
 } // namespace FB_Page_Picture

@@ -46,7 +46,7 @@ QString whyNot(const Project_Session& session, const Blocks& blocks) {
       return FB_Page_Edits::onceRefusal();
     }
     once.insert(block->mType);
-    if (const QString reason = FB_Page_Edits::whyNot(session, block->mType); !reason.isEmpty()) {
+    if (QString reason = FB_Page_Edits::whyNot(session, block->mType); !reason.isEmpty()) {
       return reason;
     }
   }

@@ -20,7 +20,7 @@ namespace FB_Clipboard {
 /// More is refused, when copied and when pasted.
 [[nodiscard]] QString limitRefusal();
 inline constexpr quint32 cBlockLimit = 20'000;
-inline constexpr qsizetype cSizeLimit = 64 * 1024 * 1024; ///< bytes of all
+inline constexpr qsizetype cSizeLimit = qsizetype{64} * 1024 * 1024; ///< bytes of all
 
 [[nodiscard]] QString mimeType();
 

@@ -44,12 +44,12 @@ Edit_Result remove(Project_Session& session, const QList<QUuid>& blocks);
 /// To these upper left corners.
 Edit_Result move(Project_Session& session, const QHash<QUuid, QPointF>& positions);
 /// Rounds x and y to multiples of the grid, halves away from zero. A grid of 0 or less leaves them.
-Edit_Result alignToGrid(Project_Session& session, const QList<QUuid>& blocks, int grid);
+Edit_Result alignToGrid(Project_Session& session, const QList<QUuid>& guids, int grid);
 enum class Edge { Left, Top, Right, Bottom };
 /// To their common outermost edge.
-Edit_Result align(Project_Session& session, const QList<QUuid>& blocks, Edge edge);
+Edit_Result align(Project_Session& session, const QList<QUuid>& guids, Edge edge);
 /// Makes the gaps between them equal, in the order of their centres; the outermost two stay. Fewer than three stay too.
-Edit_Result distribute(Project_Session& session, const QList<QUuid>& blocks, Qt::Orientation orientation);
+Edit_Result distribute(Project_Session& session, const QList<QUuid>& guids, Qt::Orientation orientation);
 
 /// Connects the pin at which dragging began with the other one: an output with an input of another block. The other
 /// gets the binding of the first; when that has none, the first the other's; when none has one, both a new internal

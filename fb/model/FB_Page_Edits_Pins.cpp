@@ -34,7 +34,7 @@ bool isConnection(const FB_Edit& edit, const FB_Connection& connection) {
 }
 
 /// Gives pins another binding; the variables that they had and that nothing reads then go.
-void rebind(FB_Edit& edit, const std::initializer_list<FB_Pin_Ref>& pins, DB_Address_Binding binding) {
+void rebind(FB_Edit& edit, const std::initializer_list<FB_Pin_Ref>& pins, const DB_Address_Binding& binding) {
   QSet<QUuid> before;
   for (const FB_Pin_Ref& pin : pins) {
     const DB_Address_Binding& old = edit.pin(pin)->mBinding;
@@ -56,7 +56,7 @@ DB_Address_Binding newVariable(const FB_Edit& edit, const FB_Pin_Ref& pin) {
 /// Takes the beginning of the wire to another output.
 void moveSource(FB_Edit& edit, const FB_Connection& connection, const FB_Pin_Ref& to) {
   const DB_Address_Binding wire = edit.pin(connection.target())->mBinding;
-  rebind(edit, {connection.target()}, edit.pin(to)->mBinding);
+  rebind(edit, {connection.target()}, DB_Address_Binding(edit.pin(to)->mBinding));
   if (edit.pin(to)->mBinding.mKind == Kind::None) {
     // The variable comes along, unless something else hangs on the old output by it.
     const bool isFree = edit.pin(connection.source())->mBinding.mKind == Kind::None;

@@ -70,7 +70,7 @@ QPointF upperLeft(const DB_FB_Page& page) {
 /// Why the blocks of the page may not be there twice; empty when they may.
 QString whyNotTwice(const Project_Session& session, const DB_FB_Page& page) {
   for (const auto& block : page.mChildren) {
-    if (const QString reason = FB_Page_Edits::whyNot(session, block->mType); !reason.isEmpty()) {
+    if (QString reason = FB_Page_Edits::whyNot(session, block->mType); !reason.isEmpty()) {
       return reason;
     }
   }
@@ -157,11 +157,11 @@ FB_Page_List_Edits::Result FB_Page_List_Edits::duplicate(Project_Session& sessio
   copy->mCaption = copyCaption(session.database(), original->mCaption);
   const QUuid guid = insert(session, scope, std::move(copy), page);
   if (!original->mChildren.isEmpty()) {
-    const Edit_Result pasted = FB_Clipboard::paste(session, guid, packed, upperLeft(*original), keepOutputs);
+    const FB_Page_Edits::Result pasted = FB_Clipboard::paste(session, guid, packed, upperLeft(*original), keepOutputs);
     if (!pasted) {
       scope.deleted(session.fbPageUndo(), guid);
       [[maybe_unused]] const auto taken = list.takePage(guid);
-      return {pasted, {}};
+      return {Edit_Result::refused(pasted.mError), {}};
     }
   }
   return {Edit_Result::done(), guid};

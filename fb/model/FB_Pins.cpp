@@ -67,7 +67,7 @@ std::vector<DB_FB_Pin> build(std::vector<DB_FB_Pin> old, const FB_Type& type, FB
     const int count = sizeOf(group, parameters).value_or(group.mCount);
     for (int i = 0; i < count; ++i) {
       DB_FB_Pin pin{numbered(longName, i + 1), numbered(shortName, i + 1), {}};
-      const auto before = static_cast<size_t>(oldStart + i);
+      const auto before = static_cast<size_t>(oldStart) + static_cast<size_t>(i);
       if (i < oldCount && before < old.size()) {
         pin.mBinding = std::move(old[before].mBinding);
       }

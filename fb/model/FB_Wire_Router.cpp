@@ -14,6 +14,7 @@ namespace {
 constexpr double cStub = 16;
 constexpr double cLaneStep = 4;
 constexpr int cLanes = 5;
+constexpr int cMiddleLane = cLanes / 2;
 constexpr double cStubMaximum = cStub + cLanes * cLaneStep;
 constexpr double cRoundReach = 128;  // beyond what it goes around
 constexpr double cBelow = 64;        // of a plain way back between pins of the same height
@@ -35,7 +36,7 @@ double stubOf(int lane) {
 
 /// -8 .. 8
 double shiftOf(int lane) {
-  return cLaneStep * (lane % cLanes - cLanes / 2);
+  return cLaneStep * (lane % cLanes - cMiddleLane);
 }
 
 /// Without what is on the way between its neighbours.

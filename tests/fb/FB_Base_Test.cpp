@@ -7,6 +7,7 @@
 #include "tests/db/Session_Rig.h"
 
 #include <QMimeData>
+#include <QPainter>
 #include <QtTest>
 
 namespace {

@@ -127,9 +127,9 @@ private:
     const bool mayGrow = pages().pages().size() < cMostPages && pages().childCount() < cMostBlocks;
     switch (mayGrow ? bounded(4) : 2 + bounded(2)) {
     case 0:
-      return Edits::create(session, {}, some);
+      return Edit_Result{Edits::create(session, {}, some).mError};
     case 1:
-      return Edits::duplicate(session, some, bounded(2));
+      return Edit_Result{Edits::duplicate(session, some, bounded(2)).mError};
     case 2:
       return pages().pages().size() > 1 ? Edits::remove(session, some) : Edit_Result::done();
     default: {
@@ -149,7 +149,7 @@ private:
     switch (isFull ? 12 + bounded(10) : bounded(24)) {
     case 0:
     case 1:
-      return create(session, page().mGuid, cTypes[bounded(std::size(cTypes))], point());
+      return Edit_Result{create(session, page().mGuid, cTypes[bounded(std::size(cTypes))], point()).mError};
     case 2:
       return move();
     case 3:
@@ -158,9 +158,10 @@ private:
     case 6:
       return connectPins(session, pin(), pin());
     case 7:
-      return FB_Clipboard::paste(session, page().mGuid, FB_Clipboard::pack(session, some()), point(), bounded(2));
+      return Edit_Result{
+          FB_Clipboard::paste(session, page().mGuid, FB_Clipboard::pack(session, some()), point(), bounded(2)).mError};
     case 8:
-      return FB_Clipboard::duplicate(session, some(), {16, 16}, bounded(2));
+      return Edit_Result{FB_Clipboard::duplicate(session, some(), {16, 16}, bounded(2)).mError};
     case 9:
       return setParameter(session, one(), 0, QString::number(bounded(9)));
     case 10:

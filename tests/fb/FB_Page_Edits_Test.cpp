@@ -61,8 +61,8 @@ private slots:
   void refused_data() {
     QTest::addColumn<std::function<Edit_Result()>>("edit");
     QTest::addColumn<QString>("part");
-    const auto row = [](const char* name, std::function<Edit_Result()> edit, const QString& part) {
-      QTest::newRow(name) << std::move(edit) << part;
+    const auto row = [](const char* name, const std::function<Edit_Result()>& edit, const QString& part) {
+      QTest::newRow(name) << edit << part;
     };
     const QString side =
         QStringLiteral("Verbindungen sind nur zwischen Ausgang->Eingang und Eingang->Ausgang möglich.");
@@ -122,8 +122,8 @@ private slots:
   void disconnecting_data() {
     QTest::addColumn<std::function<void()>>("prepare");
     QTest::addColumn<bool>("isOutputBound");
-    const auto row = [](const char* name, std::function<void()> prepare, bool isOutputBound) {
-      QTest::newRow(name) << std::move(prepare) << isOutputBound;
+    const auto row = [](const char* name, const std::function<void()>& prepare, bool isOutputBound) {
+      QTest::newRow(name) << prepare << isOutputBound;
     };
     row(
         "the only wire", [] {}, false);

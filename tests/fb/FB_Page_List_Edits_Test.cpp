@@ -18,8 +18,8 @@ private slots:
     QTest::addColumn<Edit>("edit");
     QTest::addColumn<QString>("captions");
     QTest::addColumn<QString>("blocks"); // on each page
-    const auto row = [](const char* name, const char* captions, const char* blocks, Edit edit) {
-      QTest::newRow(name) << std::move(edit) << QString::fromUtf8(captions) << QString::fromUtf8(blocks);
+    const auto row = [](const char* name, const char* captions, const char* blocks, const Edit& edit) {
+      QTest::newRow(name) << edit << QString::fromUtf8(captions) << QString::fromUtf8(blocks);
     };
     row("create", "Programm 1,B,Programm 3", "0,3,0",
         [](auto& s, auto&, auto&) { return Edits::create(s, {}).mError; });
@@ -80,7 +80,7 @@ private slots:
 
   void refusals_data() {
     QTest::addColumn<Edit>("edit");
-    const auto row = [](const char* name, Edit edit) { QTest::newRow(name) << std::move(edit); };
+    const auto row = [](const char* name, const Edit& edit) { QTest::newRow(name) << edit; };
     const auto with = [](auto change) {
       return [change](Project_Session& s, const QUuid&, const QUuid& page) {
         Edits::Properties properties = Edits::properties(s, page);
@@ -101,7 +101,7 @@ private slots:
       return Edits::duplicate(s, first, false).mError;
     });
     using Controllers = std::vector<DB_Controller>;
-    const auto list = [](Controllers controllers) {
+    const auto list = [](const Controllers& controllers) {
       return [controllers](Project_Session& s, const QUuid&, const QUuid&) {
         return Controller_Edits::setControllers(s, controllers).mError;
       };

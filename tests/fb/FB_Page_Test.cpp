@@ -12,6 +12,7 @@
 #include "tests/db/Session_Rig.h"
 #include "ui/Theme.h"
 
+#include <QClipboard>
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -148,8 +149,8 @@ private slots:
   void whatHappensInTheMiddleOfADrag_data() {
     QTest::addColumn<std::function<void()>>("event");
     QTest::addColumn<int>("blocks");
-    const auto row = [](const char* name, int blocks, std::function<void()> event) {
-      QTest::newRow(name) << std::move(event) << blocks;
+    const auto row = [](const char* name, int blocks, const std::function<void()>& event) {
+      QTest::newRow(name) << event << blocks;
     };
     row("the block goes", 1, [this] { pages().takeChild(mFirst); });
     row("the page goes", 0, [this] { pages().takePage(mGuid); });
@@ -242,7 +243,7 @@ private slots:
     pages().changePage(mGuid, [](DB_FB_Page& page) { page.mWidth = 800; });
     QTRY_COMPARE(mPage->width(), 800);
     struct Case {
-      double mZoom;
+      double mZoom = 1;
       QPointF mPoint;
       QPointF mPlace;
     };
@@ -416,8 +417,8 @@ private slots:
     const QString other =
         QStringLiteral("Diese Seite läuft auf Steuerung %1 - die verbundene Steuerung führt sie nicht aus.");
     struct Case {
-      bool mIsActive;
-      int mController;
+      bool mIsActive = true;
+      int mController = 0;
       std::optional<int> mConnected;
       QStringList mNotices;
     };

@@ -15,11 +15,12 @@ private slots:
     others.add(QRectF(200, 100, 128, 64));
     others.mRows = {130};
     struct Case {
-      const char* mName;
+      const char* mName = nullptr;
       QPointF mOffset;
-      int mGrid;
+      int mGrid = 0;
       QPointF mPlace; ///< of the upper left corner
-      bool mHasX, mHasY;
+      bool mHasX = false;
+      bool mHasY = false;
     };
     for (const Case& row : {Case{"free", {3.5, 7}, 0, {13.5, 17}, false, false},
                             {"grid", {3, 8}, 8, {16, 16}, false, false},
