@@ -49,6 +49,7 @@ FB_Page_Parent_ScrollView::FB_Page_Parent_ScrollView(FB_Page* page, QWidget* par
 
 /// A scroll area would bring what it thinks has the focus into view: the whole page, that is, its middle.
 bool FB_Page_Parent_ScrollView::focusNextPrevChild(bool next) {
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): what the scroll area does is what is not wanted
   return QAbstractScrollArea::focusNextPrevChild(next);
 }
 
