@@ -23,7 +23,6 @@ void FB_Page_Overlay::place() {
     raise();
   }
   setVisible(isNeeded);
-  update(); // what was painted of a gesture may be over
 }
 
 void FB_Page_Overlay::paintEvent(QPaintEvent* /*event*/) {
