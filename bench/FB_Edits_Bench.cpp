@@ -22,17 +22,19 @@ public:
     pages.clear();
     mPage = pages.appendPage(std::make_unique<DB_FB_Page>()).mGuid;
     std::vector<DB_Address_Binding> variables;
+    variables.reserve(2 * static_cast<size_t>(blocks));
     for (int i = 0; i < 2 * blocks; ++i) {
       variables.push_back(FB_Variables::make(QStringLiteral("Variable %1").arg(i)));
     }
     for (int i = 0; i < blocks; ++i) {
+      const int row = i / 100;
       auto block = std::make_unique<DB_FB_Control>();
       block->mPageGuid = mPage;
       block->mType = 50;
       block->mX = i % 100 * 200;
-      block->mY = i / 100 * 100;
+      block->mY = row * 100;
       for (int pin = 0; pin < 2; ++pin) {
-        const auto variable = [&](int of) { return variables[static_cast<size_t>(2 * of + pin)]; };
+        const auto variable = [&](int of) { return variables[2 * static_cast<size_t>(of) + static_cast<size_t>(pin)]; };
         const bool isWired = i > 0 && (pin == 0 || i % 5 < 3);
         block->mOutputs.push_back({QStringLiteral("Ausgang"), QStringLiteral("A"), variable(i)});
         block->mInputs.push_back(

@@ -48,7 +48,8 @@ QUuid fill(Project_Session& session, int count) {
   std::vector<QUuid> keys(static_cast<size_t>(count));
   std::generate(keys.begin(), keys.end(), QUuid::createUuid);
   for (int i = 0; i < count; ++i) {
-    auto block = FB_Pins::makeBlock(50, {40 + i % cColumns * cAcross, 40 + i / cColumns * cDown});
+    const int row = i / cColumns;
+    auto block = FB_Pins::makeBlock(50, {40 + i % cColumns * cAcross, 40 + row * cDown});
     block->mPageGuid = page;
     block->mParams[0] = QStringLiteral("3");
     FB_Pins::rebuild(*block);
@@ -66,6 +67,7 @@ QUuid fill(Project_Session& session, int count) {
 
 double medianOf(const std::function<void()>& run) {
   std::vector<double> values;
+  values.reserve(cRuns);
   for (int i = 0; i < cRuns; ++i) {
     values.push_back(Bench_Table::milliseconds(run));
   }
@@ -155,8 +157,10 @@ int main(int argc, char* argv[]) {
   Rig rig;
   const QUuid page = fill(rig.mSession, cBlocks);
   Bench_Table table;
+  constexpr int cShowings = 5;
   std::vector<double> showing;
-  for (int i = 0; i < 5; ++i) {
+  showing.reserve(cShowings);
+  for (int i = 0; i < cShowings; ++i) {
     showing.push_back(Bench_Table::milliseconds([&] { const auto view = rig.show(page); }));
   }
   table.add("a page of 5,000 blocks is shown", Bench_Table::median(showing), cShowLimit, "ms");

@@ -25,6 +25,7 @@ constexpr int cFarApart = 100; // one wire in so many leads anywhere
 
 double median(const std::function<void()>& run) {
   std::vector<double> times;
+  times.reserve(cRuns);
   for (int i = 0; i < cRuns; ++i) {
     times.push_back(Bench_Table::milliseconds(run));
   }
@@ -36,11 +37,12 @@ void fill(DB_FB_Page& page, int blocks) {
   std::mt19937 random(1);
   const auto upTo = [&random](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
   for (int i = 0; i < blocks; ++i) {
+    const int row = i / cColumns;
     auto block = std::make_unique<DB_FB_Control>();
     block->mGuid = QUuid::createUuid();
     block->mType = 50;
     block->mX = i % cColumns * cPitch.x() + upTo(40);
-    block->mY = i / cColumns * cPitch.y() + upTo(40);
+    block->mY = row * cPitch.y() + upTo(40);
     block->mInputs.resize(2);
     block->mOutputs.resize(2);
     for (DB_FB_Pin& pin : block->mOutputs) {
@@ -132,6 +134,7 @@ int main(int argc, char** argv) {
     measure(table, wires, page, style);
   }
   std::vector<double> ways;
+  ways.reserve(static_cast<size_t>(wires.count()));
   for (int i = 0; i < wires.count(); ++i) {
     ways.push_back(Bench_Table::milliseconds([&] { (void)wires.path(i); }));
   }
