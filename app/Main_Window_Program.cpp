@@ -13,6 +13,10 @@
 #include "ui/Controller_List_Dlg.h"
 #include "ui/Page_View.h"
 
+namespace {
+constexpr double cPercent = 100;
+} // namespace
+
 void Main_Window_Dev::connectPageCommands() {
   connect(mPageCommands, &FB_Page_List_Commands::pageMade, this, &Main_Window_Dev::showPage);
   connect(mPageCommands, &FB_Page_List_Commands::refused, this, &Main_Window_Dev::showInfo);
@@ -32,6 +36,8 @@ void Main_Window_Dev::connectLogicPage(FB_Page& page) {
   connect(&page, &FB_Page::usagesRequested, this, [this](const QUuid& key) { resultDialog(mUsages).showUses(key); });
   connect(&page, &FB_Page::typeUsagesRequested, this, [this](int type) { resultDialog(mUsages).showType(type); });
   connect(&page, &FB_Page::linkActivated, this, &Main_Window_Dev::showChild);
+  connect(&page, &FB_Page::zoomChanged, this,
+          [this](double zoom) { showInfo(tr("Zoom %1 %").arg(qRound(zoom * cPercent))); });
   connect(&page, &FB_Page::statusText, this, &Main_Window_Dev::showInfo);
 }
 

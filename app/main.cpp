@@ -71,7 +71,7 @@ void openAsAsked(Main_Window_Dev& window, const Command_Line& line) {
   if (!line.mProjectPath.isEmpty()) {
     window.lifecycle().open(QFileInfo(line.mProjectPath).absoluteFilePath());
   } else if (line.mDemo) {
-    window.lifecycle().openDemo();
+    window.onMenuFileDemo();
   }
 }
 

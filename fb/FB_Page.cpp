@@ -32,7 +32,7 @@ FB_Page::FB_Page(Project_Session& session, App_Settings& settings, const QUuid& 
   setMouseTracking(true);
   setAcceptDrops(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setAccessibleName(tr("Logikseite"));
+  setAccessibleName(tr("Programmseite"));
   mBlocks.wires().setStyle(static_cast<FB_Wires::Style>(settings.value(Setting::FBWireStyle)));
   mBlocks.follow({});
   rebuildConnections();

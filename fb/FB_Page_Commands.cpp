@@ -22,9 +22,11 @@ FB_Page_Commands::FB_Page_Commands(FB_Page& page)
       mCut(add(tr("Auss&chneiden"), QStringLiteral("cut_white"), QKeySequence::Cut, &FB_Page_Commands::onCut)),
       mCopy(add(tr("&Kopieren"), QStringLiteral("copy-white"), QKeySequence::Copy, &FB_Page_Commands::onCopy)),
       mPaste(add(tr("&Einfügen"), QStringLiteral("paste_white"), QKeySequence::Paste, &FB_Page_Commands::onPaste)),
-      mDuplicate(add(tr("&Duplizieren"), {}, QKeySequence(Qt::CTRL | Qt::Key_D), &FB_Page_Commands::onDuplicate)),
+      mDuplicate(add(tr("&Duplizieren"), QStringLiteral("duplicate_white"), QKeySequence(Qt::CTRL | Qt::Key_D),
+                     &FB_Page_Commands::onDuplicate)),
       mRemove(add(tr("&Löschen"), QStringLiteral("trash-white"), QKeySequence::Delete, &FB_Page_Commands::onRemove)),
-      mSelectAll(add(tr("&Alles auswählen"), {}, QKeySequence::SelectAll, &FB_Page_Commands::onSelectAll)) {
+      mSelectAll(add(tr("&Alles auswählen"), QStringLiteral("select_all_white"), QKeySequence::SelectAll,
+                     &FB_Page_Commands::onSelectAll)) {
   connect(&page, &FB_Page::selectionChanged, this, &FB_Page_Commands::update);
   connect(&page, &FB_Page::pageChanged, this, &FB_Page_Commands::update);
   connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &FB_Page_Commands::update);
