@@ -5,6 +5,7 @@
 #include "base/App_Settings.h"
 #include "db/Project_Session.h"
 #include "fb/FB_Dev_New_Control.h"
+#include "fb/properties/FB_Dev_Properties.h"
 #include "ui/Address_View.h"
 #include "ui/Field_Keys.h"
 #include "ui/Page_View.h"
@@ -89,6 +90,8 @@ void Main_Window_Base::buildTabs() {
   mPageView->setObjectName(QStringLiteral("Navigation"));
   mCatalogue = new FB_Dev_New_Control(mSettings, mPageView);
   mPageView->addPanel(mCatalogue, tr("Bausteine"));
+  mProperties = new FB_Dev_Properties(mSession, mSettings, mPageView);
+  mPageView->addPanel(mProperties, tr("Eigenschaften"));
   mAddressView = new Address_View(mSession, mTabs);
   mAddressView->setObjectName(QStringLiteral("Variablen"));
   mTabs->addTab(mPageView, tr("Navigation"));

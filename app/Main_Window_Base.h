@@ -8,6 +8,7 @@
 class Address_View;
 class App_Settings;
 class FB_Dev_New_Control;
+class FB_Dev_Properties;
 class Page_Tabs;
 class Page_View;
 class Project_Overview;
@@ -71,6 +72,7 @@ protected:
   [[nodiscard]] Address_View& addressView() { return *mAddressView; }
   [[nodiscard]] Page_View& pageView() { return *mPageView; }
   [[nodiscard]] FB_Dev_New_Control& catalogue() { return *mCatalogue; }
+  [[nodiscard]] FB_Dev_Properties& properties() { return *mProperties; }
 
   Project_Session& mSession;
   App_Settings& mSettings;
@@ -94,5 +96,6 @@ private:
   Page_Tabs* mPageTabs = nullptr;
   Page_View* mPageView = nullptr;
   FB_Dev_New_Control* mCatalogue = nullptr;
+  FB_Dev_Properties* mProperties = nullptr;
   Address_View* mAddressView = nullptr;
 };

@@ -20,6 +20,7 @@
 #include "base/Session_State.h"
 #include "db/Project_Edits.h"
 #include "db/Project_Session.h"
+#include "fb/FB_Block_Editors.h"
 #include "fb/FB_Page.h"
 #include "fb/FB_Page_List_Commands.h"
 #include "ui/Address_Search_Dialog.h"
@@ -53,6 +54,7 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
       mLifecycle(new Project_Lifecycle(session, settings, state, *mDialogs, this)),
       mExchange(new Address_Exchange(session, settings, *mDialogs, *this)),
       mPageCommands(new FB_Page_List_Commands(session, settings, this)),
+      mEditors(new FB_Block_Editors(session, settings, this)),
       mEditTarget(new Edit_Target(*this)),
       mPalette(new Command_Palette(
           session, [this] { return actionState(); }, this)) {

@@ -11,6 +11,7 @@ class Address_Exchange;
 class Address_Search_Dialog;
 class Command_Palette;
 class Edit_Target;
+class FB_Block_Editors;
 class FB_Output_Check_Dialog;
 class FB_Page;
 class FB_Page_List_Commands;
@@ -113,7 +114,7 @@ private:
   void toggle(Setting setting);
   void connectPageCommands();
   void connectLogicPage(FB_Page& page);
-  void followSelection(const FB_Page& page);
+  void followSelection(FB_Page& page);
   void followStep(const std::vector<History::Applied>& records);
   void showFirstLogicPage();
   void insertBlock(int type);
@@ -135,6 +136,7 @@ private:
   Project_Lifecycle* mLifecycle;
   Address_Exchange* mExchange;
   FB_Page_List_Commands* mPageCommands;
+  FB_Block_Editors* mEditors;
   Edit_Target* mEditTarget;
   Command_Palette* mPalette;
   QLabel* mModeMark = nullptr;                     ///< seen while the operating mode is on

@@ -5,11 +5,13 @@
 #include "base/App_Settings.h"
 #include "db/Controller_Edits.h"
 #include "db/Project_Session.h"
+#include "fb/FB_Block_Editors.h"
 #include "fb/FB_Dev_New_Control.h"
 #include "fb/FB_Output_Check_Dialog.h"
 #include "fb/FB_Page.h"
 #include "fb/FB_Page_List_Commands.h"
 #include "fb/FB_Usages_Dialog.h"
+#include "fb/properties/FB_Dev_Properties.h"
 #include "ui/Controller_List_Dlg.h"
 #include "ui/Page_View.h"
 
@@ -25,6 +27,12 @@ void Main_Window_Dev::connectPageCommands() {
   connect(&pageView(), &Page_View::removeRequested, mPageCommands, &FB_Page_List_Commands::onRemove);
   connect(&pageView(), &Page_View::moveRequested, mPageCommands, &FB_Page_List_Commands::onMove);
   connect(&pageView(), &Page_View::propertiesRequested, mPageCommands, &FB_Page_List_Commands::onProperties);
+  connect(&properties(), &FB_Dev_Properties::pagePropertiesRequested, mPageCommands,
+          &FB_Page_List_Commands::onProperties);
+  connect(&properties(), &FB_Dev_Properties::editorRequested, mEditors, &FB_Block_Editors::open);
+  connect(&properties(), &FB_Dev_Properties::blockChosen, this, &Main_Window_Dev::showChild);
+  connect(&properties(), &FB_Dev_Properties::statusText, this, &Main_Window_Dev::showInfo);
+  connect(mEditors, &FB_Block_Editors::statusText, this, &Main_Window_Dev::showInfo);
   connect(&catalogue(), &FB_Dev_New_Control::insertRequested, this, &Main_Window_Dev::insertBlock);
   connect(&pageTabs(), &Page_Tabs::logicPageOpened, this, &Main_Window_Dev::connectLogicPage);
   connect(&mSession.history(), &History::stepApplied, this, &Main_Window_Dev::followStep);
@@ -33,6 +41,7 @@ void Main_Window_Dev::connectPageCommands() {
 void Main_Window_Dev::connectLogicPage(FB_Page& page) {
   connect(&page, &FB_Page::selectionChanged, this, [this, &page] { followSelection(page); });
   connect(&page, &FB_Page::propertiesRequested, mPageCommands, &FB_Page_List_Commands::onProperties);
+  connect(&page, &FB_Page::editorRequested, mEditors, &FB_Block_Editors::open);
   connect(&page, &FB_Page::usagesRequested, this, [this](const QUuid& key) { resultDialog(mUsages).showUses(key); });
   connect(&page, &FB_Page::typeUsagesRequested, this, [this](int type) { resultDialog(mUsages).showType(type); });
   connect(&page, &FB_Page::linkActivated, this, &Main_Window_Dev::showChild);
@@ -42,7 +51,7 @@ void Main_Window_Dev::connectLogicPage(FB_Page& page) {
 }
 
 /// The tree of pages shows the selected block.
-void Main_Window_Dev::followSelection(const FB_Page& page) {
+void Main_Window_Dev::followSelection(FB_Page& page) {
   const QList<QUuid> blocks = page.selectedBlocks();
   if (&page == pageTabs().logicPage()) {
     if (blocks.isEmpty()) {
@@ -50,6 +59,9 @@ void Main_Window_Dev::followSelection(const FB_Page& page) {
     } else {
       pageView().showBlock(page.pageGuid(), blocks.last());
     }
+  }
+  if (&page == pageTabs().logicPage()) {
+    properties().showBlocks(page);
   }
   updateActions();
 }

@@ -2,6 +2,7 @@
 
 #include "db/Binding_Refresh.h"
 #include "db/ProjectDatabase.h"
+#include "fb/FB_Block_Editors.h"
 #include "fb/FB_Block_Host.h"
 #include "fb/model/FB_Geometry.h"
 
@@ -64,11 +65,15 @@ bool FB_Base::belongsToElement() const {
 }
 
 bool FB_Base::hasEditor() const {
-  return false;
+  return FB_Block_Editors::has(mRecord.mType);
 }
 
 bool FB_Base::openEditor() {
-  return false;
+  const bool isThere = hasEditor();
+  if (isThere) {
+    mHost.openBlockEditor(*this);
+  }
+  return isThere;
 }
 
 bool FB_Base::fillContextMenu(QMenu&) {

@@ -50,6 +50,8 @@ public:
   virtual void addressDropped(const FB_Pin_Ref& pin, const QUuid& address) = 0;
   /// The block was selected (operation `setSelected`).
   virtual void blockSelected(FB_Base& block) = 0;
+  /// The window in which the block is edited shall open.
+  virtual void openBlockEditor(FB_Base& block) = 0;
 
   /// What the blocks of the page draw their texts with.
   [[nodiscard]] FB_Texts& texts() { return mTexts; }

@@ -150,6 +150,7 @@ public:
   void pinHovered(FB_Base& block, const FB_Pin_Ref* pin) override;
   void addressDropped(const FB_Pin_Ref& pin, const QUuid& address) override;
   void blockSelected(FB_Base& block) override;
+  void openBlockEditor(FB_Base& block) override;
 
 signals:
   /// Also when a block of the selection came or went.
@@ -160,6 +161,8 @@ signals:
   /// The other page was chosen that uses what a pin is bound to; the block there.
   void linkActivated(const QUuid& page, const QUuid& block);
   void propertiesRequested(const QUuid& page);
+  /// The window of that block shall open.
+  void editorRequested(const QUuid& block);
   /// Of an address or a variable.
   void usagesRequested(const QUuid& key);
   void typeUsagesRequested(int type);

@@ -107,6 +107,11 @@ void FB_Page::blockSelected(FB_Base& /*block*/) {
   }
 }
 
+void FB_Page::openBlockEditor(FB_Base& block) {
+  cancelGesture();
+  emit editorRequested(block.guid());
+}
+
 void FB_Page::editText(const QUuid& guid) {
   closeEditor();
   const int index = mBlocks.indexOf(guid);

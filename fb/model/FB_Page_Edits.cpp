@@ -52,6 +52,11 @@ Edit_Result checkLength(const QString& text, qsizetype limit) {
 /// Whether the value fits what the type declares. A number of pins that is too small or none is corrected later.
 Edit_Result checkValue(const FB_Type& type, int index, const QString& value) {
   const FB_Parameter& parameter = type.mParameters[static_cast<size_t>(index)];
+  const auto isMeant = [&value](const FB_Choice& choice) { return QString::number(choice.mValue) == value; };
+  if (parameter.mEditor == FB_Editor::Choice && !std::ranges::any_of(parameter.mChoices, isMeant)) {
+    return Edit_Result::refused(
+        tr("\"%1\" steht bei \"%2\" nicht zur Wahl.").arg(value.left(40), FB_Types::text(parameter.mName)));
+  }
   if (parameter.mEditor != FB_Editor::Number) {
     return Edit_Result::done();
   }

@@ -2,6 +2,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 
 /// Why a user could not set the default; empty for one that is good.
@@ -19,9 +21,8 @@ QString wrongDefault(const FB_Parameter& parameter) {
   case FB_Editor::Check:
     return value == u"0" || value == u"1" ? QString() : QStringLiteral("default neither 0 nor 1");
   case FB_Editor::Choice: {
-    const auto choices = QString::fromUtf8(parameter.mChoices).count(u'|') + 1;
-    return isNumber && value.toInt() >= 0 && value.toInt() < choices ? QString()
-                                                                     : QStringLiteral("default is no choice");
+    const auto isDefault = [&value](const FB_Choice& choice) { return QString::number(choice.mValue) == value; };
+    return std::ranges::any_of(parameter.mChoices, isDefault) ? QString() : QStringLiteral("default is no choice");
   }
   case FB_Editor::Text:
   case FB_Editor::File_Name:

@@ -36,6 +36,7 @@ public:
   void pinHovered(FB_Base&, const FB_Pin_Ref*) override {}
   void addressDropped(const FB_Pin_Ref& pin, const QUuid& address) override { mDropped = {pin, address}; }
   void blockSelected(FB_Base&) override { ++mSelected; }
+  void openBlockEditor(FB_Base& /*block*/) override {}
 
   static const ProjectDatabase& empty() {
     static const ProjectDatabase database;

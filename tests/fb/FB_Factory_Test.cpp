@@ -26,6 +26,7 @@ public:
   void pinHovered(FB_Base&, const FB_Pin_Ref*) override {}
   void addressDropped(const FB_Pin_Ref&, const QUuid&) override {}
   void blockSelected(FB_Base&) override {}
+  void openBlockEditor(FB_Base& /*block*/) override {}
 
   Session_Rig mRig;
 };

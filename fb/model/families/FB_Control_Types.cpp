@@ -27,11 +27,13 @@ constexpr FB_Pin_Group cHeatingCurvePins[] = {
     output(QT_TRANSLATE_NOOP("FB_Types", "Heizbedarf"), QT_TRANSLATE_NOOP("FB_Types", "H")),
 };
 
+constexpr FB_Choice cTwoPointDirections[] = {{0, QT_TRANSLATE_NOOP("FB_Types", "Heizen")},
+                                             {1, QT_TRANSLATE_NOOP("FB_Types", "Kühlen")}};
 constexpr FB_Parameter cTwoPoint[] = {
     cHysteresis,
     choice(QT_TRANSLATE_NOOP("FB_Types", "Wirksinn"),
            QT_TRANSLATE_NOOP("FB_Types", "Heizen schaltet unter dem Sollwert ein, Kühlen darüber"),
-           QT_TRANSLATE_NOOP("FB_Types", "Heizen|Kühlen")),
+           cTwoPointDirections),
     cSend,
 };
 constexpr FB_Pin_Group cTwoPointPins[] = {

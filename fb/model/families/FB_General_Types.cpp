@@ -7,12 +7,14 @@ namespace {
 
 using namespace FB_Shared;
 
+constexpr FB_Choice cConstantKinds[] = {{0, QT_TRANSLATE_NOOP("FB_Types", "Zahl")},
+                                        {1, QT_TRANSLATE_NOOP("FB_Types", "Text")}};
 constexpr FB_Parameter cConstant[] = {
     {QT_TRANSLATE_NOOP("FB_Types", "Wert"),
      QT_TRANSLATE_NOOP("FB_Types", "Was der Ausgang sendet; Zahlen mit Punkt als Dezimalzeichen"), FB_Editor::Text,
      "0"},
     choice(QT_TRANSLATE_NOOP("FB_Types", "Art"), QT_TRANSLATE_NOOP("FB_Types", "Wie der Wert gelesen wird"),
-           QT_TRANSLATE_NOOP("FB_Types", "Zahl|Text")),
+           cConstantKinds),
 };
 constexpr FB_Pin_Group cConstantPins[] = {
     output(QT_TRANSLATE_NOOP("FB_Types", "Wert"), QT_TRANSLATE_NOOP("FB_Types", "W"))};

@@ -19,13 +19,17 @@ constexpr FB_Parameter cInversion[] = {
 };
 constexpr FB_Pin_Group cInversionPins[] = {inputs(1), outputs(1)};
 
+constexpr FB_Choice cPriorities[] = {{0, QT_TRANSLATE_NOOP("FB_Types", "Rücksetzen")},
+                                     {1, QT_TRANSLATE_NOOP("FB_Types", "Setzen")}};
+constexpr FB_Choice cStartStates[] = {{0, QT_TRANSLATE_NOOP("FB_Types", "Aus")},
+                                      {1, QT_TRANSLATE_NOOP("FB_Types", "Ein")},
+                                      {2, QT_TRANSLATE_NOOP("FB_Types", "Letzter Zustand")}};
 constexpr FB_Parameter cSetReset[] = {
     choice(QT_TRANSLATE_NOOP("FB_Types", "Vorrang"),
-           QT_TRANSLATE_NOOP("FB_Types", "Was gilt, wenn beide Eingänge gesetzt sind"),
-           QT_TRANSLATE_NOOP("FB_Types", "Rücksetzen|Setzen")),
+           QT_TRANSLATE_NOOP("FB_Types", "Was gilt, wenn beide Eingänge gesetzt sind"), cPriorities),
     choice(QT_TRANSLATE_NOOP("FB_Types", "Zustand beim Start"),
            QT_TRANSLATE_NOOP("FB_Types", "Mit welchem Zustand der Ausgang beim Start der Steuerung beginnt"),
-           QT_TRANSLATE_NOOP("FB_Types", "Aus|Ein|Letzter Zustand")),
+           cStartStates),
     cSend,
 };
 constexpr FB_Pin_Group cSetResetPins[] = {

@@ -22,23 +22,25 @@ namespace FB_Shared {
           .mDefault = usual,
           .mMinimum = minimum,
           .mMaximum = 864000,
-          .mDecimals = 1};
+          .mDecimals = 1,
+          .mUnit = QT_TRANSLATE_NOOP("FB_Types", "s")};
 }
 
 [[nodiscard]] constexpr FB_Parameter check(const char* name, const char* description, const char* usual = "0") {
   return {.mName = name, .mDescription = description, .mEditor = FB_Editor::Check, .mDefault = usual};
 }
 
-[[nodiscard]] constexpr FB_Parameter choice(const char* name, const char* description, const char* choices,
-                                            const char* usual = "0") {
+[[nodiscard]] constexpr FB_Parameter choice(const char* name, const char* description,
+                                            std::span<const FB_Choice> choices, const char* usual = "0") {
   return {
       .mName = name, .mDescription = description, .mEditor = FB_Editor::Choice, .mDefault = usual, .mChoices = choices};
 }
 
-inline constexpr FB_Parameter cSend =
-    choice(QT_TRANSLATE_NOOP("FB_Types", "Ausgang senden"),
-           QT_TRANSLATE_NOOP("FB_Types", "Wann der Baustein ein Telegramm auf die Adresse des Ausgangs sendet"),
-           QT_TRANSLATE_NOOP("FB_Types", "Bei Änderung|Bei jedem Eingangstelegramm"));
+inline constexpr FB_Choice cSendChoices[] = {{0, QT_TRANSLATE_NOOP("FB_Types", "Bei Änderung")},
+                                             {1, QT_TRANSLATE_NOOP("FB_Types", "Bei jedem Eingangstelegramm")}};
+inline constexpr FB_Parameter cSend = choice(
+    QT_TRANSLATE_NOOP("FB_Types", "Ausgang senden"),
+    QT_TRANSLATE_NOOP("FB_Types", "Wann der Baustein ein Telegramm auf die Adresse des Ausgangs sendet"), cSendChoices);
 
 inline constexpr FB_Parameter cHysteresis = {
     .mName = QT_TRANSLATE_NOOP("FB_Types", "Hysterese"),

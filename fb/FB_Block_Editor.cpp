@@ -1,0 +1,21 @@
+#include "fb/FB_Block_Editor.h"
+
+#include "db/Project_Session.h"
+
+#include <QCloseEvent>
+
+FB_Block_Editor::FB_Block_Editor(Project_Session& session, App_Settings& settings, const QUuid& block, QWidget* parent)
+    : QMainWindow(parent),
+      mSession(session),
+      mSettings(settings),
+      mBlock(block) {
+  setAttribute(Qt::WA_DeleteOnClose);
+}
+
+const DB_FB_Control* FB_Block_Editor::record() const {
+  return std::as_const(mSession).database().mFbPages.child(mBlock);
+}
+
+void FB_Block_Editor::closeEvent(QCloseEvent* event) {
+  event->setAccepted(!record() || finish());
+}

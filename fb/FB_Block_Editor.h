@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QUuid>
+
+class App_Settings;
+class DB_FB_Control;
+class Project_Session;
+
+/// A window of its own in which one block is edited: its script, its table of registers. It stays open beside the work
+/// and closes when the block or the project is gone. Session and settings outlive it.
+class FB_Block_Editor : public QMainWindow {
+  Q_OBJECT
+
+public:
+  FB_Block_Editor(Project_Session& session, App_Settings& settings, const QUuid& block, QWidget* parent);
+
+  [[nodiscard]] QUuid block() const { return mBlock; }
+  /// Hands what was typed to the project, or asks whether to. False when the user wants to go on editing.
+  [[nodiscard]] virtual bool finish() = 0;
+  /// The records of the project changed, perhaps that of the block; it is still there.
+  virtual void follow() = 0;
+
+signals:
+  /// The help page of that file name: "fb_lua_script.html".
+  void helpRequested(const QString& page);
+  /// Something for the status bar.
+  void statusText(const QString& text);
+
+protected:
+  [[nodiscard]] Project_Session& session() const { return mSession; }
+  [[nodiscard]] App_Settings& settings() const { return mSettings; }
+  /// Null when it is gone.
+  [[nodiscard]] const DB_FB_Control* record() const;
+
+  /// Asks `finish`.
+  void closeEvent(QCloseEvent* event) override;
+
+private:
+  Project_Session& mSession;
+  App_Settings& mSettings;
+  QUuid mBlock;
+};

@@ -1,0 +1,92 @@
+#include "fb/FB_Block_Editors.h"
+
+#include "db/Project_Session.h"
+#include "fb/FB_Page_Follower.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+using Make = FB_Block_Editor* (*)(Project_Session&, App_Settings&, const QUuid&, QWidget*);
+
+struct Row {
+  int mType = 0;
+  const char* mCommand = ""; ///< German, with its access key
+  Make mMake = nullptr;
+};
+
+template <class Editor>
+[[maybe_unused]] FB_Block_Editor* make(Project_Session& session, App_Settings& settings, const QUuid& block,
+                                       QWidget* parent) {
+  return new Editor(session, settings, block, parent);
+}
+
+constexpr std::array<Row, 0> cRows = {};
+
+const Row* find(int type) {
+  const auto at = std::ranges::find(cRows, type, &Row::mType);
+  return at == cRows.end() ? nullptr : at;
+}
+
+} // namespace
+
+FB_Block_Editors::FB_Block_Editors(Project_Session& session, App_Settings& settings, QWidget* windows)
+    : QObject(windows),
+      mSession(session),
+      mSettings(settings),
+      mWindows(windows) {
+  auto* const follower = new FB_Page_Follower(mSession.database().mFbPages, this);
+  connect(follower, &FB_Page_Follower::changed, this, &FB_Block_Editors::follow);
+  connect(&mSession, &Project_Session::closed, this, &FB_Block_Editors::follow);
+}
+
+bool FB_Block_Editors::has(int type) {
+  return find(type) != nullptr;
+}
+
+QString FB_Block_Editors::commandText(int type) {
+  const Row* const row = find(type);
+  return row ? tr(row->mCommand) : QString();
+}
+
+FB_Block_Editor* FB_Block_Editors::open(const QUuid& block) {
+  QPointer<FB_Block_Editor>& editor = mOpen[block];
+  if (!editor) {
+    const DB_FB_Control* const record = std::as_const(mSession).database().mFbPages.child(block);
+    const Row* const row = record ? find(record->mType) : nullptr;
+    if (!row) {
+      mOpen.remove(block);
+      return nullptr;
+    }
+    editor = row->mMake(mSession, mSettings, block, mWindows);
+    connect(editor, &FB_Block_Editor::helpRequested, this, &FB_Block_Editors::helpRequested);
+    connect(editor, &FB_Block_Editor::statusText, this, &FB_Block_Editors::statusText);
+  }
+  editor->show();
+  editor->raise();
+  editor->activateWindow();
+  return editor;
+}
+
+bool FB_Block_Editors::finishAll() {
+  const auto open = mOpen.values();
+  return std::ranges::all_of(open, [](const auto& editor) { return !editor || editor->finish(); });
+}
+
+bool FB_Block_Editors::areAnyOpen() const {
+  return std::ranges::any_of(mOpen, [](const auto& editor) { return !editor.isNull(); });
+}
+
+void FB_Block_Editors::follow() {
+  const auto open = mOpen;
+  for (auto it = open.begin(); it != open.end(); ++it) {
+    if (!it.value()) {
+      mOpen.remove(it.key());
+    } else if (std::as_const(mSession).database().mFbPages.child(it.key())) {
+      it.value()->follow();
+    } else {
+      it.value()->close();
+    }
+  }
+}
