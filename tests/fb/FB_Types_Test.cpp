@@ -67,11 +67,12 @@ private slots:
     QTest::addColumn<QString>("problem");
     const FB_Pin_Group pin{FB_Side::Input, "Eingang", "E"};
     const FB_Parameter count{"Anzahl", "", FB_Editor::Number, "2", 2, 64};
+    static constexpr FB_Choice cChoices[] = {{0, "a"}, {1, "b"}};
     QTest::newRow("below") << FB_Parameter{"P", "", FB_Editor::Number, "1", 2, 64} << pin << "out of range";
     QTest::newRow("decimals") << FB_Parameter{"P", "", FB_Editor::Number, "1.5", 0, 64} << pin << "many decimals";
     QTest::newRow("no number") << FB_Parameter{"P", "", FB_Editor::Number, "", 0, 64} << pin << "out of range";
     QTest::newRow("check") << FB_Parameter{"P", "", FB_Editor::Check, "ja"} << pin << "neither 0 nor 1";
-    QTest::newRow("choice") << FB_Parameter{"P", "", FB_Editor::Choice, "2", 0, 0, 0, "a|b"} << pin << "no choice";
+    QTest::newRow("choice") << FB_Parameter{"P", "", FB_Editor::Choice, "2", 0, 0, 0, cChoices} << pin << "no choice";
     QTest::newRow("nameless") << FB_Parameter{"", "", FB_Editor::Text} << pin << "without a name";
     QTest::newRow("pin") << count << FB_Pin_Group{FB_Side::Input, "Eingang", ""} << "pin without";
     QTest::newRow("nothing counts") << count << FB_Pin_Group{FB_Side::Input, "E%1", "E%1", 2, 1} << "not there";
