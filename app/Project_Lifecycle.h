@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 class App_Settings;
 class Session_State;
@@ -67,6 +68,8 @@ private:
   bool load(const QString& target, Opening opening);
   void afterLoading(bool isRemembered);
   void tellDamage();
+  /// As many lines as a message can show.
+  [[nodiscard]] static QStringList shortened(QStringList lines);
   void reportMissing(const QString& path);
   [[nodiscard]] bool mayOverwrite();
   bool saveFile();

@@ -3,6 +3,7 @@
 #include "db/DB_Bindings.h"
 #include "db/DB_Text.h"
 #include "fb/model/FB_Edit.h"
+#include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Positions.h"
 #include "fb/model/FB_Types.h"
@@ -193,4 +194,17 @@ Edit_Result FB_Page_Edits::setParameter(Project_Session& session, const QUuid& b
     FB_Variables::release(edit, variables - variablesOf({edit.block(block)})); // those of pins that are gone
   }
   return result;
+}
+
+QStringList FB_Page_Edits::lostBindings(const Project_Session& session, const QList<QUuid>& blocks, int index,
+                                        const QString& value) {
+  QStringList lost;
+  for (const QUuid& guid : blocks) {
+    const DB_FB_Control* const block = session.database().mFbPages.child(guid);
+    const QStringList pins = block ? FB_Pins::lostBindings(*block, index, value) : QStringList();
+    for (const QString& pin : pins) {
+      lost.append(blocks.size() == 1 ? pin : QStringLiteral("%1: %2").arg(FB_Geometry::title(*block), pin));
+    }
+  }
+  return lost;
 }

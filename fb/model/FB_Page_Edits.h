@@ -7,6 +7,7 @@
 #include <QList>
 #include <QPointF>
 #include <QString>
+#include <QStringList>
 #include <QUuid>
 
 class Project_Session;
@@ -73,5 +74,9 @@ Edit_Result setTitle(Project_Session& session, const QUuid& block, const QString
 /// One parameter; the pins follow. What the type declares for it is kept to, but for a number of pins that is too small
 /// or no number: that is corrected.
 Edit_Result setParameter(Project_Session& session, const QUuid& block, int index, const QString& value);
+/// What `setParameter` would take off the blocks with that value: a bound pin each, "Und: Eingang 3"; of a single block
+/// only the pins' names. To ask about before the edit, which undo takes back with the bindings.
+[[nodiscard]] QStringList lostBindings(const Project_Session& session, const QList<QUuid>& blocks, int index,
+                                       const QString& value);
 
 } // namespace FB_Page_Edits
