@@ -121,6 +121,20 @@ private slots:
     }
   }
 
+  void everyTypeHasItsHelp() {
+    QStringList missing;
+    for (const auto& category : FB_Types::categories().first(5)) {
+      for (const FB_Type& type : category.mTypes) {
+        const QString page = FB_Types::helpFileName(type.mId);
+        QFile file(QFINDTESTDATA("../../resources/help") + u'/' + page);
+        if (type.mHasPins && !(file.open(QIODevice::ReadOnly) && file.readAll().startsWith("<p>"))) {
+          missing.append(page);
+        }
+      }
+    }
+    QCOMPARE(missing, QStringList());
+  }
+
   void everyCountKeepsToItsEnds() {
     for (const FB_Type* type : FB_Types::all()) {
       for (const FB_Pin_Group& group : type->mPins) {
