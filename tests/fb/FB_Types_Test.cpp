@@ -91,6 +91,7 @@ private slots:
     QTest::newRow("other minimum") << count << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 1, 0} << "no count";
     QTest::newRow("numberless") << count << FB_Pin_Group{FB_Side::Output, "A", "A%1", 2, 0} << "without a number";
     QTest::newRow("type of a pin") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1-1"} << "no datapoint";
+    QTest::newRow("unknown type") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1.999"} << "no datapoint";
     QTest::newRow("only an input") << count << FB_Pin_Group{FB_Side::Input, "E", "E"} << "neither an output";
   }
   void faultsOfADeclarationAreFound() {

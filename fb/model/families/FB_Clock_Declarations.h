@@ -34,7 +34,8 @@ inline constexpr FB_Parameter cPulseAtTime[] = {
     day(QT_TRANSLATE_NOOP("FB_Types", "Sonntag"), "1"),
 };
 inline constexpr FB_Pin_Group cPulseAtTimePins[] = {
-    with(cEnable, cBit, QT_TRANSLATE_NOOP("FB_Types", "Aus unterdrückt den Impuls; nicht verbunden ist freigegeben")),
+    with(cEnable, "1.003",
+         QT_TRANSLATE_NOOP("FB_Types", "Aus unterdrückt den Impuls; nicht verbunden ist freigegeben")),
     with(cOutput, cBit, QT_TRANSLATE_NOOP("FB_Types", "Ein zum Zeitpunkt, nach der Impulsdauer Aus"))};
 
 /// So many switching times a week clock has for each of its outputs.

@@ -88,7 +88,7 @@ inline constexpr FB_Parameter cKnx[] = {
 };
 inline constexpr FB_Pin_Group cKnxPins[] = {
     cReset,
-    input(QT_TRANSLATE_NOOP("FB_Types", "Senden sperren"), QT_TRANSLATE_NOOP("FB_Types", "Sperr"), "1.003",
+    input(QT_TRANSLATE_NOOP("FB_Types", "Senden sperren"), QT_TRANSLATE_NOOP("FB_Types", "Sperr"), cBit,
           QT_TRANSLATE_NOOP("FB_Types", "Ein verwirft alles, was die Steuerung auf den KNX senden will")),
     cConnected,
     output(QT_TRANSLATE_NOOP("FB_Types", "Buslast"), QT_TRANSLATE_NOOP("FB_Types", "Last"), cPercent,
@@ -132,7 +132,7 @@ inline constexpr FB_Parameter cDmx[] = {
            QT_TRANSLATE_NOOP("FB_Types", "Was gesendet wird, wenn die Freigabe fehlt"), cDmxFailures),
 };
 inline constexpr FB_Pin_Group cDmxPins[] = {
-    with(cEnable, cBit, QT_TRANSLATE_NOOP("FB_Types", "Aus beendet das Senden; nicht verbunden ist freigegeben")),
+    with(cEnable, "1.003", QT_TRANSLATE_NOOP("FB_Types", "Aus beendet das Senden; nicht verbunden ist freigegeben")),
     counted(input(QT_TRANSLATE_NOOP("FB_Types", "Kanal %1"), QT_TRANSLATE_NOOP("FB_Types", "K%1"), cPercent,
                   QT_TRANSLATE_NOOP("FB_Types", "Helligkeit des Kanals, gesendet als 0 bis 255")),
             1),
@@ -234,7 +234,7 @@ inline constexpr FB_Parameter cSlave[] = {
             QT_TRANSLATE_NOOP("FB_Types", "Fragt so viele Sekunden kein Master, geht Verbunden auf Aus"), "60", 1),
 };
 inline constexpr FB_Pin_Group cSlavePins[] = {
-    with(cEnable, cBit,
+    with(cEnable, "1.003",
          QT_TRANSLATE_NOOP("FB_Types", "Aus schließt alle Verbindungen; nicht verbunden ist freigegeben")),
     counted(input(QT_TRANSLATE_NOOP("FB_Types", "Lesewert %1"), QT_TRANSLATE_NOOP("FB_Types", "L%1"), "",
                   QT_TRANSLATE_NOOP("FB_Types", "Wert, den ein Master liest")),

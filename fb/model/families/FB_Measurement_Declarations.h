@@ -63,7 +63,8 @@ inline constexpr FB_Pin_Group cDifferencePins[] = {
           QT_TRANSLATE_NOOP("FB_Types", "Wert, von dem abgezogen wird, etwa der Kollektor")),
     input(QT_TRANSLATE_NOOP("FB_Types", "Wert 2"), QT_TRANSLATE_NOOP("FB_Types", "W2"), "",
           QT_TRANSLATE_NOOP("FB_Types", "Wert, der abgezogen wird, etwa der Speicher")),
-    with(cEnable, cBit, QT_TRANSLATE_NOOP("FB_Types", "Aus schaltet den Ausgang aus; nicht verbunden ist freigegeben")),
+    with(cEnable, "1.003",
+         QT_TRANSLATE_NOOP("FB_Types", "Aus schaltet den Ausgang aus; nicht verbunden ist freigegeben")),
     with(cOutput, cBit,
          QT_TRANSLATE_NOOP("FB_Types", "Ein über der oberen, Aus unter der unteren Grenze, dazwischen unverändert")),
     output(QT_TRANSLATE_NOOP("FB_Types", "Differenz"), QT_TRANSLATE_NOOP("FB_Types", "Diff"), "",
@@ -166,7 +167,7 @@ inline constexpr FB_Parameter cMonitoring[] = {
 inline constexpr FB_Pin_Group cMonitoringPins[] = {
     input(QT_TRANSLATE_NOOP("FB_Types", "Messwert"), QT_TRANSLATE_NOOP("FB_Types", "M"), "",
           QT_TRANSLATE_NOOP("FB_Types", "Wert, der überwacht wird")),
-    with(cEnable, cBit,
+    with(cEnable, "1.003",
          QT_TRANSLATE_NOOP("FB_Types", "Aus unterdrückt alle Meldungen; nicht verbunden ist freigegeben")),
     input(QT_TRANSLATE_NOOP("FB_Types", "Quittieren"), QT_TRANSLATE_NOOP("FB_Types", "Quit"), cTrigger,
           QT_TRANSLATE_NOOP("FB_Types", "Ein löscht einen Alarm, dessen Ursache weg ist")),

@@ -94,7 +94,7 @@ inline constexpr FB_Parameter cClock1[] = {
           QT_TRANSLATE_NOOP("FB_Types", "Nach der Freigabe ist der Ausgang zuerst Ein, sonst zuerst Aus"), "1"),
 };
 inline constexpr FB_Pin_Group cClock1Pins[] = {
-    with(cEnable, cBit,
+    with(cEnable, "1.003",
          QT_TRANSLATE_NOOP("FB_Types", "Ein lässt den Takt laufen, Aus hält ihn an und schaltet den Ausgang aus")),
     with(cOutput, cBit, QT_TRANSLATE_NOOP("FB_Types", "Takt"))};
 
@@ -109,7 +109,7 @@ inline constexpr FB_Parameter cClock2[] = {
           QT_TRANSLATE_NOOP("FB_Types", "Nach der Freigabe ist der Ausgang zuerst Ein, sonst zuerst Aus"), "1"),
 };
 inline constexpr FB_Pin_Group cClock2Pins[] = {
-    with(cEnable, cBit,
+    with(cEnable, "1.003",
          QT_TRANSLATE_NOOP("FB_Types", "Ein lässt den Takt laufen, Aus hält ihn an und schaltet den Ausgang aus")),
     input(QT_TRANSLATE_NOOP("FB_Types", "Einschaltdauer"), QT_TRANSLATE_NOOP("FB_Types", "tEin"), "7.005",
           QT_TRANSLATE_NOOP("FB_Types", "Sekunden, die statt des Parameters gelten")),
@@ -185,7 +185,8 @@ inline constexpr FB_Parameter cModulator1[] = {
 inline constexpr FB_Pin_Group cModulator1Pins[] = {
     input(QT_TRANSLATE_NOOP("FB_Types", "Stellwert"), QT_TRANSLATE_NOOP("FB_Types", "Y"), cPercent,
           QT_TRANSLATE_NOOP("FB_Types", "Anteil der Zykluszeit, den der Ausgang Ein ist")),
-    with(cEnable, cBit, QT_TRANSLATE_NOOP("FB_Types", "Aus schaltet den Ausgang aus; nicht verbunden ist freigegeben")),
+    with(cEnable, "1.003",
+         QT_TRANSLATE_NOOP("FB_Types", "Aus schaltet den Ausgang aus; nicht verbunden ist freigegeben")),
     with(cOutput, cBit, QT_TRANSLATE_NOOP("FB_Types", "Ein und Aus im Verhältnis des Stellwerts"))};
 
 inline constexpr FB_Parameter cModulator2[] = {
@@ -203,7 +204,7 @@ inline constexpr FB_Parameter cModulator2[] = {
 inline constexpr FB_Pin_Group cModulator2Pins[] = {
     input(QT_TRANSLATE_NOOP("FB_Types", "Stellwert"), QT_TRANSLATE_NOOP("FB_Types", "Y"), "8.010",
           QT_TRANSLATE_NOOP("FB_Types", "Stellwert von -100 bis 100 %, negativ für die Gegenrichtung")),
-    with(cEnable, cBit,
+    with(cEnable, "1.003",
          QT_TRANSLATE_NOOP("FB_Types", "Aus schaltet beide Ausgänge aus; nicht verbunden ist freigegeben")),
     output(QT_TRANSLATE_NOOP("FB_Types", "Ausgang plus"), QT_TRANSLATE_NOOP("FB_Types", "A+"), cBit,
            QT_TRANSLATE_NOOP("FB_Types", "Ein und Aus im Verhältnis eines positiven Stellwerts, etwa Heizen")),
