@@ -1,6 +1,6 @@
 #include "fb/model/FB_Type_Check.h"
 
-#include "base/Datapoint_Id.h"
+#include "base/Datapoint_Types.h"
 
 #include <QSet>
 
@@ -18,6 +18,12 @@ bool isTrimmed(const char* text) {
 /// For a row of the property panel or of a table: something, without blanks around it and without a full stop.
 bool isDescription(const char* text) {
   return *text && isTrimmed(text) && !QByteArrayView(text).endsWith('.');
+}
+
+/// A datapoint type, or the format of several.
+bool isKnown(const char* dpt) {
+  const auto id = Datapoint_Id::parse(QString::fromLatin1(dpt));
+  return id && (id->hasSub() ? Datapoint_Types::find(*id) != nullptr : !Datapoint_Types::ofMain(id->mMain).empty());
 }
 
 /// Why a user could not set the default; empty for one that is good.
@@ -107,7 +113,7 @@ QString wrongPins(const FB_Type& type, const FB_Pin_Group& group) {
   if (group.mCount < 0 || group.mParameter >= static_cast<int>(type.mParameters.size())) {
     return QStringLiteral("pins counted by what is not there");
   }
-  if (*group.mDpt && !Datapoint_Id::parse(QString::fromLatin1(group.mDpt))) {
+  if (*group.mDpt && !isKnown(group.mDpt)) {
     return QStringLiteral("pin of no datapoint type");
   }
   if (*group.mDescription && !isDescription(group.mDescription)) {

@@ -91,6 +91,7 @@ private slots:
     QTest::newRow("other minimum") << count << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 1, 0} << "no count";
     QTest::newRow("numberless") << count << FB_Pin_Group{FB_Side::Output, "A", "A%1", 2, 0} << "without a number";
     QTest::newRow("type of a pin") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1-1"} << "no datapoint";
+    QTest::newRow("unknown type") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1.999"} << "no datapoint";
     QTest::newRow("only an input") << count << FB_Pin_Group{FB_Side::Input, "E", "E"} << "neither an output";
   }
   void faultsOfADeclarationAreFound() {
@@ -119,6 +120,20 @@ private slots:
       QVERIFY2(again.isEqual(*block) && FB_Pins::isBuilt(again), type->mClass);
       QCOMPARE(again.mParams, block->mParams);
     }
+  }
+
+  void everyTypeHasItsHelp() {
+    QStringList missing;
+    for (const auto& category : FB_Types::categories().first(5)) {
+      for (const FB_Type& type : category.mTypes) {
+        const QString page = FB_Types::helpFileName(type.mId);
+        QFile file(QFINDTESTDATA("../../resources/help") + u'/' + page);
+        if (type.mHasPins && !(file.open(QIODevice::ReadOnly) && file.readAll().startsWith("<p>"))) {
+          missing.append(page);
+        }
+      }
+    }
+    QCOMPARE(missing, QStringList());
   }
 
   void everyCountKeepsToItsEnds() {
