@@ -1,4 +1,5 @@
 #include "fb/model/families/FB_Families.h"
+#include "fb/model/families/FB_Modbus_Declaration.h"
 
 #include <QtGlobal>
 
@@ -12,7 +13,7 @@ constexpr FB_Type cTypes[] = {
     {1918, QT_TRANSLATE_NOOP("FB_Types", "KNX Schnittstelle"), "FB_KNX_Interface"},
     {1910, QT_TRANSLATE_NOOP("FB_Types", "DMX"), "FB_DMX"},
     {1913, QT_TRANSLATE_NOOP("FB_Types", "M-BUS"), "FB_MBus"},
-    {1917, QT_TRANSLATE_NOOP("FB_Types", "Modbus Master"), "FB_Modbus_Master"},
+    FB_Modbus_Declaration::cType,
     {1915, QT_TRANSLATE_NOOP("FB_Types", "Modbus TCP Slave"), "FB_Modbus_TCP_Slave"},
     {.mId = 1337, .mName = QT_TRANSLATE_NOOP("FB_Types", "CPU Info"), .mClass = "FB_CPU_Info", .mIsOnce = true},
 };

@@ -1,4 +1,5 @@
 #include "fb/model/families/FB_Families.h"
+#include "fb/model/families/FB_Formula_Declaration.h"
 #include "fb/model/families/FB_Shared_Declarations.h"
 
 namespace {
@@ -34,7 +35,7 @@ constexpr FB_Type cTypes[] = {
     {1336, QT_TRANSLATE_NOOP("FB_Types", "Rundung"), "FB_Mathematics_Round"},
     {1939, QT_TRANSLATE_NOOP("FB_Types", "Potenzieren"), "FB_Mathematics_Power"},
     {1394, QT_TRANSLATE_NOOP("FB_Types", "Modulo *"), "FB_Mathematics_Modulo"},
-    {1393, QT_TRANSLATE_NOOP("FB_Types", "Formel *"), "FB_Formula"},
+    FB_Formula_Declaration::cType,
     {305, QT_TRANSLATE_NOOP("FB_Types", "Sonnenstand"), "FB_Sun_Position"},
     {64, QT_TRANSLATE_NOOP("FB_Types", "Multiplexer"), "FB_Multiplex"},
     {65, QT_TRANSLATE_NOOP("FB_Types", "Demultiplexer"), "FB_Demultiplex"},
