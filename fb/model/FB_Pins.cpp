@@ -1,5 +1,6 @@
 #include "fb/model/FB_Pins.h"
 
+#include "fb/model/FB_Register_Pins.h"
 #include "fb/model/FB_Types.h"
 
 #include <QCoreApplication>
@@ -7,7 +8,9 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
+#include <span>
 #include <utility>
 
 namespace {
@@ -78,6 +81,26 @@ std::vector<DB_FB_Pin> build(std::vector<DB_FB_Pin> old, const FB_Type& type, FB
   return pins;
 }
 
+/// Pins of a side that the type itself declares, of a type whose registers make the others.
+size_t declaredCount(const FB_Type& type, FB_Side side) {
+  size_t count = 0;
+  for (const FB_Pin_Group& group : type.mPins) {
+    count += group.mSide == side ? static_cast<size_t>(group.mCount) : 0;
+  }
+  return count;
+}
+
+/// The pins of the registers, bound as those behind the declared ones are in `old`.
+std::vector<DB_FB_Pin> registerPins(const DB_FB_Control& block, const FB_Type& type, FB_Side side) {
+  if (!type.mHasRegisterPins) {
+    return {};
+  }
+  const std::span<const DB_FB_Pin> old = FB_Pins::pins(block, side);
+  const size_t declared = declaredCount(type, side);
+  return FB_Register_Pins::build(block, side, old.subspan(std::min(declared, old.size())),
+                                 FB_Pins::cMostPins - declared);
+}
+
 } // namespace
 
 std::unique_ptr<DB_FB_Control> FB_Pins::makeBlock(int type, const QPointF& position) {
@@ -109,7 +132,9 @@ void FB_Pins::rebuild(DB_FB_Control& block) {
   }
   for (const FB_Side side : cSides) {
     auto& list = pins(block, side);
+    std::vector<DB_FB_Pin> behind = registerPins(block, *type, side);
     list = build(std::move(list), *type, side, block.mParams);
+    std::move(behind.begin(), behind.end(), std::back_inserter(list));
   }
 }
 
@@ -129,6 +154,10 @@ bool FB_Pins::isBuilt(const DB_FB_Control& block) {
       return false;
     }
     (group.mSide == FB_Side::Input ? inputs : outputs) += static_cast<size_t>(*count);
+  }
+  if (type->mHasRegisterPins) {
+    inputs += FB_Register_Pins::count(block, FB_Side::Input, cMostPins - inputs);
+    outputs += FB_Register_Pins::count(block, FB_Side::Output, cMostPins - outputs);
   }
   const auto isNamed = [](const DB_FB_Pin& pin) { return !pin.mLongName.isEmpty(); };
   return block.mInputs.size() == inputs && block.mOutputs.size() == outputs &&

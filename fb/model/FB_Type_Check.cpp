@@ -202,6 +202,8 @@ QStringList FB_Type_Check::problems(std::span<const FB_Types::Category> categori
       report(!type.mHasPins && (!type.mPins.empty() || !type.mParameters.empty())
                  ? QStringLiteral("declares pins or parameters and says it has none")
                  : QString());
+      const bool isCounted = std::ranges::any_of(type.mPins, [](const auto& group) { return group.mParameter >= 0; });
+      report(type.mHasRegisterPins && isCounted ? QStringLiteral("pins counted twice over") : QString());
       const bool isAmbiguous = hasTwoCounts(type, FB_Side::Input) || hasTwoCounts(type, FB_Side::Output);
       report(isAmbiguous ? QStringLiteral("two counts on one side") : QString());
       report(isSilentForNoReason(type) ? QStringLiteral("neither an output nor a reason for none, or both")

@@ -1,5 +1,6 @@
 #include "fb/model/families/FB_Arithmetic_Declarations.h"
 #include "fb/model/families/FB_Families.h"
+#include "fb/model/families/FB_Formula_Declaration.h"
 #include "fb/model/families/FB_Value_Declarations.h"
 
 namespace {
@@ -37,7 +38,7 @@ constexpr FB_Type cTypes[] = {
          FB_Arithmetic::cPowerPins),
     type(1394, QT_TRANSLATE_NOOP("FB_Types", "Modulo *"), "FB_Mathematics_Modulo", FB_Arithmetic::cModulo,
          FB_Arithmetic::cModuloPins),
-    {1393, QT_TRANSLATE_NOOP("FB_Types", "Formel *"), "FB_Formula"},
+    FB_Formula_Declaration::cType,
     type(305, QT_TRANSLATE_NOOP("FB_Types", "Sonnenstand"), "FB_Sun_Position", FB_Value::cSunPosition,
          FB_Value::cSunPositionPins),
     type(64, QT_TRANSLATE_NOOP("FB_Types", "Multiplexer"), "FB_Multiplex", FB_Value::cMultiplex,
