@@ -73,5 +73,7 @@ Edit_Result setTitle(Project_Session& session, const QUuid& block, const QString
 /// One parameter; the pins follow. What the type declares for it is kept to, but for a number of pins that is too small
 /// or no number: that is corrected.
 Edit_Result setParameter(Project_Session& session, const QUuid& block, int index, const QString& value);
+/// The same parameter of each of the blocks; of none when one refuses it.
+Edit_Result setParameter(Project_Session& session, const QList<QUuid>& blocks, int index, const QString& value);
 
 } // namespace FB_Page_Edits
