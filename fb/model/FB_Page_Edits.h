@@ -82,5 +82,7 @@ Edit_Result setParameter(Project_Session& session, const QUuid& block, int index
 /// only the pins' names. To ask about before the edit, which undo takes back with the bindings.
 [[nodiscard]] QStringList lostBindings(const Project_Session& session, const QList<QUuid>& blocks, int index,
                                        const QString& value);
+/// The same parameter of each of the blocks; of none when one refuses it.
+Edit_Result setParameter(Project_Session& session, const QList<QUuid>& blocks, int index, const QString& value);
 
 } // namespace FB_Page_Edits
