@@ -12,11 +12,9 @@ inline constexpr FB_Parameter cChannels =
            "1", 1, 64);
 inline constexpr FB_Parameter cAssignTo11KNX[] = {
     cChannels,
-    number(QT_TRANSLATE_NOOP("FB_Types", "Mindeständerung"),
-           QT_TRANSLATE_NOOP(
-               "FB_Types",
-               "Um so viel muss sich ein Wert ändern, damit er weitergegeben wird; 0 gibt jede Änderung weiter"),
-           "0", 0, 4294967295.0, 6),
+    number(QT_TRANSLATE_NOOP("FB_Types", "Faktor"),
+           QT_TRANSLATE_NOOP("FB_Types", "Zahlen werden damit multipliziert; 1 gibt sie unverändert weiter"), "1",
+           -4294967295.0, 4294967295.0, 6),
     cSend,
 };
 inline constexpr FB_Pin_Group cAssignTo11KNXPins[] = {
@@ -24,7 +22,7 @@ inline constexpr FB_Pin_Group cAssignTo11KNXPins[] = {
                   QT_TRANSLATE_NOOP("FB_Types", "KNX-Wert, der weitergegeben wird")),
             1),
     counted(output(QT_TRANSLATE_NOOP("FB_Types", "A %1"), QT_TRANSLATE_NOOP("FB_Types", "A%1"), "",
-                   QT_TRANSLATE_NOOP("FB_Types", "Wert des Eingangs dieses Kanals")),
+                   QT_TRANSLATE_NOOP("FB_Types", "Wert des Eingangs dieses Kanals, mit dem Faktor multipliziert")),
             1),
 };
 

@@ -83,8 +83,8 @@ inline constexpr FB_Parameter cRandom[] = {
            QT_TRANSLATE_NOOP("FB_Types", "Obere Grenze der Zufallszahlen"), "100", 0, 4294967295.0),
     number(QT_TRANSLATE_NOOP("FB_Types", "Kleinster Wert"),
            QT_TRANSLATE_NOOP("FB_Types", "Untere Grenze der Zufallszahlen"), "0", -4294967295.0, 4294967295.0),
-    number(QT_TRANSLATE_NOOP("FB_Types", "Nachkommastellen"), QT_TRANSLATE_NOOP("FB_Types", "0 ergibt ganze Zahlen"),
-           "0", 0, 6),
+    check(QT_TRANSLATE_NOOP("FB_Types", "Ganze Zahlen"),
+          QT_TRANSLATE_NOOP("FB_Types", "Sonst haben die Zufallszahlen sechs Nachkommastellen"), "1"),
 };
 inline constexpr FB_Pin_Group cRandomPins[] = {
     input(QT_TRANSLATE_NOOP("FB_Types", "Auslösen"), QT_TRANSLATE_NOOP("FB_Types", "Trg"), "1.017",
