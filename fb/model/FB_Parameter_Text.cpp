@@ -82,7 +82,7 @@ bool FB_Parameter_Text::isDefault(const FB_Parameter& parameter, const QString& 
     return value == usual;
   }
   const auto present = number(value);
-  return parameter.mEditor == FB_Editor::Check ? present.value_or(0) != 0 == (number(usual).value_or(0) != 0)
+  return parameter.mEditor == FB_Editor::Check ? (present.value_or(0) != 0) == (number(usual).value_or(0) != 0)
                                                : value == usual || (present && present == number(usual));
 }
 
