@@ -170,6 +170,8 @@ signals:
   /// Of an address or a variable.
   void usagesRequested(const QUuid& key);
   void typeUsagesRequested(int type);
+  /// The help page of that file name.
+  void helpRequested(const QString& page);
   void statusText(const QString& text);
   /// The page's record is another one, or it is gone.
   void pageChanged();

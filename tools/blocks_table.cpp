@@ -34,10 +34,11 @@ QString orDash(const QStringList& lines, const QString& separator) {
 
 QString parameters(const FB_Type& type) {
   QStringList lines;
-  int index = 0;
-  for (const FB_Parameter& parameter : type.mParameters) {
-    const QString name = FB_Types::text(parameter.mName);
-    QString line = name.contains(u"%1") ? name.arg(index) : name;
+  int count = 1;
+  for (int i = 0; i < static_cast<int>(type.mParameters.size()); i += count) {
+    count = FB_Type_Text::alike(type, i);
+    const FB_Parameter& parameter = type.mParameters[static_cast<size_t>(i)];
+    QString line = FB_Type_Text::name(type, i, count);
     const QString range = FB_Type_Text::range(parameter);
     const QString usual = FB_Type_Text::usual(parameter);
     const QString unit = FB_Types::text(parameter.mUnit);
@@ -45,7 +46,6 @@ QString parameters(const FB_Type& type) {
     line += unit.isEmpty() ? QString() : u' ' + unit;
     line += usual.isEmpty() ? QString() : QStringLiteral(" = ") + usual;
     lines.append(cell(line));
-    ++index;
   }
   return orDash(lines, QStringLiteral("<br>"));
 }

@@ -93,16 +93,16 @@ QString pins(const FB_Type& type, FB_Side side) {
 
 QString parameters(const FB_Type& type) {
   QList<QStringList> rows{{tr("Name"), tr("Bedeutung"), tr("Bereich"), tr("Einheit"), tr("Vorgabe")}};
-  int index = 0;
-  for (const FB_Parameter& parameter : type.mParameters) {
-    const QString name = FB_Types::text(parameter.mName);
+  int count = 1;
+  for (int i = 0; i < static_cast<int>(type.mParameters.size()); i += count) {
+    count = FB_Type_Text::alike(type, i);
+    const FB_Parameter& parameter = type.mParameters[static_cast<size_t>(i)];
     const QString description = FB_Types::text(parameter.mDescription);
     const QString condition = FB_Type_Text::condition(type, parameter);
     const bool isBoth = !description.isEmpty() && !condition.isEmpty();
-    rows.append({name.contains(u"%1") ? name.arg(index) : name,
+    rows.append({FB_Type_Text::name(type, i, count),
                  description + (isBoth ? QStringLiteral("; ") : QString()) + condition, FB_Type_Text::range(parameter),
                  FB_Types::text(parameter.mUnit), FB_Type_Text::usual(parameter)});
-    ++index;
   }
   return rows.size() == 1 ? QString() : table(rows);
 }

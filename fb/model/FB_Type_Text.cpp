@@ -72,6 +72,24 @@ QString FB_Type_Text::count(const FB_Type& type, const FB_Pin_Group& pins) {
   return QStringLiteral("n = %1 (%2)").arg(FB_Types::text(counter.mName), range(counter));
 }
 
+int FB_Type_Text::alike(const FB_Type& type, int parameter) {
+  const auto from = type.mParameters.subspan(static_cast<size_t>(parameter));
+  const QLatin1String name(from.front().mName);
+  const auto isOther = [name](const FB_Parameter& other) { return QLatin1String(other.mName) != name; };
+  return name.contains(QLatin1String("%1"))
+             ? static_cast<int>(std::distance(from.begin(), std::ranges::find_if(from, isOther)))
+             : 1;
+}
+
+QString FB_Type_Text::name(const FB_Type& type, int parameter, int count) {
+  const QString text = FB_Types::text(type.mParameters[static_cast<size_t>(parameter)].mName);
+  if (!text.contains(u"%1")) {
+    return text;
+  }
+  return count == 1 ? text.arg(parameter)
+                    : text.arg(QStringLiteral("%1 … %2").arg(parameter).arg(parameter + count - 1));
+}
+
 QString FB_Type_Text::range(const FB_Parameter& parameter) {
   switch (parameter.mEditor) {
   case FB_Editor::Number:

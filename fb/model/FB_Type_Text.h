@@ -14,6 +14,10 @@ namespace FB_Type_Text {
 /// What "n" is: "n = Anzahl Eingänge (2 bis 64)"; empty when the pins are not counted.
 [[nodiscard]] QString count(const FB_Type& type, const FB_Pin_Group& pins);
 
+/// How many parameters from this one on are called alike but for their number; at least 1.
+[[nodiscard]] int alike(const FB_Type& type, int parameter);
+/// "Anzahl"; of `count` parameters that are alike "Wert 1 … 32".
+[[nodiscard]] QString name(const FB_Type& type, int parameter, int count = 1);
 /// "2 bis 64"; "Aus; Ein" of a check box; the texts of a choice with "; " between; empty for a text.
 [[nodiscard]] QString range(const FB_Parameter& parameter);
 /// As it is shown: the text of a choice, "Ein", "0,5"; empty for none.

@@ -10,6 +10,14 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Types whose pages are not written yet.
+const QSet<qsizetype> cCategoriesToCome{0, 1, 2, 3, 4, 5, 6, 7, 8, 10};
+const QSet<int> cTypesToCome{1311, 1312, 1313, 1314, 1315, 1317, 1319, 1320, 1928, 1946};
+
+} // namespace
+
 /// The help pages as they are compiled into the program, and what is made of them.
 class FB_Help_Test : public QObject {
   Q_OBJECT
@@ -41,6 +49,20 @@ private slots:
     QVERIFY(FB_Help_Page::purpose(FB_Help::fragment(page)).startsWith(u"<p>"_s));
   }
 
+  void everyTypeHasAPage() {
+    QStringList missing;
+    for (const FB_Types::Category& category : FB_Types::categories()) {
+      const auto index = &category - FB_Types::categories().data();
+      for (const FB_Type& type : category.mTypes) {
+        const bool isToCome = cCategoriesToCome.contains(index) || cTypesToCome.contains(type.mId);
+        if (!isToCome && FB_Help::fragment(FB_Types::helpFileName(type.mId)).isEmpty()) {
+          missing.append(FB_Types::helpFileName(type.mId));
+        }
+      }
+    }
+    QCOMPARE(missing, QStringList());
+  }
+
   void aPageIsMadeOfFragmentAndDeclaration() {
     static constexpr FB_Choice cChoices[] = {{0, "Nie"}, {7, "Immer"}};
     static const FB_Parameter cParameters[] = {
@@ -58,6 +80,8 @@ private slots:
          .mUnit = "s",
          .mNeeds = 1,
          .mNeedsValue = 7},
+        {.mName = "Wert %1", .mDefault = "0", .mMinimum = 0, .mMaximum = 9},
+        {.mName = "Wert %1", .mDefault = "0"},
         {.mName = "Datei", .mEditor = FB_Editor::File_Name},
     };
     static const FB_Pin_Group cPins[] = {
@@ -75,15 +99,26 @@ private slots:
                  .mNoOutput = "schreibt in eine Datei"};
     const QString fragment = u"<p>Wozu.</p>\n<h2>Beispiel</h2><p>So.</p>"_s;
     const QStringList lines = FB_Help::plain(FB_Help_Page::html(type, fragment)).split(u'\n');
-    QCOMPARE(lines, QStringList({u"A<B"_s, u"Bausteintyp 50 · Logische Verknüpfungen · nur einmal im Projekt möglich"_s,
-                                 u"Wozu."_s, u"Eingänge"_s, u"Name | Kurzname | Datenpunkttyp | Bedeutung"_s,
-                                 u"Freigabe | F | 1.001 Schalten | <b> & mehr"_s, u"Eingang 1 … n | E1 … En | |"_s,
-                                 u"Stufe 1 … 4 | S 1 … 4 | |"_s, u"n = Anzahl (2 bis 64)"_s, u"Ausgänge"_s,
-                                 u"Keine: schreibt in eine Datei"_s, u"Parameter"_s,
-                                 u"Name | Bedeutung | Bereich | Einheit | Vorgabe"_s, u"Anzahl | | 2 bis 64 | | 2"_s,
+    QCOMPARE(lines, QStringList({u"A<B"_s,
+                                 u"Bausteintyp 50 · Logische Verknüpfungen · nur einmal im Projekt möglich"_s,
+                                 u"Wozu."_s,
+                                 u"Eingänge"_s,
+                                 u"Name | Kurzname | Datenpunkttyp | Bedeutung"_s,
+                                 u"Freigabe | F | 1.001 Schalten | <b> & mehr"_s,
+                                 u"Eingang 1 … n | E1 … En | |"_s,
+                                 u"Stufe 1 … 4 | S 1 … 4 | |"_s,
+                                 u"n = Anzahl (2 bis 64)"_s,
+                                 u"Ausgänge"_s,
+                                 u"Keine: schreibt in eine Datei"_s,
+                                 u"Parameter"_s,
+                                 u"Name | Bedeutung | Bereich | Einheit | Vorgabe"_s,
+                                 u"Anzahl | | 2 bis 64 | | 2"_s,
                                  u"Senden | Wann | Nie; Immer | | Immer"_s,
-                                 u"Zeit 2 | nur bei Senden = Immer | 0 bis 10 | s | 0.5"_s, u"Datei | | | |"_s,
-                                 u"Beispiel"_s, u"So."_s}));
+                                 u"Zeit 2 | nur bei Senden = Immer | 0 bis 10 | s | 0.5"_s,
+                                 u"Wert 3 … 4 | | 0 bis 9 | | 0"_s,
+                                 u"Datei | | | |"_s,
+                                 u"Beispiel"_s,
+                                 u"So."_s}));
     type.mHasPins = false;
     QVERIFY(FB_Help_Page::html(type, fragment)
                 .contains(u"Ein- und Ausgänge dieses Bausteins sind in dieser Fassung noch nicht verfügbar."_s));
