@@ -31,6 +31,7 @@ constexpr int cGroupGap = 12;
 constexpr int cIconSize = 16;
 constexpr int cFaultLines = 2;
 constexpr QSize cSize(980, 600);
+constexpr int cLeftWidth = 500;
 const QString cGeometryName = QStringLiteral("fb:FB_Formula_Editor");
 
 QLabel* value(const QString& name) {
@@ -56,7 +57,7 @@ FB_Formula_Editor::FB_Formula_Editor(Project_Session& session, App_Settings& set
   auto* const splitter = new QSplitter;
   splitter->addWidget(makeLeft());
   splitter->addWidget(mList);
-  splitter->setSizes({1, 1});
+  splitter->setSizes({cLeftWidth, cSize.width() - cLeftWidth});
   splitter->setChildrenCollapsible(false);
   auto* const body = new QWidget;
   auto* const layout = new QVBoxLayout(body);

@@ -81,6 +81,15 @@ QString FB_Modbus_Model::faultOf(const QModelIndex& cell) const {
   return {};
 }
 
+QString FB_Modbus_Model::faultNear(const QModelIndex& cell) const {
+  const QString ofCell = faultOf(cell);
+  if (!cell.isValid() || !ofCell.isEmpty() || mFaults[static_cast<size_t>(cell.row())].isEmpty()) {
+    return ofCell;
+  }
+  const Fault& first = mFaults[static_cast<size_t>(cell.row())].first();
+  return tr("%1: %2").arg(fieldText(info(first.mField).mTitle), first.mText);
+}
+
 int FB_Modbus_Model::faultyCount() const {
   return static_cast<int>(std::ranges::count_if(mFaults, [](const auto& faults) { return !faults.isEmpty(); }));
 }

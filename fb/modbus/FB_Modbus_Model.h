@@ -29,6 +29,8 @@ public:
 
   /// Empty when the cell is right.
   [[nodiscard]] QString faultOf(const QModelIndex& cell) const;
+  /// The same; where the cell is right, what is wrong in another one of its row, with the name of the field.
+  [[nodiscard]] QString faultNear(const QModelIndex& cell) const;
   /// Registers with a fault.
   [[nodiscard]] int faultyCount() const;
   [[nodiscard]] static Field fieldOf(const QModelIndex& index) { return static_cast<Field>(index.column()); }

@@ -37,7 +37,7 @@ constexpr int cShownFaults = 3;
 constexpr QSize cSize(1180, 560);
 constexpr int cFilterWidth = 240;
 /// Of the columns, in their order.
-constexpr int cWidths[] = {50, 170, 210, 80, 150, 190, 70, 80, 80, 110, 150, 120};
+constexpr int cWidths[] = {50, 150, 180, 70, 140, 120, 60, 70, 70, 100, 130, 120};
 const QString cGeometryName = QStringLiteral("fb:FB_Modbus_Register_Editor");
 const QString cHeaderName = QStringLiteral("fb:FB_Modbus_Register_Editor::mHeader");
 
@@ -76,10 +76,8 @@ FB_Modbus_Register_Editor::FB_Modbus_Register_Editor(Project_Session& session, A
   connect(mHint, &Empty_Hint::stepRequested, this, &FB_Modbus_Register_Editor::onAdd);
   connect(mModel, &FB_Modbus_Model::refused, this, [this](const QString& reason) { tell(reason, true); });
   connect(mTable->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FB_Modbus_Register_Editor::update);
-  connect(mTable->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
-    const QString fault = mModel->faultOf(mFilterModel->mapToSource(mTable->currentIndex()));
-    tell(fault, true);
-  });
+  connect(mTable->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this] { tell(mModel->faultNear(mFilterModel->mapToSource(mTable->currentIndex())), true); });
   connect(&session.state(), &Session_State::operatingModeChanged, this, &FB_Modbus_Register_Editor::update);
   follow();
   select({0});
