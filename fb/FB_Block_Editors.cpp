@@ -2,6 +2,8 @@
 
 #include "db/Project_Session.h"
 #include "fb/FB_Page_Follower.h"
+#include "fb/formula/FB_Formula_Editor.h"
+#include "fb/modbus/FB_Modbus_Register_Editor.h"
 
 #include <algorithm>
 #include <array>
@@ -22,7 +24,10 @@ template <class Editor>
   return new Editor(session, settings, block, parent);
 }
 
-constexpr std::array<Row, 0> cRows = {};
+constexpr std::array cRows = {
+    Row{1393, QT_TRANSLATE_NOOP("FB_Block_Editors", "Formel &bearbeiten"), &make<FB_Formula_Editor>},
+    Row{1917, QT_TRANSLATE_NOOP("FB_Block_Editors", "Modbus Register &bearbeiten"), &make<FB_Modbus_Register_Editor>},
+};
 
 const Row* find(int type) {
   const auto at = std::ranges::find(cRows, type, &Row::mType);

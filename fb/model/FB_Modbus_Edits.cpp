@@ -241,8 +241,7 @@ Edit_Result FB_Modbus_Edits::setRegisters(Project_Session& session, const QUuid&
 
 Edit_Result FB_Modbus_Edits::insertRegisters(Project_Session& session, const QUuid& block, int before,
                                              const Registers& registers) {
-  const QString step = registers.size() == 1 ? tr("Register einfügen") : tr("Register einfügen (mehrere)");
-  return apply(session, block, step, [&](Rows& rows) {
+  return apply(session, block, tr("Register einfügen"), [&](Rows& rows) {
     auto at = rows.begin() + std::clamp<qsizetype>(before, 0, static_cast<qsizetype>(rows.size()));
     for (const DB_Modbus_Register& item : registers) {
       if (Edit_Result check = checkRange(item, nullptr); !check) {

@@ -109,10 +109,6 @@ double number(const DB_Modbus_Register& item, Field field) {
   }
 }
 
-bool flag(const DB_Modbus_Register& item, Field field) {
-  return field == Field::Active ? item.mActive : item.mUpdateOnChange;
-}
-
 /// With the words of the choice, or its short key.
 QString choiceText(const DB_Modbus_Register& item, Field field, bool isShort) {
   const int value = chosen(item, field);
@@ -321,7 +317,7 @@ QStringList FB_Modbus_Fields::choices(Field field) {
 QString FB_Modbus_Fields::shown(const DB_Modbus_Register& item, Field field) {
   switch (info(field).mKind) {
   case Kind::Flag:
-    return flag(item, field) ? tr("ja") : tr("nein");
+    return isSet(item, field) ? tr("ja") : tr("nein");
   case Kind::Text:
     return item.mName;
   case Kind::Choice:
@@ -336,6 +332,10 @@ QString FB_Modbus_Fields::shown(const DB_Modbus_Register& item, Field field) {
 
 QString FB_Modbus_Fields::plain(const DB_Modbus_Register& item, Field field) {
   return info(field).mKind == Kind::Choice ? choiceText(item, field, true) : shown(item, field);
+}
+
+bool FB_Modbus_Fields::isSet(const DB_Modbus_Register& item, Field field) {
+  return field == Field::Active ? item.mActive : item.mUpdateOnChange;
 }
 
 QString FB_Modbus_Fields::set(DB_Modbus_Register& item, Field field, const QString& text) {
@@ -383,7 +383,7 @@ QList<Fault> FB_Modbus_Fields::faults(const DB_Modbus_Register& item) {
 bool FB_Modbus_Fields::isSame(const DB_Modbus_Register& a, const DB_Modbus_Register& b, Field field) {
   switch (info(field).mKind) {
   case Kind::Flag:
-    return flag(a, field) == flag(b, field);
+    return isSet(a, field) == isSet(b, field);
   case Kind::Text:
     return a.mName == b.mName;
   case Kind::Choice:

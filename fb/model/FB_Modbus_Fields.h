@@ -54,6 +54,8 @@ struct Info {
 [[nodiscard]] QString shown(const DB_Modbus_Register& item, Field field);
 /// The same, short as tables on the clipboard have it: "3", "uint16", "ABCD".
 [[nodiscard]] QString plain(const DB_Modbus_Register& item, Field field);
+/// Of a flag.
+[[nodiscard]] bool isSet(const DB_Modbus_Register& item, Field field);
 /// Takes over what was typed, chosen or pasted. Else answers why not (German), and nothing changes.
 [[nodiscard]] QString set(DB_Modbus_Register& item, Field field, const QString& text);
 
