@@ -57,7 +57,6 @@ FB_Base_GenerateVar::FB_Base_GenerateVar(const QString& block, const QStringList
   QPushButton* const overwrite = buttons->addButton(tr("&Überschreiben"), QDialogButtonBox::ActionRole);
   QPushButton* const cancel = buttons->addButton(tr("&Abbrechen"), QDialogButtonBox::RejectRole);
   append->setDefault(true);
-  append->setFocus();
   connect(append, &QPushButton::clicked, this, &FB_Base_GenerateVar::onAppendClicked);
   connect(overwrite, &QPushButton::clicked, this, &FB_Base_GenerateVar::onOverWriteClicked);
   connect(cancel, &QPushButton::clicked, this, &FB_Base_GenerateVar::onCancelClicked);
@@ -69,6 +68,7 @@ FB_Base_GenerateVar::FB_Base_GenerateVar(const QString& block, const QStringList
     layout->addWidget(part);
   }
   layout->addWidget(buttons);
+  append->setFocus();
 }
 
 bool FB_Base_GenerateVar::isForAll() const {

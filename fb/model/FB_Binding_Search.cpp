@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QRegularExpression>
+#include <QStringMatcher>
 
 #include <algorithm>
 #include <array>
@@ -23,28 +24,30 @@ QString tr(const char* text) {
 
 enum Rank { cSame, cBeginning, cWords, cNone };
 
-bool isIn(const QString& text, const QString& part) {
-  return text.contains(part, Qt::CaseInsensitive);
-}
-
 /// What is searched for.
 class Pattern {
 public:
   explicit Pattern(const QString& text) : mText(text.simplified()), mWords(mText.split(u' ', Qt::SkipEmptyParts)) {
-    mHasDigit = !mText.isEmpty() && mText.front().isDigit();
-    mHasDigit |= std::ranges::any_of(mWords, [](const QString& word) { return word.front().isDigit(); });
+    for (const QString& word : std::as_const(mWords)) {
+      mMatchers.emplace_back(word, Qt::CaseInsensitive);
+    }
   }
 
-  /// `number` makes the text of the address's number, empty for a variable.
-  template <class Number>
-  [[nodiscard]] Rank rank(const QString& name, Number&& number) const {
+  /// Whether the number of an address can matter that begins so ("1/2/").
+  [[nodiscard]] bool isNear(const QString& group) const {
+    return std::ranges::any_of(
+        mWords, [&group](const QString& word) { return group.startsWith(word) || word.startsWith(group); });
+  }
+
+  /// `address` is its number; empty for a variable and where the number does not matter.
+  [[nodiscard]] Rank rank(const QString& name, const QString& address) const {
     if (mWords.isEmpty()) {
       return cWords;
     }
-    const QString address = mHasDigit ? number() : QString();
-    const auto stands = [&](const QString& word) { return isIn(name, word) || address.startsWith(word); };
-    if (!std::ranges::all_of(mWords, stands)) {
-      return cNone;
+    for (qsizetype i = 0; i < mWords.size(); ++i) {
+      if (mMatchers[static_cast<size_t>(i)].indexIn(name) < 0 && !address.startsWith(mWords[i])) {
+        return cNone;
+      }
     }
     if (address == mText || name.compare(mText, Qt::CaseInsensitive) == 0) {
       return cSame;
@@ -55,10 +58,10 @@ public:
 private:
   QString mText;
   QStringList mWords;
-  bool mHasDigit = false; ///< so that numbers matter
+  std::vector<QStringMatcher> mMatchers; ///< of the words
 };
 
-/// Calls `onAddress` with every address that a bus can carry, in order.
+/// Calls `onAddress` with every address, in order.
 template <class On_Address>
 void eachAddress(const Address_Tree& tree, On_Address&& onAddress) {
   for (const auto& main : tree.mainGroups()) {
@@ -94,13 +97,19 @@ std::vector<Hit> FB_Binding_Search::find(const QString& text, size_t limit) cons
   const Pattern pattern(text);
   std::array<std::vector<Hit>, cNone> found;
   for (const Address_Usage::Variable& variable : mUsage.variables()) {
-    const Rank rank = pattern.rank(variable.mName, [] { return QString(); });
+    const Rank rank = pattern.rank(variable.mName, {});
     if (rank != cNone && found[rank].size() < limit) {
       found[rank].push_back({Binding_Kind::Internal, variable.mKey, variable.mName});
     }
   }
+  Group_Address group(-1, 0, 0);
+  bool isNear = false;
   eachAddress(mDatabase.mAddresses, [&](const DB_Address_Sub_Group& sub, const Group_Address& address) {
-    const Rank rank = pattern.rank(sub.mName, [&address] { return address.toString(); });
+    if (group.main() != address.main() || group.middle() != address.middle()) {
+      group = address;
+      isNear = pattern.isNear(QStringLiteral("%1/%2/").arg(address.main()).arg(address.middle()));
+    }
+    const Rank rank = pattern.rank(sub.mName, isNear ? address.toString() : QString());
     if (rank != cNone && found[rank].size() < limit) {
       found[rank].push_back(
           {Binding_Kind::GroupAddress, sub.mKey, (address.toString() + u' ' + sub.mName).simplified()});

@@ -41,6 +41,11 @@ QString nameOf(const DB_FB_Control& block) {
   return FB_Variables::ownerName(block).left(Address_Edits::cNameLimit);
 }
 
+/// "Und Eingang 1": on the page and in lists an address stands without its groups.
+QString nameAt(const DB_FB_Control& block, const DB_FB_Pin& pin) {
+  return FB_Variables::nameFor(block, pin).left(Address_Edits::cNameLimit - cNumberRoom);
+}
+
 } // namespace
 
 FB_Generation_Plan::FB_Generation_Plan(const ProjectDatabase& database)
@@ -55,7 +60,7 @@ FB_Generation_Plan::FB_Generation_Plan(const ProjectDatabase& database)
         for (const DB_FB_Pin& pin : FB_Pins::pins(*block, side)) {
           const DB_Address_Sub_Group* const sub =
               pin.mBinding.mKind == Kind::GroupAddress ? database.mAddresses.subGroup(pin.mBinding.mKey) : nullptr;
-          if (sub && sub->mName.startsWith(pin.mLongName) && !mOwners.contains(sub->mMiddleKey, block->mGuid) &&
+          if (sub && sub->mName.startsWith(nameAt(*block, pin)) && !mOwners.contains(sub->mMiddleKey, block->mGuid) &&
               FB_Address_Places::isNumbered(database.mAddresses.middleGroup(sub->mMiddleKey)->mName, name)) {
             mOwners.insert(sub->mMiddleKey, block->mGuid);
           }
@@ -71,10 +76,9 @@ std::vector<FB_Generation_Plan::Pin> FB_Generation_Plan::pinsOf(const DB_FB_Cont
   for (const FB_Side side : cSides) {
     const std::vector<DB_FB_Pin>& list = FB_Pins::pins(block, side);
     for (size_t i = 0; i < list.size(); ++i) {
-      const QString wish = list[i].mLongName.simplified().left(Address_Edits::cNameLimit - cNumberRoom);
-      QString name = wish;
-      if (name.isEmpty() || (taken.contains(name) && side == FB_Side::Output)) {
-        name = (name + u' ' + (side == FB_Side::Output ? tr("(Ausgang)") : tr("(Eingang)"))).simplified();
+      QString name = nameAt(block, list[i]);
+      if (taken.contains(name) && side == FB_Side::Output) {
+        name += u' ' + tr("(Ausgang)");
       }
       const QString base = name;
       for (int number = 2; taken.contains(name); ++number) {

@@ -10,9 +10,9 @@ class DB_FB_Control;
 class Project_Session;
 
 /// Makes group addresses for the pins of blocks and binds them: in a main group that is called like the page, in a
-/// middle group that is called like the block, one address for each pin that is called like the pin and has its usual
-/// type. Pins that are connected stay so: where an internal variable was, the address takes its place at all ends, and
-/// the inputs that an output leads to by an address follow it.
+/// middle group that is called like the block, one address for each pin that is called like block and pin and has the
+/// pin's usual type. Pins that are connected stay so: where an internal variable was, the address takes its place at
+/// all ends, and the inputs that an output leads to by an address follow it.
 namespace FB_Variable_Generation {
 
 /// What becomes of a pin that is bound, and of an address of that name that is there.

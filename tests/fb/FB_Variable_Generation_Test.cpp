@@ -96,7 +96,7 @@ private slots:
     QCOMPARE(tree.middleGroup(2, 0)->mName, QStringLiteral("Und"));
     QCOMPARE(tree.middleGroup(2, 1)->mName, QStringLiteral("Lüfter"));
     QCOMPARE(tree.middleGroup(2, 2)->mName, QStringLiteral("Und (2)"));
-    QCOMPARE(tree.subGroup({2, 0, 1})->mName, QStringLiteral("Eingang 2"));
+    QCOMPARE(tree.subGroup({2, 0, 1})->mName, QStringLiteral("Und Eingang 2"));
     QVERIFY2(!tree.subGroup({2, 0, 2})->mDpt.isNone(), "a type");
   }
 
@@ -106,7 +106,7 @@ private slots:
     QTest::newRow("a bound pin") << std::function<void()>([this] { bind(session(), in(mC), mRig->mLight); })
                                  << QStringLiteral("Variable bereits vorhanden");
     QTest::newRow("an address of that name") << std::function<void()>([this] {
-      mRig->addAddress({5, 0, 0}, QStringLiteral("Ausgang"));
+      mRig->addAddress({5, 0, 0}, QStringLiteral("Und Ausgang"));
       Address_Tree& tree = session().database().mAddresses;
       tree.change(tree.mainGroup(5)->mKey, [](DB_Data_Base& record) {
         static_cast<DB_Address_MainGroup&>(record).mName = QStringLiteral("Keller");
