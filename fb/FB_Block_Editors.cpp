@@ -2,6 +2,7 @@
 
 #include "db/Project_Session.h"
 #include "fb/FB_Page_Follower.h"
+#include "fb/lua/FB_Lua_Script_Editor.h"
 
 #include <algorithm>
 #include <array>
@@ -17,12 +18,13 @@ struct Row {
 };
 
 template <class Editor>
-[[maybe_unused]] FB_Block_Editor* make(Project_Session& session, App_Settings& settings, const QUuid& block,
-                                       QWidget* parent) {
+FB_Block_Editor* make(Project_Session& session, App_Settings& settings, const QUuid& block, QWidget* parent) {
   return new Editor(session, settings, block, parent);
 }
 
-constexpr std::array<Row, 0> cRows = {};
+constexpr std::array cRows = {
+    Row{900, QT_TRANSLATE_NOOP("FB_Block_Editors", "Script &bearbeiten"), make<FB_Lua_Script_Editor>},
+};
 
 const Row* find(int type) {
   const auto at = std::ranges::find(cRows, type, &Row::mType);

@@ -46,6 +46,11 @@ enum class Role {
   Ok,
   Changed, ///< what differs from what is there
   Match,   ///< ground of what was searched for
+  CodeKeyword, ///< words of a script, on Input
+  CodeFunction,
+  CodeString,
+  CodeComment,
+  CodeLine, ///< ground of the line with the cursor
 };
 Q_ENUM_NS(Role)
 
