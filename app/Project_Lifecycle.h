@@ -34,8 +34,8 @@ public:
   /// Asks about unsaved changes; the project stays open.
   bool mayQuit();
 
-  /// Asked at the beginning of each operation, before anything else: whoever edits in a window of its own hands over what
-  /// is typed there. False calls the operation off.
+  /// Asked at the beginning of each operation, before anything else: whoever edits in a window of its own hands over
+  /// what is typed there. False calls the operation off.
   void setMayBegin(const std::function<bool()>& mayBegin) { mMayBegin = mayBegin; }
   /// Nobody is there who could decide what becomes of a working state that was left behind: it stays where it is.
   void setKiosk() { mIsKiosk = true; }

@@ -23,7 +23,8 @@ constexpr FB_Pin_Group cScriptPins[] = {
     {.mLongName = QT_TRANSLATE_NOOP("FB_Types", "Eingang %1"),
      .mShortName = QT_TRANSLATE_NOOP("FB_Types", "E%1"),
      .mParameter = 1,
-     .mDescription = QT_TRANSLATE_NOOP("FB_Types", "Wert, den das Script liest; eine Änderung ruft onInputChanged auf")},
+     .mDescription =
+         QT_TRANSLATE_NOOP("FB_Types", "Wert, den das Script liest; eine Änderung ruft onInputChanged auf")},
     {.mSide = FB_Side::Output,
      .mLongName = QT_TRANSLATE_NOOP("FB_Types", "Ausgang %1"),
      .mShortName = QT_TRANSLATE_NOOP("FB_Types", "A%1"),
