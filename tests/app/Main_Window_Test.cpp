@@ -166,7 +166,7 @@ private slots:
     const QUuid page = rig.mSession.database().mFbPages.pages().at(0).mGuid;
     const QUuid block = FB_Page_Edits::create(rig.mSession, page, 900, {}).mBlocks.constFirst();
     const QPointer<FB_Block_Editor> editor = rig.mWindow.findChild<FB_Block_Editors*>()->open(block);
-    editor->findChild<QPlainTextEdit*>()->setPlainText(u"x = 1"_s);
+    editor->findChild<QPlainTextEdit*>()->insertPlainText(u"x = 1"_s);
     bool isAsked = false;
     pressSoon(u"Abbrechen"_s, &isAsked);
     QVERIFY(QMetaObject::invokeMethod(&rig.mWindow, command.toLatin1().constData()));

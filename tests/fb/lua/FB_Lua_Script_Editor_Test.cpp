@@ -43,7 +43,7 @@ private slots:
   }
 
   void savingIsOneStep() {
-    mEdit->setPlainText("x = 1;\n-- Ende");
+    mEdit->replaceAll("x = 1;\n-- Ende");
     auto* const save = mEditor->findChild<QToolBar*>("toolbar")->actions().constFirst();
     QCOMPARE(save->text(), QStringLiteral("Speichern und ausführen"));
     QCOMPARE(stored(), QString());
@@ -60,10 +60,10 @@ private slots:
   }
 
   void typedTextIsKeptWhenTheProjectChanges() {
-    mEdit->setPlainText("getippt()");
+    mEdit->replaceAll("getippt()");
     QVERIFY(FB_Page_Edits::setParameter(mRig->mSession, mBlock, 0, "anderswo()"));
+    QTRY_VERIFY(button(*mEditor, "Änderung übernehmen"));
     auto* const take = button(*mEditor, "Änderung übernehmen");
-    QTRY_VERIFY(take->isVisible());
     QCOMPARE(mEditor->script(), QStringLiteral("getippt()"));
     take->click();
     QCOMPARE(mEditor->script(), QStringLiteral("anderswo()"));
@@ -80,7 +80,7 @@ private slots:
   }
   void closingAsks() {
     QFETCH(QString, answer);
-    mEdit->setPlainText("x = 1");
+    mEdit->replaceAll("x = 1");
     QVERIFY(mEditor->isWindowModified());
     bool isAsked = false;
     pressSoon(answer, &isAsked);
@@ -90,7 +90,7 @@ private slots:
   }
 
   void brokenScriptIsSavedOnlyAfterAQuestion() {
-    mEdit->setPlainText("x = = 1");
+    mEdit->replaceAll("x = = 1");
     bool isAsked = false;
     pressSoon("Nein", &isAsked);
     mEditor->onSave();
@@ -135,10 +135,10 @@ private slots:
 
   void helpIsThatOfTheFunction() {
     const QSignalSpy asked(mEditors, &FB_Block_Editors::helpRequested);
-    mEdit->setPlainText("sys_alias()");
+    mEdit->replaceAll("sys_alias()");
     mEditor->onHelp();
     QCOMPARE(asked.value(0).value(0).toString(), QStringLiteral("lua_functions.html#sys_alias"));
-    mEdit->setPlainText("x");
+    mEdit->replaceAll("x");
     mEditor->onHelp();
     QCOMPARE(asked.value(1).value(0).toString(), QStringLiteral("fb_lua_script.html"));
   }
