@@ -119,6 +119,7 @@ void Main_Window_Dev::connectParts() {
   connect(mExchange, &Address_Exchange::info, this, &Main_Window_Dev::showInfo);
 
   connect(mLifecycle, &Project_Lifecycle::beginning, mEditTarget, &Edit_Target::commit);
+  mLifecycle->setMayBegin([this] { return mEditors->finishAll(); });
   connect(mLifecycle, &Project_Lifecycle::info, this, &Main_Window_Dev::showInfo);
   connect(mLifecycle, &Project_Lifecycle::buildEditors, this, &Main_Window_Dev::onBuildEditors);
 

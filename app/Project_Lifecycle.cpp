@@ -68,9 +68,10 @@ public:
       emit owner.info(tr("Nicht möglich, solange der KI-Assistent arbeitet."));
       return;
     }
-    mIsAllowed = true;
     owner.mIsBusy = true;
     emit owner.beginning();
+    mIsAllowed = !owner.mMayBegin || owner.mMayBegin();
+    owner.mIsBusy = mIsAllowed;
   }
   Operation(const Operation&) = delete;
   Operation& operator=(const Operation&) = delete;

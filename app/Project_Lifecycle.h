@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class App_Settings;
 class Session_State;
 
@@ -33,6 +35,9 @@ public:
   /// Asks about unsaved changes; the project stays open.
   bool mayQuit();
 
+  /// Asked at the beginning of each operation, before anything else: whoever edits in a window of its own hands over
+  /// what is typed there. False calls the operation off.
+  void setMayBegin(const std::function<bool()>& mayBegin) { mMayBegin = mayBegin; }
   /// Nobody is there who could decide what becomes of a working state that was left behind: it stays where it is.
   void setKiosk() { mIsKiosk = true; }
 
@@ -82,6 +87,7 @@ private:
   App_Settings& mSettings;
   Session_State& mState;
   Lifecycle_Dialogs& mDialogs;
+  std::function<bool()> mMayBegin;
   bool mIsBusy = false;
   bool mIsKiosk = false;
   bool mIsDamaged = false; ///< the project file holds what could not be read and would be lost by saving

@@ -21,6 +21,8 @@ void add(FB_Property_Editors& editors, int index, const FB_Parameter& parameter,
   case FB_Editor::File_Name:
     editors.addText(index, parameter, value);
     break;
+  case FB_Editor::Window:
+    break;
   }
 }
 

@@ -3,6 +3,7 @@
 #include "db/Project_Session.h"
 #include "fb/FB_Page_Follower.h"
 #include "fb/formula/FB_Formula_Editor.h"
+#include "fb/lua/FB_Lua_Script_Editor.h"
 #include "fb/modbus/FB_Modbus_Register_Editor.h"
 
 #include <algorithm>
@@ -19,14 +20,14 @@ struct Row {
 };
 
 template <class Editor>
-[[maybe_unused]] FB_Block_Editor* make(Project_Session& session, App_Settings& settings, const QUuid& block,
-                                       QWidget* parent) {
+FB_Block_Editor* make(Project_Session& session, App_Settings& settings, const QUuid& block, QWidget* parent) {
   return new Editor(session, settings, block, parent);
 }
 
 constexpr std::array cRows = {
     Row{1393, QT_TRANSLATE_NOOP("FB_Block_Editors", "Formel &bearbeiten"), &make<FB_Formula_Editor>},
     Row{1917, QT_TRANSLATE_NOOP("FB_Block_Editors", "Modbus Register &bearbeiten"), &make<FB_Modbus_Register_Editor>},
+    Row{900, QT_TRANSLATE_NOOP("FB_Block_Editors", "Script &bearbeiten"), &make<FB_Lua_Script_Editor>},
 };
 
 const Row* find(int type) {

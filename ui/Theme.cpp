@@ -89,6 +89,16 @@ QColor Theme::color(Role role) {
     return {202, 192, 0};
   case Role::Match:
     return {0x66, 0x5a, 0x00};
+  case Role::CodeKeyword:
+    return {0xc8, 0x97, 0xe6};
+  case Role::CodeFunction:
+    return {0x7f, 0xb4, 0xe0};
+  case Role::CodeString:
+    return {0xdc, 0xa8, 0x6e};
+  case Role::CodeComment:
+    return {0x8c, 0xa6, 0x7c};
+  case Role::CodeLine:
+    return {0x28, 0x28, 0x28};
   case Role::Text:
     return {0xe6, 0xe6, 0xe6};
   case Role::SecondaryText:

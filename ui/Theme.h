@@ -44,8 +44,13 @@ enum class Role {
   ErrorText,    ///< text on panels
   Warning,
   Ok,
-  Changed, ///< what differs from what is there
-  Match,   ///< ground of what was searched for
+  Changed,     ///< what differs from what is there
+  Match,       ///< ground of what was searched for
+  CodeKeyword, ///< words of a script, on Input
+  CodeFunction,
+  CodeString,
+  CodeComment,
+  CodeLine, ///< ground of the line with the cursor
 };
 Q_ENUM_NS(Role)
 

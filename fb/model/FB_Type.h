@@ -14,7 +14,14 @@ enum class FB_Body {
 };
 
 /// How a parameter is edited.
-enum class FB_Editor { Number, Check, Choice, Text, File_Name };
+enum class FB_Editor {
+  Number,
+  Check,
+  Choice,
+  Text,
+  File_Name,
+  Window, ///< a text of many lines: only in the block's own window, no row in the panel
+};
 
 /// One of the values that a parameter can be chosen from. The value stands in project files and never changes, wherever
 /// the choice stands in its list.

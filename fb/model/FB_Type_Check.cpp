@@ -46,6 +46,7 @@ QString wrongDefault(const FB_Parameter& parameter) {
   }
   case FB_Editor::Text:
   case FB_Editor::File_Name:
+  case FB_Editor::Window:
     return {};
   }
   return QStringLiteral("unknown editor");

@@ -6,6 +6,7 @@
 #include "app/Start_Page.h"
 #include "base/App_Settings.h"
 #include "db/Project_Edits.h"
+#include "fb/FB_Block_Editors.h"
 #include "fb/FB_Page.h"
 #include "fb/help/FB_Help_Window.h"
 #include "fb/model/FB_Page_Edits.h"
@@ -26,6 +27,8 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPointer>
 #include <QSplitter>
 #include <QStackedLayout>
 #include <QStackedWidget>
@@ -148,6 +151,43 @@ class Main_Window_Test : public QObject {
   Q_OBJECT
 
 private slots:
+  /// What is typed in the window of a block is asked for before the project is saved or left.
+  void unsavedScriptIsAskedFor_data() {
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<bool>("isLeaving");
+    QTest::newRow("save") << u"onMenuFileSave"_s << false;
+    QTest::newRow("close") << u"onMenuFileClose"_s << true;
+    QTest::newRow("quit") << u"onMenuFileQuit"_s << true;
+  }
+  void unsavedScriptIsAskedFor() {
+    QFETCH(QString, command);
+    Window_Rig rig;
+    rig.show();
+    QVERIFY(rig.create());
+    const QUuid page = rig.mSession.database().mFbPages.pages().at(0).mGuid;
+    const QUuid block = FB_Page_Edits::create(rig.mSession, page, 900, {}).mBlocks.constFirst();
+    const QPointer<FB_Block_Editor> editor = rig.mWindow.findChild<FB_Block_Editors*>()->open(block);
+    editor->findChild<QPlainTextEdit*>()->insertPlainText(u"x = 1"_s);
+    bool isAsked = false;
+    pressSoon(u"Abbrechen"_s, &isAsked);
+    QVERIFY(QMetaObject::invokeMethod(&rig.mWindow, command.toLatin1().constData()));
+    QVERIFY(isAsked);
+    QVERIFY(rig.mSession.isModified() && rig.mWindow.isVisible()); // called off
+    QFETCH(bool, isLeaving);
+    bool isProjectAsked = false;
+    QTimer::singleShot(0, qApp, [&] {
+      pressSoon(u"Ja"_s, &isProjectAsked);
+      isAsked = press(*QApplication::activeModalWidget(), u"Speichern"_s);
+    });
+    QVERIFY(QMetaObject::invokeMethod(&rig.mWindow, command.toLatin1().constData()));
+    QCOMPARE(isProjectAsked, isLeaving);
+    Project_Session saved(rig.mState);
+    rig.mSession.close();
+    QVERIFY(saved.open(rig.path()));
+    QCOMPARE(saved.database().mFbPages.child(block)->mParams.value(0), u"x = 1"_s);
+    QTRY_VERIFY(!editor);
+  }
+
   void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
 
   void whatCannotBeUsedSaysWhy() {

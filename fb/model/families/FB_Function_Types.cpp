@@ -5,6 +5,34 @@ namespace {
 
 using namespace FB_Shared;
 
+constexpr FB_Parameter cScriptParameters[] = {
+    {.mName = QT_TRANSLATE_NOOP("FB_Types", "Script"),
+     .mDescription = QT_TRANSLATE_NOOP("FB_Types", "Der Programmtext in der Sprache Lua"),
+     .mEditor = FB_Editor::Window},
+    {.mName = QT_TRANSLATE_NOOP("FB_Types", "Anzahl Eingänge"),
+     .mDescription = QT_TRANSLATE_NOOP("FB_Types", "Eingänge, die das Script liest"),
+     .mDefault = "1",
+     .mMinimum = 1,
+     .mMaximum = 64},
+    {.mName = QT_TRANSLATE_NOOP("FB_Types", "Anzahl Ausgänge"),
+     .mDescription = QT_TRANSLATE_NOOP("FB_Types", "Ausgänge, auf die das Script schreibt"),
+     .mDefault = "1",
+     .mMinimum = 1,
+     .mMaximum = 64},
+};
+constexpr FB_Pin_Group cScriptPins[] = {
+    {.mLongName = QT_TRANSLATE_NOOP("FB_Types", "Eingang %1"),
+     .mShortName = QT_TRANSLATE_NOOP("FB_Types", "E%1"),
+     .mParameter = 1,
+     .mDescription =
+         QT_TRANSLATE_NOOP("FB_Types", "Wert, den das Script liest; eine Änderung ruft onInputChanged auf")},
+    {.mSide = FB_Side::Output,
+     .mLongName = QT_TRANSLATE_NOOP("FB_Types", "Ausgang %1"),
+     .mShortName = QT_TRANSLATE_NOOP("FB_Types", "A%1"),
+     .mParameter = 2,
+     .mDescription = QT_TRANSLATE_NOOP("FB_Types", "Wert, den das Script setzt")},
+};
+
 constexpr FB_Type cTypes[] = {
     type(901, QT_TRANSLATE_NOOP("FB_Types", "Taster digital Zeit"), "FB_Button_Time", FB_Function::cButtonTime,
          FB_Function::cButtonTimePins),
@@ -19,7 +47,7 @@ constexpr FB_Type cTypes[] = {
          FB_Function::cShutterPins),
     type(912, QT_TRANSLATE_NOOP("FB_Types", "Jalousie digital"), "FB_Blind", FB_Function::cBlind,
          FB_Function::cBlindPins),
-    {900, QT_TRANSLATE_NOOP("FB_Types", "Scriptprogrammierung"), "FB_Lua_Script"},
+    type(900, QT_TRANSLATE_NOOP("FB_Types", "Scriptprogrammierung"), "FB_Lua_Script", cScriptParameters, cScriptPins),
     once(type(1921, QT_TRANSLATE_NOOP("FB_Types", "Wetter (OpenWeather)"), "FB_Weather_OpenWeather",
               FB_Function::cWeatherOpenWeather, FB_Function::cWeatherOpenWeatherPins)),
 };

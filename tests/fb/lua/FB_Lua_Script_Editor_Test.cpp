@@ -1,0 +1,180 @@
+#include "base/App_Settings.h"
+#include "fb/FB_Block_Editors.h"
+#include "fb/lua/FB_Lua_Code_Edit.h"
+#include "fb/lua/FB_Lua_Completion.h"
+#include "fb/lua/FB_Lua_Script_Editor.h"
+#include "tests/fb/Logic_Rig.h"
+#include "ui/Theme.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QToolBar>
+
+/// The window of a script block.
+class FB_Lua_Script_Editor_Test : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() { Theme::apply(*qApp); }
+
+  void init() {
+    mRig = std::make_unique<Logic_Rig>();
+    mSettings = std::make_unique<App_Settings>(mRig->path("settings.ini"));
+    mWindow = std::make_unique<QWidget>();
+    mEditors = new FB_Block_Editors(mRig->mSession, *mSettings, mWindow.get());
+    mBlock = mRig->add(900);
+    mRig->history().commit();
+    mEditor = qobject_cast<FB_Lua_Script_Editor*>(mEditors->open(mBlock));
+    QVERIFY(mEditor);
+    mEdit = mEditor->findChild<FB_Lua_Code_Edit*>();
+    QVERIFY(QTest::qWaitForWindowExposed(mEditor));
+  }
+
+  void cleanup() {
+    mWindow.reset();
+    mSettings.reset();
+    mRig.reset();
+  }
+
+  void savingIsOneStep() {
+    mEdit->replaceAll("x = 1;\n-- Ende");
+    auto* const save = mEditor->findChild<QToolBar*>("toolbar")->actions().constFirst();
+    QCOMPARE(save->text(), QStringLiteral("Speichern und ausführen"));
+    QCOMPARE(stored(), QString());
+    save->trigger();
+    QCOMPARE(stored(), QStringLiteral("x = 1;\n-- Ende"));
+    mRig->history().commit();
+    save->trigger(); // nothing new
+    mRig->history().commit();
+    QVERIFY(mRig->history().undo());
+    QCOMPARE(stored(), QString());
+    QTRY_COMPARE(mEditor->script(), QString()); // the window follows
+    QVERIFY(mRig->history().redo());
+    QTRY_COMPARE(mEditor->script(), QStringLiteral("x = 1;\n-- Ende"));
+  }
+
+  void typedTextIsKeptWhenTheProjectChanges() {
+    mEdit->replaceAll("getippt()");
+    QVERIFY(FB_Page_Edits::setParameter(mRig->mSession, mBlock, 0, "anderswo()"));
+    QTRY_VERIFY(button(*mEditor, "Änderung übernehmen"));
+    auto* const take = button(*mEditor, "Änderung übernehmen");
+    QCOMPARE(mEditor->script(), QStringLiteral("getippt()"));
+    take->click();
+    QCOMPARE(mEditor->script(), QStringLiteral("anderswo()"));
+    QVERIFY(mEditor->finish()); // without a question
+  }
+
+  void closingAsks_data() {
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<bool>("isClosed");
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("save") << "Speichern" << true << "x = 1";
+    QTest::newRow("discard") << "Verwerfen" << true << "";
+    QTest::newRow("go on") << "Abbrechen" << false << "";
+  }
+  void closingAsks() {
+    QFETCH(QString, answer);
+    mEdit->replaceAll("x = 1");
+    QVERIFY(mEditor->isWindowModified());
+    bool isAsked = false;
+    pressSoon(answer, &isAsked);
+    QTEST(mEditors->finishAll(), "isClosed");
+    QVERIFY(isAsked);
+    QTEST(stored(), "stored");
+  }
+
+  void brokenScriptIsSavedOnlyAfterAQuestion() {
+    mEdit->replaceAll("x = = 1");
+    bool isAsked = false;
+    pressSoon("Nein", &isAsked);
+    mEditor->onSave();
+    QVERIFY(isAsked);
+    QCOMPARE(stored(), QString());
+    QVERIFY(button(*mEditor, "Zeile 1: Unverständlich bei \"=\""));
+  }
+
+  void completionTakesFunction() {
+    QTest::keyClicks(mEdit, "sys_timer_sta");
+    QVERIFY(mEdit->completion().isShown());
+    QTest::keyClick(mEdit, Qt::Key_Tab);
+    QCOMPARE(mEditor->script(), QStringLiteral("sys_timer_start()"));
+    QCOMPARE(mEdit->textCursor().position(), 16);
+  }
+
+  void operatingModeOnlyShows() {
+    mRig->mState.setOperatingMode(true);
+    QTest::keyClicks(mEdit, "x");
+    QTest::keyClick(mEdit, Qt::Key_Return);
+    QTest::keyClick(mEdit, Qt::Key_Tab);
+    QCOMPARE(mEditor->script(), QString());
+    QVERIFY(!mEditor->findChild<QToolBar*>("toolbar")->actions().constFirst()->isEnabled());
+  }
+
+  void traceAndVariables() {
+    mEditor->addTrace(QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7)), "Hallo");
+    mEditor->addTrace(QDateTime(QDate(2026, 3, 4), QTime(5, 6, 8)), "Welt");
+    mEditor->onTraceCopy();
+    QCOMPARE(QApplication::clipboard()->text(),
+             QStringLiteral("04.03.2026 05:06:07.000\tHallo\n04.03.2026 05:06:08.000\tWelt"));
+    mEditor->setVariable("a", "1");
+    mEditor->setVariable("b", "2");
+    mEditor->setVariable("a", "3");
+    mEditor->onVarCopy();
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("a\t3\nb\t2"));
+    mEditor->onVarClear();
+    mEditor->onTraceClear();
+    mEditor->onVarCopy();
+    QCOMPARE(QApplication::clipboard()->text(), QString());
+  }
+
+  void helpIsThatOfTheFunction() {
+    const QSignalSpy asked(mEditors, &FB_Block_Editors::helpRequested);
+    mEdit->replaceAll("sys_alias()");
+    mEditor->onHelp();
+    QCOMPARE(asked.value(0).value(0).toString(), QStringLiteral("lua_functions.html#sys_alias"));
+    mEdit->replaceAll("x");
+    mEditor->onHelp();
+    QCOMPARE(asked.value(1).value(0).toString(), QStringLiteral("fb_lua_script.html"));
+  }
+
+private:
+  [[nodiscard]] QString stored() { return mRig->block(mBlock).mParams.value(0); }
+
+  static QAbstractButton* button(const QWidget& window, const QString& text) {
+    for (auto* const found : window.findChildren<QAbstractButton*>()) {
+      if (QString(found->text()).remove(u'&') == text) {
+        return found;
+      }
+    }
+    return nullptr;
+  }
+
+  static void pressSoon(const QString& text, bool* isPressed) {
+    QTimer::singleShot(0, qApp, [text, isPressed] {
+      const QWidget* const box = QApplication::activeModalWidget();
+      auto* const found = box ? button(*box, text) : nullptr;
+      if (found) {
+        *isPressed = true;
+        found->click();
+      }
+    });
+  }
+
+  std::unique_ptr<Logic_Rig> mRig;
+  std::unique_ptr<App_Settings> mSettings;
+  std::unique_ptr<QWidget> mWindow;
+  FB_Block_Editors* mEditors = nullptr;
+  FB_Lua_Script_Editor* mEditor = nullptr;
+  FB_Lua_Code_Edit* mEdit = nullptr;
+  QUuid mBlock;
+};
+
+QTEST_MAIN(FB_Lua_Script_Editor_Test)
+
+#include "FB_Lua_Script_Editor_Test.moc"
