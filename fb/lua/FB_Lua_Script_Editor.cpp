@@ -23,6 +23,7 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -112,6 +113,7 @@ void FB_Lua_Script_Editor::buildToolBar() {
   mToolBar->setContextMenuPolicy(Qt::PreventContextMenu);
   mSave = addCommand(tr("Speichern und ausführen"), QStringLiteral("file_save_white"), QKeySequence::Save,
                      &FB_Lua_Script_Editor::onSave);
+  static_cast<QToolButton*>(mToolBar->widgetForAction(mSave))->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   mToolBar->addSeparator();
   mCommands = new QPushButton(tr("Befehle/Funktion"));
   mCommands->setFocusPolicy(Qt::TabFocus);
@@ -286,13 +288,15 @@ void FB_Lua_Script_Editor::showCheck() {
       isGood ? tr("Keine Fehler in der Schreibweise")
              : tr("Zeile %1: %2").arg(mCheck.mLine).arg(QString(mCheck.mMessage).replace(u'&', QStringLiteral("&&"))));
   mStatus->setToolTip(isGood ? QString() : tr("Zur Zeile mit dem Fehler"));
-  mStatus->setEnabled(!isGood);
+  mStatus->setAttribute(Qt::WA_TransparentForMouseEvents, isGood);
+  mStatus->setFocusPolicy(isGood ? Qt::NoFocus : Qt::TabFocus);
 }
 
 void FB_Lua_Script_Editor::updateState() {
   const bool isOperating = session().state().operatingMode();
   const DB_FB_Page* const page = record() ? session().database().mFbPages.page(record()->mPageGuid) : nullptr;
-  setWindowTitle(tr("%1 – %2[*]").arg(blockName(), page ? page->mCaption : QString()));
+  const bool isNamed = page && !page->mCaption.isEmpty();
+  setWindowTitle(isNamed ? tr("%1 – %2[*]").arg(blockName(), page->mCaption) : tr("%1[*]").arg(blockName()));
   setWindowModified(isUnsaved());
   const bool wasReadOnly = mEdit->isReadOnly();
   mEdit->setReadOnly(isOperating);

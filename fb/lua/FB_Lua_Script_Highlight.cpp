@@ -3,6 +3,8 @@
 #include "fb/model/FB_Lua_Functions.h"
 #include "ui/Theme.h"
 
+#include <QFontDatabase>
+
 namespace {
 
 constexpr int cInsideComment = 1;
@@ -11,7 +13,10 @@ constexpr int cLongestWord = 32;
 QTextCharFormat formatOf(Theme::Role role) {
   QTextCharFormat format;
   format.setForeground(Theme::color(role));
-  format.setFontFamilies({QStringLiteral("Courier"), QStringLiteral("Courier New"), QStringLiteral("monospace")});
+  // Where a system has no such font it offers a thin one of other height instead; then the field's own is better.
+  if (const QString family = QStringLiteral("Courier"); QFontDatabase::hasFamily(family)) {
+    format.setFontFamilies({family});
+  }
   return format;
 }
 
