@@ -1,6 +1,8 @@
 #include "fb/model/FB_Help.h"
 
+#include "fb/model/FB_Formula_Language.h"
 #include "fb/model/FB_Help_Page.h"
+#include "fb/model/FB_Lua_Functions.h"
 #include "fb/model/FB_Types.h"
 
 #include <QCoreApplication>
@@ -17,6 +19,8 @@ constexpr FB_Help::Topic cTopics[] = {
     {FB_Help::cLogicPages, QT_TRANSLATE_NOOP("FB_Help", "Programmseiten")},
     {FB_Help::cProperties, QT_TRANSLATE_NOOP("FB_Help", "Eigenschaften")},
     {FB_Help::cGroupAddresses, QT_TRANSLATE_NOOP("FB_Help", "Gruppenadressen")},
+    {"formula_language.html", QT_TRANSLATE_NOOP("FB_Help", "Sprache der Formeln"), &FB_Formula_Language::referenceHtml},
+    {"lua_functions.html", QT_TRANSLATE_NOOP("FB_Help", "Funktionen der Scripts"), &FB_Lua_Functions::html},
 };
 
 const FB_Help::Topic* topicOf(const QString& page) {

@@ -113,6 +113,7 @@ QString FB_Parameter_Text::shown(const FB_Parameter& parameter, const QString& v
   }
   case FB_Editor::Text:
   case FB_Editor::File_Name:
+  case FB_Editor::Window:
     break;
   }
   return value.isEmpty() ? tr("leer") : value;

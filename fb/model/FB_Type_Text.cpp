@@ -106,6 +106,7 @@ QString FB_Type_Text::range(const FB_Parameter& parameter) {
   }
   case FB_Editor::Text:
   case FB_Editor::File_Name:
+  case FB_Editor::Window:
     break;
   }
   return {};
@@ -122,6 +123,7 @@ QString FB_Type_Text::usual(const FB_Parameter& parameter) {
     return choiceText(parameter, value.toInt());
   case FB_Editor::Text:
   case FB_Editor::File_Name:
+  case FB_Editor::Window:
     break;
   }
   return value;

@@ -122,18 +122,6 @@ private slots:
     }
   }
 
-  void everyTypeHasItsHelp() {
-    QStringList missing;
-    for (const FB_Type* type : FB_Types::all()) {
-      const QString page = FB_Types::helpFileName(type->mId);
-      QFile file(QFINDTESTDATA("../../resources/help") + u'/' + page);
-      if (type->mHasPins && !(file.open(QIODevice::ReadOnly) && file.readAll().startsWith("<p>"))) {
-        missing.append(page);
-      }
-    }
-    QCOMPARE(missing, QStringList());
-  }
-
   void everyCountKeepsToItsEnds() {
     for (const FB_Type* type : FB_Types::all()) {
       for (const FB_Pin_Group& group : type->mPins) {
