@@ -87,7 +87,7 @@ private slots:
   }
 
   void whatIsNotDeclaredStays() {
-    const auto block = FB_Pins::makeBlock(900, {});
+    const auto block = FB_Pins::makeBlock(1023, {});
     QVERIFY(block && block->mInputs.empty());
     block->mInputs.resize(3);
     block->mParams = {QStringLiteral("x")};
