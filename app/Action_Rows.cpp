@@ -499,13 +499,13 @@ constexpr Action_Row cRows[] = {
     // Hilfe
     Row("onHelp_Context", QT_TRANSLATE_NOOP("Action_Table", "Kontexthilfe"), u'K', ":/icons/help_context_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Erklärt, was gerade ausgewählt ist"))
-        .in(Menu::Help, 0).keys("F1").missing(cHelp),
+        .in(Menu::Help, 0).keys("F1").when(When::Window).changes(Effect::Dialog),
     Row("onHelp_Browser", QT_TRANSLATE_NOOP("Action_Table", "Inhalt"), u'I', ":/icons/help_contents_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Das Inhaltsverzeichnis der Hilfe"))
-        .in(Menu::Help, 0).missing(cHelp),
+        .in(Menu::Help, 0).when(When::Window).changes(Effect::Dialog),
     Row("onHelp_Search", QT_TRANSLATE_NOOP("Action_Table", "Hilfe durchsuchen"), u'H', ":/icons/help_search_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Sucht in der Hilfe"))
-        .in(Menu::Help, 0).missing(cHelp),
+        .in(Menu::Help, 0).when(When::Window).changes(Effect::Dialog),
     Row("onHelp_Examples", QT_TRANSLATE_NOOP("Action_Table", "Beispiele"), u'B', ":/icons/help_examples_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Beispielprojekte zum Ansehen"))
         .in(Menu::Help, 1).missing(cHelp),

@@ -12,6 +12,7 @@ class Address_Search_Dialog;
 class Command_Palette;
 class Edit_Target;
 class FB_Block_Editors;
+class FB_Help_Window;
 class FB_Output_Check_Dialog;
 class FB_Page;
 class FB_Page_List_Commands;
@@ -93,6 +94,9 @@ public slots:
   void onControlPlay();
   void onExtrasSettingsDev();
   void onSelectLanguage(QAction* action);
+  void onHelp_Context();
+  void onHelp_Browser();
+  void onHelp_Search();
   void onShowAboutDlg();
 
 protected:
@@ -129,6 +133,9 @@ private:
   void connectResults(Result_Dialog& dialog);
   void shareKeys(QWidget& dialog);
   void search(bool isReplacing);
+  [[nodiscard]] QString contextPage();
+  [[nodiscard]] FB_Help_Window& help();
+  void showHelp(const QString& page);
 
   Session_State& mState;
   std::unique_ptr<Window_Dialogs> mDialogs;
@@ -145,4 +152,5 @@ private:
   Project_Search_Dialog* mProjectSearch = nullptr;
   FB_Usages_Dialog* mUsages = nullptr;
   FB_Output_Check_Dialog* mOutputCheck = nullptr;
+  FB_Help_Window* mHelp = nullptr;
 };

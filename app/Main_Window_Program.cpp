@@ -33,6 +33,7 @@ void Main_Window_Dev::connectPageCommands() {
   connect(&properties(), &FB_Dev_Properties::blockChosen, this, &Main_Window_Dev::showChild);
   connect(&properties(), &FB_Dev_Properties::statusText, this, &Main_Window_Dev::showInfo);
   connect(mEditors, &FB_Block_Editors::statusText, this, &Main_Window_Dev::showInfo);
+  connect(mEditors, &FB_Block_Editors::helpRequested, this, &Main_Window_Dev::showHelp);
   connect(&catalogue(), &FB_Dev_New_Control::insertRequested, this, &Main_Window_Dev::insertBlock);
   connect(&pageTabs(), &Page_Tabs::logicPageOpened, this, &Main_Window_Dev::connectLogicPage);
   connect(&mSession.history(), &History::stepApplied, this, &Main_Window_Dev::followStep);
@@ -44,6 +45,7 @@ void Main_Window_Dev::connectLogicPage(FB_Page& page) {
   connect(&page, &FB_Page::editorRequested, mEditors, &FB_Block_Editors::open);
   connect(&page, &FB_Page::usagesRequested, this, [this](const QUuid& key) { resultDialog(mUsages).showUses(key); });
   connect(&page, &FB_Page::typeUsagesRequested, this, [this](int type) { resultDialog(mUsages).showType(type); });
+  connect(&page, &FB_Page::helpRequested, this, &Main_Window_Dev::showHelp);
   connect(&page, &FB_Page::linkActivated, this, &Main_Window_Dev::showChild);
   connect(&page, &FB_Page::zoomChanged, this,
           [this](double zoom) { showInfo(tr("Zoom %1 %").arg(qRound(zoom * cPercent))); });

@@ -305,7 +305,7 @@ bool Project_Lifecycle::load(const QString& target, Opening opening) {
 
 void Project_Lifecycle::afterLoading(bool isRemembered) {
   // Before the editors, so that the saved file does not depend on which of them are looked at.
-  FB_Normaliser::normalise(mSession.database().mFbPages);
+  const FB_Normaliser::Result normalised = FB_Normaliser::normalise(mSession.database().mFbPages);
   for (const int percent : cEditorPercents) {
     mDialogs.showProgress(tr("Öffne Projekt..."), percent);
     emit buildEditors(percent);
@@ -315,18 +315,27 @@ void Project_Lifecycle::afterLoading(bool isRemembered) {
     remember(mSession.path());
   }
   tellDamage();
+  if (!normalised.mMissingPins.isEmpty()) {
+    mDialogs.showMessage(tr("Diese Bausteine haben weniger Ein- oder Ausgänge, als ihre Anzahl sagt. Die Anzahl bleibt "
+                            "im Projekt, wie sie ist:") +
+                         QStringLiteral("\n\n") + shortened(normalised.mMissingPins).join(u'\n'));
+  }
+}
+
+QStringList Project_Lifecycle::shortened(QStringList lines) {
+  if (lines.size() > cShownLines) {
+    const qsizetype more = lines.size() - cShownLines;
+    lines = lines.first(cShownLines);
+    lines.append(tr("… und %1 weitere.").arg(more));
+  }
+  return lines;
 }
 
 void Project_Lifecycle::tellDamage() {
   if (!mSession.database().loadReport().isDamaged()) {
     return;
   }
-  QStringList lines = mSession.database().loadReport().lines();
-  if (lines.size() > cShownLines) {
-    const qsizetype more = lines.size() - cShownLines;
-    lines = lines.first(cShownLines);
-    lines.append(tr("… und %1 weitere.").arg(more));
-  }
+  const QStringList lines = shortened(mSession.database().loadReport().lines());
   mDialogs.showMessage(tr("Das Projekt ist beschädigt. Geöffnet ist, was lesbar war:") + QStringLiteral("\n\n") +
                        lines.join(u'\n'));
 }

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -72,6 +73,8 @@ private:
   bool load(const QString& target, Opening opening);
   void afterLoading(bool isRemembered);
   void tellDamage();
+  /// As many lines as a message can show.
+  [[nodiscard]] static QStringList shortened(QStringList lines);
   void reportMissing(const QString& path);
   [[nodiscard]] bool mayOverwrite();
   bool saveFile();

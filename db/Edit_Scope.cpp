@@ -4,7 +4,13 @@ Edit_Scope::Edit_Scope(History& history, const QString& text, Grouping grouping)
     : mHistory(history),
       mIsAllowed(history.mayEdit(&mRefusal)) {
   if (mIsAllowed) {
-    mHistory.enterScope(text, grouping == Grouping::Own);
+    mHistory.enterScope(text, grouping == Grouping::Own, 0);
+  }
+}
+
+Edit_Scope::Edit_Scope(History& history, Merge merge) : mHistory(history), mIsAllowed(history.mayEdit(&mRefusal)) {
+  if (mIsAllowed) {
+    mHistory.enterScope(QString(), false, merge.mToken);
   }
 }
 

@@ -22,7 +22,14 @@ public:
     Own,  ///< a step of its own, closed when the scope is left
   };
 
+  /// The edits of one field belong together as long as their token is the same: see History.
+  struct Merge {
+    quint64 mToken = 0; ///< 0: with nothing
+  };
+
   Edit_Scope(History& history, const QString& text, Grouping grouping = Grouping::Turn);
+  /// Around the edit of a field, which names the step.
+  Edit_Scope(History& history, Merge merge);
   Edit_Scope(const Edit_Scope&) = delete;
   Edit_Scope& operator=(const Edit_Scope&) = delete;
   Edit_Scope(Edit_Scope&&) = delete;

@@ -46,15 +46,18 @@ void History::record(Entry entry, bool isAgain) {
   }
 }
 
-void History::enterScope(const QString& text, bool isOwn) {
+void History::enterScope(const QString& text, bool isOwn, quint64 merge) {
   if (mScopeDepth == 0) {
-    if (isOwn) {
+    if (isOwn || merge != mPendingMerge) {
       commit(); // what the turn did before is a step of its own
     }
     mOwnScope = isOwn;
     if (mPending.empty()) {
       mPendingText = text;
+      mPendingMerge = merge;
     }
+  } else if (mPendingText.isEmpty()) {
+    mPendingText = text;
   }
   ++mScopeDepth;
 }
@@ -91,6 +94,33 @@ void History::dropWithoutEffect(Entries& entries) {
   entries.erase(std::remove_if(entries.begin(), entries.end(), isDropped), entries.end());
 }
 
+bool History::isOnlyModified(const Entries& entries) {
+  return std::ranges::all_of(entries, [](const Entry& entry) { return entry.mKind == Kind::Modified; });
+}
+
+bool History::continuesStep(const Entries& entries, quint64 merge) const {
+  return merge != 0 && merge == mOpenMerge && isOnlyModified(entries) && isOnlyModified(mSteps.back().mEntries);
+}
+
+void History::joinStep(Entries& entries) {
+  Step step = std::move(mSteps.back());
+  mSteps.pop_back();
+  --mPosition;
+  mEntryCount -= step.mEntries.size();
+  QSet<std::pair<Undo_Adapter*, QUuid>> known;
+  for (const Entry& entry : step.mEntries) {
+    known.insert({entry.mOwner, entry.mId});
+  }
+  // The copies from before the first edit tell all.
+  for (Entry& entry : entries) {
+    if (!known.contains({entry.mOwner, entry.mId})) {
+      step.mEntries.push_back(std::move(entry));
+    }
+  }
+  entries = std::move(step.mEntries);
+  mPendingText = step.mText;
+}
+
 /// The latest step stays, however large it is.
 void History::keepToLimits() {
   while (mSteps.size() > cLimit || (mEntryCount > cEntryLimit && mSteps.size() > 1)) {
@@ -109,7 +139,15 @@ void History::commit() {
   Entries entries = std::move(mPending);
   mPending.clear();
   mPendingKnown.clear();
+  const quint64 merge = std::exchange(mPendingMerge, 0);
+  const bool isJoined = continuesStep(entries, merge);
+  if (isJoined) {
+    joinStep(entries);
+  }
   dropWithoutEffect(entries);
+  if (!entries.empty() || isJoined) {
+    mOpenMerge = entries.empty() ? 0 : merge;
+  }
   if (!entries.empty()) {
     if (mSavedPosition > static_cast<qsizetype>(mPosition)) {
       mSavedPosition = cSavedGone;
@@ -184,6 +222,7 @@ bool History::undo(QString* refusal) {
   if (mPosition == 0) {
     return false;
   }
+  mOpenMerge = 0;
   const std::vector<Applied> applied = applyStep(mSteps[mPosition - 1]);
   --mPosition;
   emit changed();
@@ -199,6 +238,7 @@ bool History::redo(QString* refusal) {
   if (mPosition == mSteps.size()) {
     return false;
   }
+  mOpenMerge = 0;
   const std::vector<Applied> applied = applyStep(mSteps[mPosition]);
   ++mPosition;
   emit changed();
@@ -208,6 +248,7 @@ bool History::redo(QString* refusal) {
 
 void History::setSaved() {
   commit();
+  mOpenMerge = 0;
   mSavedPosition = static_cast<qsizetype>(mPosition);
   mChangedOutside = false;
   emit changed();
@@ -231,6 +272,8 @@ void History::clear() {
   mTimer.stop();
   mPending.clear();
   mPendingKnown.clear();
+  mPendingMerge = 0;
+  mOpenMerge = 0;
   mSteps.clear();
   mEntryCount = 0;
   mFirstState = ++mLastId;

@@ -17,7 +17,8 @@
 ///
 /// A step is a list of entries: owner, kind, place in its list, copy of the record. Entries are recorded through an
 /// `Edit_Scope` only. Those of one turn of the event loop are one step, closed by a zero-delay timer; a scope of its
-/// own closes its step when it is left.
+/// own closes its step when it is left. Steps with the same token that follow each other, with no other step, saving,
+/// undo or redo between them, become one: what is typed into a field until the focus leaves it.
 ///
 /// At most `cLimit` steps are kept. A copy of a block takes about 2 kB of memory; the oldest steps go earlier when all
 /// of them hold more than `cEntryLimit` copies.
@@ -42,6 +43,8 @@ public:
 
   /// Closes the step of the present turn now.
   void commit();
+  /// A token that was never given before, for `Edit_Scope::Merge`.
+  [[nodiscard]] quint64 newMerge() { return ++mLastMerge; }
 
   /// The present state is the saved one.
   void setSaved();
@@ -103,10 +106,15 @@ private:
 
   [[nodiscard]] bool mayEdit(QString* refusal) const;
   void record(Entry entry, bool isAgain = false);
-  void enterScope(const QString& text, bool isOwn);
+  void enterScope(const QString& text, bool isOwn, quint64 merge);
   void leaveScope();
   [[nodiscard]] static bool isWithoutEffect(const Entry& entry);
   static void dropWithoutEffect(Entries& entries);
+  [[nodiscard]] static bool isOnlyModified(const Entries& entries);
+  /// Whether entries with that token go on with the latest step.
+  [[nodiscard]] bool continuesStep(const Entries& entries, quint64 merge) const;
+  /// Puts the entries of the latest step before these and takes it away.
+  void joinStep(Entries& entries);
   void keepToLimits();
   [[nodiscard]] static Entry applyEntry(const Entry& entry);
   [[nodiscard]] static std::vector<Applied> applyStep(Step& step);
@@ -124,6 +132,9 @@ private:
   Entries mPending;
   QSet<std::pair<Undo_Adapter*, QUuid>> mPendingKnown; ///< records of the open step whose copy is taken
   QString mPendingText;
+  quint64 mPendingMerge = 0; ///< token of the open step, 0 for none
+  quint64 mOpenMerge = 0;    ///< token of the latest step while it may be gone on with, 0 for none
+  quint64 mLastMerge = 0;
   int mScopeDepth = 0;
   bool mOwnScope = false;
 };

@@ -2,7 +2,9 @@
 
 #include "db/Project_Session.h"
 #include "fb/FB_Page_Follower.h"
+#include "fb/formula/FB_Formula_Editor.h"
 #include "fb/lua/FB_Lua_Script_Editor.h"
+#include "fb/modbus/FB_Modbus_Register_Editor.h"
 
 #include <algorithm>
 #include <array>
@@ -23,7 +25,9 @@ FB_Block_Editor* make(Project_Session& session, App_Settings& settings, const QU
 }
 
 constexpr std::array cRows = {
-    Row{900, QT_TRANSLATE_NOOP("FB_Block_Editors", "Script &bearbeiten"), make<FB_Lua_Script_Editor>},
+    Row{1393, QT_TRANSLATE_NOOP("FB_Block_Editors", "Formel &bearbeiten"), &make<FB_Formula_Editor>},
+    Row{1917, QT_TRANSLATE_NOOP("FB_Block_Editors", "Modbus Register &bearbeiten"), &make<FB_Modbus_Register_Editor>},
+    Row{900, QT_TRANSLATE_NOOP("FB_Block_Editors", "Script &bearbeiten"), &make<FB_Lua_Script_Editor>},
 };
 
 const Row* find(int type) {

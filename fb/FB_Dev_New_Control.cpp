@@ -147,6 +147,10 @@ void FB_Dev_New_Control::enter() {
   mField->selectAll();
 }
 
+std::optional<int> FB_Dev_New_Control::currentType() const {
+  return mTree->currentType();
+}
+
 void FB_Dev_New_Control::onTyped(const QString& typed) {
   mField->setFocus();
   mField->setText(typed);

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class App_Settings;
 class Empty_Hint;
 class FB_Catalogue_Search;
@@ -25,6 +27,8 @@ public:
 
   /// Takes the keyboard focus into the search field.
   void enter();
+  /// The entry that the keyboard is on; nothing for a category.
+  [[nodiscard]] std::optional<int> currentType() const;
 
 public slots:
   /// Applies the text of the search field to the tree.

@@ -1,5 +1,6 @@
 #include "fb/model/FB_Normaliser.h"
 
+#include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Page_List_Edits.h"
 #include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Positions.h"
@@ -32,6 +33,9 @@ void FB_Normaliser::normalise(DB_FB_Control& block, Result& result) {
     FB_Pins::rebuild(block);
     ++result.mRebuilt;
   }
+  if (const QString missing = FB_Pins::missingPins(block); !missing.isEmpty()) {
+    result.mMissingPins.append(QStringLiteral("%1: %2").arg(FB_Geometry::title(block), missing));
+  }
 }
 
 FB_Normaliser::Result FB_Normaliser::normalise(const DB_Page_List<DB_FB_Page>& pages) {
@@ -41,7 +45,11 @@ FB_Normaliser::Result FB_Normaliser::normalise(const DB_Page_List<DB_FB_Page>& p
     page->mWidth = std::clamp(page->mWidth, cSizeMinimum, cSizeMaximum);
     page->mHeight = std::clamp(page->mHeight, cSizeMinimum, cSizeMaximum);
     for (const auto& block : page->mChildren) {
+      const qsizetype told = result.mMissingPins.size();
       normalise(*block, result);
+      if (result.mMissingPins.size() > told) {
+        result.mMissingPins.last().prepend(page->mCaption + QStringLiteral(": "));
+      }
     }
   }
   return result;

@@ -3,6 +3,8 @@
 #include "db/DB_FB_Page.h"
 #include "db/DB_Page_List.h"
 
+#include <QStringList>
+
 /// What loading corrects in the records of the logic pages, once for all pages when a project opens, so that the saved
 /// file does not depend on which pages were looked at. No undo step and no modified mark.
 ///
@@ -12,9 +14,10 @@
 namespace FB_Normaliser {
 
 struct Result {
-  int mUnknown = 0;  ///< blocks that are comments now, or still are
-  int mRestored = 0; ///< blocks that got their own type back
-  int mRebuilt = 0;  ///< blocks whose parameters or pins were not those of their type
+  int mUnknown = 0;         ///< blocks that are comments now, or still are
+  int mRestored = 0;        ///< blocks that got their own type back
+  int mRebuilt = 0;         ///< blocks whose parameters or pins were not those of their type
+  QStringList mMissingPins; ///< German, a line for each block that has fewer pins than its count says
 };
 
 /// Makes a block of an unknown type a comment that keeps its original type and title.

@@ -3,6 +3,7 @@
 #include "db/DB_Bindings.h"
 #include "db/DB_Text.h"
 #include "fb/model/FB_Edit.h"
+#include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Positions.h"
 #include "fb/model/FB_Types.h"
@@ -172,25 +173,49 @@ Edit_Result FB_Page_Edits::setTitle(Project_Session& session, const QUuid& block
 }
 
 Edit_Result FB_Page_Edits::setParameter(Project_Session& session, const QUuid& block, int index, const QString& value) {
+  return setParameter(session, QList<QUuid>{block}, index, value);
+}
+
+Edit_Result FB_Page_Edits::setParameter(Project_Session& session, const QList<QUuid>& blocks, int index,
+                                        const QString& value) {
   FB_Edit edit(session, tr("Parameter ändern"));
   if (!edit) {
     return edit.refusal();
   }
-  if (Edit_Result check = edit.check(block); !check) {
-    return check;
+  Edit_Result result;
+  std::vector<const DB_FB_Control*> found;
+  if (!FB_Edit::find(edit.database(), blocks, found, result)) {
+    return result;
   }
   const QString clean = DB_Text::clean(value);
-  Edit_Result result = checkParameter(*edit.block(block), index, clean);
-  if (result) {
-    const QSet<QUuid> variables = variablesOf({edit.block(block)});
-    edit.change(block, [&](DB_FB_Control& record) {
+  for (const DB_FB_Control* const block : found) {
+    if (result = checkParameter(*block, index, clean); !result) {
+      return result;
+    }
+  }
+  const QSet<QUuid> variables = variablesOf(found);
+  for (const DB_FB_Control* const block : found) {
+    edit.change(block->mGuid, [&](DB_FB_Control& record) {
       while (record.mParams.size() <= index) {
         record.mParams.append(QString());
       }
       record.mParams[index] = clean;
       FB_Pins::rebuild(record);
     });
-    FB_Variables::release(edit, variables - variablesOf({edit.block(block)})); // those of pins that are gone
   }
+  FB_Variables::release(edit, variables - variablesOf(found)); // those of pins that are gone
   return result;
+}
+
+QStringList FB_Page_Edits::lostBindings(const Project_Session& session, const QList<QUuid>& blocks, int index,
+                                        const QString& value) {
+  QStringList lost;
+  for (const QUuid& guid : blocks) {
+    const DB_FB_Control* const block = session.database().mFbPages.child(guid);
+    const QStringList pins = block ? FB_Pins::lostBindings(*block, index, value) : QStringList();
+    for (const QString& pin : pins) {
+      lost.append(blocks.size() == 1 ? pin : QStringLiteral("%1: %2").arg(FB_Geometry::title(*block), pin));
+    }
+  }
+  return lost;
 }

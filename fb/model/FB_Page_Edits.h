@@ -7,6 +7,7 @@
 #include <QList>
 #include <QPointF>
 #include <QString>
+#include <QStringList>
 #include <QUuid>
 
 class Project_Session;
@@ -66,6 +67,10 @@ Edit_Result moveConnection(Project_Session& session, const FB_Connection& connec
 
 /// To the group address of that key.
 Edit_Result bind(Project_Session& session, const FB_Pin_Ref& pin, const QUuid& address);
+/// To the internal variable of that key, which is used somewhere in the project.
+Edit_Result bindVariable(Project_Session& session, const FB_Pin_Ref& pin, const QUuid& variable);
+/// To a new internal variable. Refuses a name that one has already.
+Edit_Result bindNewVariable(Project_Session& session, const FB_Pin_Ref& pin, const QString& name);
 Edit_Result unbind(Project_Session& session, const FB_Pin_Ref& pin);
 
 /// The block's own title; of a comment block its text, of several lines.
@@ -73,5 +78,11 @@ Edit_Result setTitle(Project_Session& session, const QUuid& block, const QString
 /// One parameter; the pins follow. What the type declares for it is kept to, but for a number of pins that is too small
 /// or no number: that is corrected.
 Edit_Result setParameter(Project_Session& session, const QUuid& block, int index, const QString& value);
+/// What `setParameter` would take off the blocks with that value: a bound pin each, "Und: Eingang 3"; of a single block
+/// only the pins' names. To ask about before the edit, which undo takes back with the bindings.
+[[nodiscard]] QStringList lostBindings(const Project_Session& session, const QList<QUuid>& blocks, int index,
+                                       const QString& value);
+/// The same parameter of each of the blocks; of none when one refuses it.
+Edit_Result setParameter(Project_Session& session, const QList<QUuid>& blocks, int index, const QString& value);
 
 } // namespace FB_Page_Edits

@@ -2,8 +2,10 @@
 
 #include "db/DB_FB_Page.h"
 #include "db/DB_Project.h"
+#include "fb/model/FB_Pins.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <algorithm>
 
@@ -49,6 +51,16 @@ QStringList FB_Page_Notices::of(const DB_FB_Page& page, const DB_Project& projec
                                           "Diese Seite läuft auf Steuerung %1 - die verbundene Steuerung führt sie "
                                           "nicht aus."))
                        .arg(nameOf(*executing)));
+  }
+  const auto few =
+      std::ranges::count_if(page.mChildren, [](const auto& block) { return !FB_Pins::missingPins(*block).isEmpty(); });
+  if (few > 0) {
+    const QLocale locale;
+    notices.append(
+        text(QT_TRANSLATE_NOOP("FB_Page_Notices",
+                               "Bausteine dieser Seite mit einer zu großen Anzahl: %1. Angelegt sind jeweils "
+                               "die ersten %2 Ein- oder Ausgänge."))
+            .arg(locale.toString(qlonglong(few)), locale.toString(FB_Pins::cMostPins)));
   }
   return notices;
 }

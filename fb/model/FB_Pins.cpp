@@ -1,9 +1,16 @@
 #include "fb/model/FB_Pins.h"
 
+#include "fb/model/FB_Register_Pins.h"
 #include "fb/model/FB_Types.h"
 
+#include <QCoreApplication>
+#include <QLocale>
+#include <QSet>
+
 #include <algorithm>
+#include <iterator>
 #include <optional>
+#include <span>
 #include <utility>
 
 namespace {
@@ -20,20 +27,16 @@ const FB_Type* declarationOf(const DB_FB_Control& block) {
 std::optional<int> countIn(const QString& text, const FB_Pin_Group& group) {
   bool isNumber = false;
   const int count = text.toInt(&isNumber, 10);
-  return isNumber && count >= group.mCount && count <= FB_Pins::cMostPins ? std::optional(count) : std::nullopt;
-}
-
-void correctCount(QString& text, const FB_Pin_Group& group) {
-  if (!countIn(text, group)) {
-    bool isNumber = false;
-    const bool isTooMany = text.toInt(&isNumber, 10) > FB_Pins::cMostPins && isNumber;
-    text = QString::number(isTooMany ? FB_Pins::cMostPins : group.mCount);
-  }
+  return isNumber && count >= group.mCount ? std::optional(count) : std::nullopt;
 }
 
 /// Empty as long as the parameters do not say it.
 std::optional<int> sizeOf(const FB_Pin_Group& group, const QStringList& parameters) {
-  return group.mParameter < 0 ? group.mCount : countIn(parameters.at(group.mParameter), group);
+  if (group.mParameter < 0) {
+    return group.mCount;
+  }
+  const auto count = countIn(parameters.at(group.mParameter), group);
+  return count ? std::optional(std::min(*count, FB_Pins::cMostPins)) : std::nullopt;
 }
 
 /// How many pins each counted group of a side has in a list that was made with another count. One parameter counts all
@@ -78,6 +81,26 @@ std::vector<DB_FB_Pin> build(std::vector<DB_FB_Pin> old, const FB_Type& type, FB
   return pins;
 }
 
+/// Pins of a side that the type itself declares, of a type whose registers make the others.
+size_t declaredCount(const FB_Type& type, FB_Side side) {
+  size_t count = 0;
+  for (const FB_Pin_Group& group : type.mPins) {
+    count += group.mSide == side ? static_cast<size_t>(group.mCount) : 0;
+  }
+  return count;
+}
+
+/// The pins of the registers, bound as those behind the declared ones are in `old`.
+std::vector<DB_FB_Pin> registerPins(const DB_FB_Control& block, const FB_Type& type, FB_Side side) {
+  if (!type.mHasRegisterPins) {
+    return {};
+  }
+  const std::span<const DB_FB_Pin> old = FB_Pins::pins(block, side);
+  const size_t declared = declaredCount(type, side);
+  return FB_Register_Pins::build(block, side, old.subspan(std::min(declared, old.size())),
+                                 FB_Pins::cMostPins - declared);
+}
+
 } // namespace
 
 std::unique_ptr<DB_FB_Control> FB_Pins::makeBlock(int type, const QPointF& position) {
@@ -103,13 +126,15 @@ void FB_Pins::rebuild(DB_FB_Control& block) {
     block.mParams.append(QString::fromUtf8(parameter.mDefault));
   }
   for (const FB_Pin_Group& group : type->mPins) {
-    if (group.mParameter >= 0) {
-      correctCount(block.mParams[group.mParameter], group);
+    if (group.mParameter >= 0 && !countIn(block.mParams.at(group.mParameter), group)) {
+      block.mParams[group.mParameter] = QString::number(group.mCount);
     }
   }
   for (const FB_Side side : cSides) {
     auto& list = pins(block, side);
+    std::vector<DB_FB_Pin> behind = registerPins(block, *type, side);
     list = build(std::move(list), *type, side, block.mParams);
+    std::move(behind.begin(), behind.end(), std::back_inserter(list));
   }
 }
 
@@ -130,9 +155,59 @@ bool FB_Pins::isBuilt(const DB_FB_Control& block) {
     }
     (group.mSide == FB_Side::Input ? inputs : outputs) += static_cast<size_t>(*count);
   }
+  if (type->mHasRegisterPins) {
+    inputs += FB_Register_Pins::count(block, FB_Side::Input, cMostPins - inputs);
+    outputs += FB_Register_Pins::count(block, FB_Side::Output, cMostPins - outputs);
+  }
   const auto isNamed = [](const DB_FB_Pin& pin) { return !pin.mLongName.isEmpty(); };
   return block.mInputs.size() == inputs && block.mOutputs.size() == outputs &&
          std::ranges::all_of(block.mInputs, isNamed) && std::ranges::all_of(block.mOutputs, isNamed);
+}
+
+QString FB_Pins::missingPins(const DB_FB_Control& block) {
+  constexpr auto cMost = static_cast<size_t>(cMostPins);
+  // Nearly every block is done with here, which keeps a walk over thousands of them short.
+  const FB_Type* const type =
+      std::max(block.mInputs.size(), block.mOutputs.size()) < cMost ? nullptr : declarationOf(block);
+  for (const FB_Pin_Group& group : type ? type->mPins : std::span<const FB_Pin_Group>()) {
+    const auto count = group.mParameter < 0 ? std::nullopt : countIn(block.mParams.value(group.mParameter), group);
+    if (count && *count > cMostPins) {
+      const QLocale locale;
+      const QString name = FB_Types::text(type->mParameters[static_cast<size_t>(group.mParameter)].mName);
+      return QCoreApplication::translate("FB_Pins", "\"%1\" ist %2. Angelegt sind die ersten %3.")
+          .arg(name, locale.toString(*count), locale.toString(cMostPins));
+    }
+  }
+  return {};
+}
+
+QStringList FB_Pins::lostBindings(const DB_FB_Control& block, int index, const QString& value) {
+  if (index < 0 || index >= block.mParams.size()) {
+    return {};
+  }
+  DB_FB_Control after = block;
+  for (const FB_Side side : cSides) {
+    int number = 0;
+    for (DB_FB_Pin& pin : pins(after, side)) {
+      pin.mBinding.mName = QString::number(number++);
+    }
+  }
+  after.mParams[index] = value;
+  rebuild(after);
+  QStringList lost;
+  for (const FB_Side side : cSides) {
+    QSet<QString> kept;
+    for (const DB_FB_Pin& pin : pins(after, side)) {
+      kept.insert(pin.mBinding.mName);
+    }
+    int number = 0;
+    for (const DB_FB_Pin& pin : pins(block, side)) {
+      if (!kept.contains(QString::number(number++)) && pin.mBinding.mKind != DB_Address_Binding::Kind::None) {
+        lost.append(pin.mLongName);
+      }
+    }
+  }
+  return lost;
 }
 
 std::vector<DB_FB_Pin>& FB_Pins::pins(DB_FB_Control& block, FB_Side side) {

@@ -3,6 +3,7 @@
 #include "db/DB_Text.h"
 #include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Pin_Text.h"
+#include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Types.h"
 
 #include <QCoreApplication>
@@ -65,6 +66,9 @@ const DB_FB_Pin* pinAt(const std::vector<DB_FB_Pin>& pins, int index) {
 
 QString FB_Tool_Tip::of(const DB_FB_Control& block, int input, int output, std::optional<int> executionNumber) {
   QString text = head(block);
+  if (const QString missing = FB_Pins::missingPins(block); !missing.isEmpty()) {
+    text += escaped(missing) + QStringLiteral("<br>");
+  }
   if (const DB_FB_Pin* const pin = pinAt(block.mInputs, input)) {
     text += describe(*pin);
   } else if (const DB_FB_Pin* const other = pinAt(block.mOutputs, output)) {

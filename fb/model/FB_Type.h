@@ -68,5 +68,6 @@ struct FB_Type {
   bool mHasPins = false; ///< parameters and pins are declared; a block of any other type keeps what its record holds
   std::span<const FB_Parameter> mParameters = {};
   std::span<const FB_Pin_Group> mPins = {};
-  const char* mNoOutput = ""; ///< German; of a type with pins but no output: why it needs none
+  const char* mNoOutput = "";    ///< German; of a type with pins but no output: why it needs none
+  bool mHasRegisterPins = false; ///< the block's Modbus registers make further pins, behind these; none is counted then
 };

@@ -8,6 +8,7 @@
 #include "db/Project_Edits.h"
 #include "fb/FB_Block_Editors.h"
 #include "fb/FB_Page.h"
+#include "fb/help/FB_Help_Window.h"
 #include "fb/model/FB_Page_Edits.h"
 #include "tests/db/Session_Rig.h"
 #include "ui/Address_View.h"
@@ -279,6 +280,24 @@ private slots:
     QCOMPARE(page->pos(), QPoint()); // the place stays when Tab leaves
     emit page->typeUsagesRequested(50);
     QCOMPARE(rig.mWindow.findChild<Result_Dialog*>()->windowTitle(), u"Verwendungen: Baustein \"Und\""_s);
+  }
+
+  void helpIsOfWhatTheUserIsAt() {
+    Window_Rig rig;
+    rig.prepare(); // the keyboard is in the addresses, blocks are selected
+    const auto help = [&rig] {
+      rig.action("onHelp_Context")->trigger();
+      return rig.mWindow.findChild<FB_Help_Window*>()->page();
+    };
+    QCOMPARE(help(), u"group_addresses.html"_s);
+    QTRY_COMPARE(help(), u"fb_and.html"_s); // the help has the keyboard now
+    FB_Page* const page = rig.mWindow.findChild<Page_Tabs*>()->logicPage();
+    page->select({});
+    QCOMPARE(help(), u"logic_pages.html"_s);
+    emit page->helpRequested(u"fb_or.html"_s);
+    QCOMPARE(rig.mWindow.findChild<FB_Help_Window*>()->page(), u"fb_or.html"_s);
+    rig.action("onShowWelcome")->trigger();
+    QCOMPARE(help(), u"overview.html"_s);
   }
 
   void theTitleFollowsTheUndoPosition() {

@@ -3,6 +3,7 @@
 #include "db/DB_Legacy_Import.h"
 #include "db/Demo_Project.h"
 #include "db/Project_Edits.h"
+#include "fb/model/FB_Pins.h"
 #include "tests/app/Scripted_Dialogs.h"
 #include "tests/db/Session_Rig.h"
 
@@ -32,6 +33,9 @@ const QString cOverwriteDamaged = u"Ja/Nein: Das Projekt war beim Öffnen besch�
 const QStringList cReplaceOther = {u"Ja/Nein: Die Datei \"DIR/Anderes.zpro\" ist schon vorhanden. Ersetzen?"_s};
 const QString cDamaged = u"Meldung: Das Projekt ist beschädigt. Geöffnet ist, was lesbar war:\n\n"_s;
 const QString cDamage = cDamaged + u"Visualisierungsseiten: Die Tabelle fehlt."_s;
+const QString cFewPins = u"Meldung: Diese Bausteine haben weniger Ein- oder Ausgänge, als ihre Anzahl sagt. Die Anzahl "
+                         u"bleibt im Projekt, wie sie ist:\n\nKeller: Und: \"Anzahl Eingänge\" ist %1. Angelegt sind "
+                         u"die ersten %2."_s;
 const QString cOpenDialog = u"Datei: Datei öffnen, Projekte (*.zpro)"_s;
 const QStringList cSaveDialog = {u"Datei: Datei speichern, Projekte (*.zpro)"_s};
 const QStringList cNewDialog = {u"Datei: Neues Projekt, Projekte (*.zpro)"_s};
@@ -128,6 +132,18 @@ struct Lifecycle_Rig : Session_Rig {
     ProjectDatabase database;
     database.openProject(other(), false);
     database.mProject.mVersion = u"2.4"_s;
+    database.recordWriteAll(false);
+  }
+  void otherLarge() {
+    makeOther();
+    ProjectDatabase database;
+    database.openProject(other(), false);
+    DB_FB_Page& page = database.mFbPages.pages().at(0);
+    page.mCaption = u"Keller"_s;
+    auto block = FB_Pins::makeBlock(50, {});
+    block->mPageGuid = page.mGuid;
+    block->mParams[0] = u"1000000"_s;
+    database.mFbPages.appendChild(std::move(block));
     database.recordWriteAll(false);
   }
   void noProject() { haus(), write(other(), QByteArray(4096, 'x')); }
@@ -311,6 +327,8 @@ const std::vector<Row>& rows() {
       {"open an empty file", &Rig::otherEmpty, &Rig::openOther, {}, cOpening +
          QStringList{cDamaged + u"Die Datei ist leer."_s}, true, cOther},
       {"open a damaged project", &Rig::damaged, &Rig::openOther, {}, cOpening + QStringList{cDamage}, true, cOther},
+      {"open a project with an impossible count", &Rig::otherLarge, &Rig::openOther, {}, cOpening +
+         QStringList{cFewPins.arg(QLocale().toString(1000000), QLocale().toString(1024))}, true, cOther},
       {"open what is missing", &Rig::haus, &Rig::openOther, {},
          {u"Meldung: Das Projekt \"DIR/Anderes.zpro\" wurde nicht gefunden."_s}, false, cHaus},
       {"save", &Rig::edited, &Rig::save, {}, {}, true, cHaus},

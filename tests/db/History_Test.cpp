@@ -65,6 +65,46 @@ private slots:
     QCOMPARE(name(mLight), QStringLiteral("A"));
   }
 
+  void editsOfAFieldAreOneStep_data() {
+    QTest::addColumn<QString>("edits");
+    QTest::addColumn<QStringList>("names");
+    // a, b: a letter typed into the field of that token; anything else see `type`.
+    const auto row = [](const char* name, const char* edits, const char* names) {
+      QTest::newRow(name) << QString::fromLatin1(edits) << QString::fromLatin1(names).split(u' ');
+    };
+    row("typed on", "aaa", "3 Licht");
+    row("another field", "aabb", "4 2 Licht");
+    row("back to the first field", "aba", "3 2 1 Licht");
+    row("another edit in between", "a-a", "3 2 1 Licht");
+    row("saved in between", "aSa", "2 1 Licht");
+    row("undone in between", "aaua", "3 Licht");
+    row("undone and done again", "aaura", "3 2 Licht");
+    row("back to the beginning", "aa0", "Licht");
+    row("back to the beginning and on", "aa0a", "4 Licht");
+    row("the rest of a longer step", "-aa0a", "5 1 Licht");
+    row("nothing changed in between", "a a", "3 Licht");
+    row("fields in one turn", "Tabb", "3 1 Licht");
+  }
+
+  void editsOfAFieldAreOneStep() {
+    QFETCH(QString, edits);
+    QFETCH(QStringList, names);
+    const bool isOneTurn = edits.startsWith(u'T');
+    type(edits.mid(isOneTurn ? 1 : 0), isOneTurn);
+    history().commit();
+    const QByteArray after = dump();
+    const bool wasModified = session().isModified();
+    QStringList found{name(mLight)};
+    while (history().undo()) {
+      found.append(name(mLight));
+    }
+    QCOMPARE(found, names);
+    while (history().redo()) {
+    }
+    QCOMPARE(dump(), after);
+    QCOMPARE(session().isModified(), wasModified);
+  }
+
   void badValuesAndTheOperatingModeAreRefused() {
     const QByteArray before = dump();
     const QUuid page = session().database().mFbPages.pages().at(0).mGuid;
@@ -153,6 +193,30 @@ private:
   History& history() { return session().history(); }
   QByteArray dump() { return Project_Dump::project(session().database()); }
   QString name(const QUuid& key) { return session().database().mAddresses.subGroup(key)->mName; }
+
+  /// Letters are fields; 0 types the name that was there at first, a blank the present one, "-" is an edit without a
+  /// field; S saves, u and r undo and redo.
+  void type(const QString& edits, bool isOneTurn) {
+    const quint64 tokens[] = {history().newMerge(), history().newMerge()};
+    int count = 0;
+    for (const QChar edit : edits) {
+      if (edit == u'S') {
+        QCOMPARE(session().save(), Project_Session::Save_Result::Saved);
+      } else if (edit == u'u' || edit == u'r') {
+        QVERIFY(edit == u'u' ? history().undo() : history().redo());
+      } else {
+        ++count;
+        const QString typed = edit == u' '   ? name(mLight)
+                              : edit == u'0' ? QStringLiteral("Licht")
+                                             : QString::number(count);
+        const Edit_Scope scope(history(), Edit_Scope::Merge{edit == u'-' ? 0 : tokens[edit == u'b' ? 1 : 0]});
+        Address_Edits::set(session(), {mLight}, Address_Edits::Field::Name, typed);
+      }
+      if (!isOneTurn) {
+        history().commit();
+      }
+    }
+  }
 
   /// Renames, a position, groups made and deleted, an order changed; `salt` makes each one another.
   void apply(int edit, int salt) {

@@ -1,6 +1,7 @@
 #include "fb/model/FB_Normaliser.h"
 #include "fb/model/FB_Page_Edits.h"
 #include "fb/model/FB_Page_List_Edits.h"
+#include "fb/model/FB_Page_Notices.h"
 #include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Types.h"
 #include "tests/db/Project_Dump.h"
@@ -60,6 +61,13 @@ private slots:
     QCOMPARE(FB_Normaliser::normalise(pages).mRebuilt, 1);
     QCOMPARE(pages.child(wrong)->mParams.at(0), QStringLiteral("2"));
     QCOMPARE(pages.child(right)->mInputs[0].mLongName, QStringLiteral("Input 1"));
+    const QUuid large = add(QStringLiteral("1000000"));
+    pages.pages().at(0).mCaption = QStringLiteral("Keller");
+    const QStringList told = FB_Normaliser::normalise(pages).mMissingPins;
+    QCOMPARE(pages.child(large)->mParams.at(0), QStringLiteral("1000000"));
+    QCOMPARE(pages.child(large)->mInputs.size(), size_t(FB_Pins::cMostPins));
+    QVERIFY(told.size() == 1 && told.at(0).startsWith(u"Keller: Und: "));
+    QCOMPARE(FB_Page_Notices::of(pages.pages().at(0), {}, {}).size(), 1);
     QVERIFY(!rig.mSession.isModified());
     QCOMPARE(FB_Normaliser::normalise(pages).mRebuilt, 0);
   }

@@ -259,6 +259,22 @@ private slots:
     QVERIFY2(other.input(made.mBlocks.at(1)).mKind == Kind::None, "the variable is of the other project");
   }
 
+  void aSmallerCountTellsWhatItTakesAndGivesItBack() {
+    QVERIFY(setParameter(session(), mA, 0, QStringLiteral("4")));
+    QVERIFY(bind(session(), in(mA), mRig->mLight) && bind(session(), in(mA, 3), mRig->mBlind));
+    mRig->history().commit();
+    QCOMPARE(lostBindings(session(), {mA}, 0, QStringLiteral("4")), QStringList());
+    QCOMPARE(lostBindings(session(), {mA}, 0, QStringLiteral("3")), QStringList{"Eingang 4"});
+    QCOMPARE(lostBindings(session(), {mA, mB}, 0, QStringLiteral("x")), QStringList{"Und: Eingang 4"});
+    QVERIFY(setParameter(session(), mA, 0, QStringLiteral("3")));
+    QCOMPARE(mRig->input(mA).mName, QStringLiteral("Licht"));
+    mRig->history().commit();
+    QVERIFY(mRig->history().undo());
+    QCOMPARE(mRig->input(mA, 3).mName, QStringLiteral("Jalousie"));
+    QVERIFY(mRig->history().redo());
+    goBack();
+  }
+
   void aStepTellsWhatItChanged() {
     QVERIFY(move(session(), {{mA, {1, 2}}, {mB, {3, 4}}}));
     mRig->history().commit();

@@ -21,8 +21,14 @@ private slots:
                         << "40" << 40;
     QTest::newRow("above the editor") << 52 << "40"
                                       << "40" << 40;
-    QTest::newRow("above all") << 50 << "2000000000"
-                               << "1024" << 1024;
+    QTest::newRow("all") << 50 << "1024"
+                         << "1024" << 1024;
+    QTest::newRow("above all") << 50 << "1000000"
+                               << "1000000" << 1024;
+    QTest::newRow("largest") << 50 << "2147483647"
+                             << "2147483647" << 1024;
+    QTest::newRow("no 32 bits") << 50 << "2147483648"
+                                << "2" << 2;
     QTest::newRow("minimum of the type") << 53 << "1"
                                          << "1" << 1;
     QTest::newRow("behind a fixed pin") << 60 << "0"
@@ -36,6 +42,7 @@ private slots:
     block->mParams[0] = count;
     QCOMPARE(FB_Pins::isBuilt(*block), !isWrong);
     FB_Pins::rebuild(*block);
+    QCOMPARE(FB_Pins::missingPins(*block).isEmpty(), count.toInt() <= FB_Pins::cMostPins);
     QTEST(block->mParams.at(0), "corrected");
     QTEST(int(block->mInputs.size()), "inputs");
     QVERIFY(FB_Pins::isBuilt(*block));
@@ -78,6 +85,11 @@ private slots:
     const auto key = QUuid::createUuid();
     block->mInputs.at(size_t(bound)).mBinding.mKey = key;
     block->mOutputs.at(0).mBinding.mKey = key;
+    for (DB_FB_Pin* const pin : {&block->mInputs[size_t(bound)], &block->mOutputs[0]}) {
+      pin->mBinding.mKind = DB_Address_Binding::Kind::Internal;
+    }
+    const QStringList lost = foundAt < 0 ? QStringList{block->mInputs[size_t(bound)].mLongName} : QStringList();
+    QCOMPARE(FB_Pins::lostBindings(*block, 0, count), lost);
     block->mParams[0] = count;
     FB_Pins::rebuild(*block);
     for (int i = 0; i < int(block->mInputs.size()); ++i) {
@@ -87,7 +99,7 @@ private slots:
   }
 
   void whatIsNotDeclaredStays() {
-    const auto block = FB_Pins::makeBlock(1023, {});
+    const auto block = FB_Pins::makeBlock(2048, {});
     QVERIFY(block && block->mInputs.empty());
     block->mInputs.resize(3);
     block->mParams = {QStringLiteral("x")};

@@ -1,3 +1,4 @@
+#include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Type_Check.h"
 
 #include <QFile>
@@ -65,18 +66,33 @@ private slots:
     QTest::addColumn<FB_Parameter>("parameter");
     QTest::addColumn<FB_Pin_Group>("pins");
     QTest::addColumn<QString>("problem");
-    const FB_Pin_Group pin{FB_Side::Input, "Eingang", "E"};
-    const FB_Parameter count{"Anzahl", "", FB_Editor::Number, "2", 2, 64};
+    const FB_Pin_Group pin{FB_Side::Output, "Ausgang", "A"};
+    const FB_Parameter count{"Anzahl", "D", FB_Editor::Number, "2", 2, 64};
     static constexpr FB_Choice cChoices[] = {{0, "a"}, {1, "b"}};
-    QTest::newRow("below") << FB_Parameter{"P", "", FB_Editor::Number, "1", 2, 64} << pin << "out of range";
-    QTest::newRow("decimals") << FB_Parameter{"P", "", FB_Editor::Number, "1.5", 0, 64} << pin << "many decimals";
-    QTest::newRow("no number") << FB_Parameter{"P", "", FB_Editor::Number, "", 0, 64} << pin << "out of range";
-    QTest::newRow("check") << FB_Parameter{"P", "", FB_Editor::Check, "ja"} << pin << "neither 0 nor 1";
-    QTest::newRow("choice") << FB_Parameter{"P", "", FB_Editor::Choice, "2", 0, 0, 0, cChoices} << pin << "no choice";
-    QTest::newRow("nameless") << FB_Parameter{"", "", FB_Editor::Text} << pin << "without a name";
-    QTest::newRow("pin") << count << FB_Pin_Group{FB_Side::Input, "Eingang", ""} << "pin without";
-    QTest::newRow("nothing counts") << count << FB_Pin_Group{FB_Side::Input, "E%1", "E%1", 2, 1} << "not there";
-    QTest::newRow("other minimum") << count << FB_Pin_Group{FB_Side::Input, "E%1", "E%1", 1, 0} << "no count";
+    static constexpr FB_Choice cTwice[] = {{0, "a"}, {0, "b"}};
+    static constexpr FB_Choice cTextless[] = {{0, ""}};
+    QTest::newRow("below") << FB_Parameter{"P", "D", FB_Editor::Number, "1", 2, 64} << pin << "out of range";
+    QTest::newRow("decimals") << FB_Parameter{"P", "D", FB_Editor::Number, "1.5", 0, 64} << pin << "many decimals";
+    QTest::newRow("no number") << FB_Parameter{"P", "D", FB_Editor::Number, "", 0, 64} << pin << "out of range";
+    QTest::newRow("check") << FB_Parameter{"P", "D", FB_Editor::Check, "ja"} << pin << "neither 0 nor 1";
+    QTest::newRow("choice") << FB_Parameter{"P", "D", FB_Editor::Choice, "2", 0, 0, 0, cChoices} << pin << "no choice";
+    QTest::newRow("nameless") << FB_Parameter{"", "D", FB_Editor::Text} << pin << "without a name";
+    QTest::newRow("blank") << FB_Parameter{"P ", "D", FB_Editor::Text} << pin << "without a name";
+    QTest::newRow("undescribed") << FB_Parameter{"P", "", FB_Editor::Text} << pin << "without a description";
+    QTest::newRow("full stop") << FB_Parameter{"P", "D.", FB_Editor::Text} << pin << "without a description";
+    QTest::newRow("range") << FB_Parameter{"P", "D", FB_Editor::Number, "1", 2, 1} << pin << "impossible range";
+    QTest::newRow("twice") << FB_Parameter{"P", "D", FB_Editor::Choice, "0", 0, 0, 0, cTwice} << pin << "made twice";
+    QTest::newRow("textless") << FB_Parameter{"P", "D", FB_Editor::Choice, "0", 0, 0, 0, cTextless} << pin
+                              << "without a text";
+    QTest::newRow("unit") << FB_Parameter{"P", "D", FB_Editor::Text, "", 0, 0, 0, {}, "s"} << pin << "unit of no";
+    QTest::newRow("itself") << FB_Parameter{"P", "D", FB_Editor::Check, "0", 0, 0, 0, {}, "", 0} << pin << "needs what";
+    QTest::newRow("pin") << count << FB_Pin_Group{FB_Side::Output, "Ausgang", ""} << "pin without";
+    QTest::newRow("nothing counts") << count << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 2, 1} << "not there";
+    QTest::newRow("other minimum") << count << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 1, 0} << "no count";
+    QTest::newRow("numberless") << count << FB_Pin_Group{FB_Side::Output, "A", "A%1", 2, 0} << "without a number";
+    QTest::newRow("type of a pin") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1-1"} << "no datapoint";
+    QTest::newRow("unknown type") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1.999"} << "no datapoint";
+    QTest::newRow("only an input") << count << FB_Pin_Group{FB_Side::Input, "E", "E"} << "neither an output";
   }
   void faultsOfADeclarationAreFound() {
     QFETCH(FB_Parameter, parameter);
@@ -93,6 +109,65 @@ private slots:
     QVERIFY2(found.size() == 1 && found.at(0).contains(problem), qPrintable(found.join(u'\n')));
     const FB_Types::Category twice[] = {category, category};
     QCOMPARE(FB_Type_Check::problems(twice).filter(QStringLiteral("used twice")).size(), 2);
+  }
+
+  void everyTypeComesBackFromItsText() {
+    for (const FB_Type* type : FB_Types::all()) {
+      const auto block = FB_Pins::makeBlock(type->mId, {16, 32});
+      DB_FB_Control again;
+      again.setData(block->toData());
+      again.fromData();
+      QVERIFY2(again.isEqual(*block) && FB_Pins::isBuilt(again), type->mClass);
+      QCOMPARE(again.mParams, block->mParams);
+    }
+  }
+
+  void everyTypeHasItsHelp() {
+    QStringList missing;
+    for (const FB_Type* type : FB_Types::all()) {
+      const QString page = FB_Types::helpFileName(type->mId);
+      QFile file(QFINDTESTDATA("../../resources/help") + u'/' + page);
+      if (type->mHasPins && !(file.open(QIODevice::ReadOnly) && file.readAll().startsWith("<p>"))) {
+        missing.append(page);
+      }
+    }
+    QCOMPARE(missing, QStringList());
+  }
+
+  void everyCountKeepsToItsEnds() {
+    for (const FB_Type* type : FB_Types::all()) {
+      for (const FB_Pin_Group& group : type->mPins) {
+        if (group.mParameter < 0) {
+          continue;
+        }
+        const FB_Parameter& count = type->mParameters[size_t(group.mParameter)];
+        const int fewest = int(count.mMinimum);
+        const int most = int(count.mMaximum);
+        for (const int wanted : {fewest - 1, fewest, most, most + 1, 1'000'000}) {
+          const auto block = FB_Pins::makeBlock(type->mId, {});
+          std::vector<DB_FB_Pin>& pins = FB_Pins::pins(*block, group.mSide);
+          // Whatever is added or taken away, what is bound and stays is found at the same pin.
+          for (DB_FB_Pin& pin : pins) {
+            pin.mBinding.mName = pin.mLongName;
+          }
+          block->mParams[group.mParameter] = QString::number(wanted);
+          FB_Pins::rebuild(*block);
+          const int kept = std::max(wanted, fewest);
+          QCOMPARE(block->mParams.at(group.mParameter), QString::number(kept));
+          const auto isOfGroup = [&](const DB_FB_Pin& pin) {
+            const QString word = FB_Types::text(group.mLongName).section(QStringLiteral("%1"), 0, 0);
+            return pin.mLongName.startsWith(word) && pin.mLongName.mid(word.size()).toInt() > 0;
+          };
+          QVERIFY2(std::ranges::count_if(pins, isOfGroup) == std::min(kept, FB_Pins::cMostPins), type->mClass);
+          QVERIFY2(std::ranges::all_of(pins,
+                                       [](const DB_FB_Pin& pin) {
+                                         return pin.mBinding.mName.isEmpty() || pin.mBinding.mName == pin.mLongName;
+                                       }),
+                   type->mClass);
+          QCOMPARE(FB_Pins::missingPins(*block).isEmpty(), kept <= FB_Pins::cMostPins);
+        }
+      }
+    }
   }
 };
 
