@@ -8,6 +8,12 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+namespace {
+constexpr int cPageShare = 3;
+constexpr int cAddressShare = 2;
+constexpr int cAnyHeight = 1000; // the splitter keeps the ratio only
+} // namespace
+
 FB_Dev_Properties::FB_Dev_Properties(Project_Session& session, App_Settings& settings, QWidget* parent)
     : QWidget(parent),
       mStack(new QStackedWidget),
@@ -23,6 +29,9 @@ FB_Dev_Properties::FB_Dev_Properties(Project_Session& session, App_Settings& set
   mSplitter->addWidget(mPage);
   mSplitter->addWidget(mAddress);
   mSplitter->setChildrenCollapsible(false);
+  mSplitter->setStretchFactor(0, cPageShare);
+  mSplitter->setStretchFactor(1, cAddressShare);
+  mSplitter->setSizes({cPageShare * cAnyHeight, cAddressShare * cAnyHeight});
   mStack->addWidget(hint);
   mStack->addWidget(mSplitter);
   auto* const layout = new QVBoxLayout(this);

@@ -30,7 +30,7 @@ constexpr int cSmallGap = 4;
 constexpr int cIndentation = 12;
 constexpr int cNoticeIcon = 16;
 /// Of the width, for names at most.
-constexpr double cNameShare = 0.56;
+constexpr double cNameShare = 0.62;
 
 QTreeWidgetItem* addSection(QTreeWidget& tree, const QString& title) {
   auto* const section = new QTreeWidgetItem(&tree, {title});
@@ -305,7 +305,7 @@ void FB_Dev_Properties_Page::updateColumns() {
       }
     }
   }
-  mTree->setColumnWidth(0, std::min(most, width + 2 * cIndentation + 2 * cGap));
+  mTree->setColumnWidth(0, std::min(most, width + 2 * cIndentation + cGap + cSmallGap));
 }
 
 void FB_Dev_Properties_Page::resizeEvent(QResizeEvent* event) {
