@@ -118,7 +118,7 @@ void Main_Window_Base::connectParts() {
 }
 
 QList<QSplitter*> Main_Window_Base::splitters() const {
-  return {mSplitterMain, mPageView->splitter()};
+  return {mSplitterMain, mPageView->splitter(), mProperties->splitter()};
 }
 
 void Main_Window_Base::restoreViews() {
@@ -210,6 +210,11 @@ void Main_Window_Base::showChild(const QUuid& page, const QUuid& child) {
   mPageView->showPage(page);
   showProjectPage();
   mPageTabs->showChild(page, child);
+}
+
+void Main_Window_Base::showPanel(QWidget& panel) {
+  mTabs->setCurrentWidget(mPageView);
+  mPageView->showPanel(&panel);
 }
 
 void Main_Window_Base::enterWork() {

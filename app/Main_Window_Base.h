@@ -59,6 +59,8 @@ protected:
   void showAddress(const QUuid& key);
   void showPage(const QUuid& guid);
   void showChild(const QUuid& page, const QUuid& child);
+  /// A panel of the tab "Navigation" comes to the front, without the keyboard.
+  void showPanel(QWidget& panel);
   /// Each takes the keyboard there.
   void enterWork();
   void enterNavigation();

@@ -30,12 +30,20 @@ void Main_Window_Dev::connectPageCommands() {
   connect(&properties(), &FB_Dev_Properties::pagePropertiesRequested, mPageCommands,
           &FB_Page_List_Commands::onProperties);
   connect(&properties(), &FB_Dev_Properties::editorRequested, mEditors, &FB_Block_Editors::open);
+  connect(&properties(), &FB_Dev_Properties::catalogueRequested, this, [this] { showPanel(catalogue()); });
   connect(&properties(), &FB_Dev_Properties::blockChosen, this, &Main_Window_Dev::showChild);
   connect(&properties(), &FB_Dev_Properties::statusText, this, &Main_Window_Dev::showInfo);
   connect(mEditors, &FB_Block_Editors::statusText, this, &Main_Window_Dev::showInfo);
   connect(mEditors, &FB_Block_Editors::helpRequested, this, &Main_Window_Dev::showHelp);
   connect(&catalogue(), &FB_Dev_New_Control::insertRequested, this, &Main_Window_Dev::insertBlock);
   connect(&pageTabs(), &Page_Tabs::logicPageOpened, this, &Main_Window_Dev::connectLogicPage);
+  connect(&pageTabs(), &Page_Tabs::changed, this, [this] {
+    if (FB_Page* const page = pageTabs().logicPage()) {
+      properties().showBlocks(*page);
+    } else {
+      properties().clear();
+    }
+  });
   connect(&mSession.history(), &History::stepApplied, this, &Main_Window_Dev::followStep);
 }
 
@@ -43,6 +51,7 @@ void Main_Window_Dev::connectLogicPage(FB_Page& page) {
   connect(&page, &FB_Page::selectionChanged, this, [this, &page] { followSelection(page); });
   connect(&page, &FB_Page::propertiesRequested, mPageCommands, &FB_Page_List_Commands::onProperties);
   connect(&page, &FB_Page::editorRequested, mEditors, &FB_Block_Editors::open);
+  connect(&page, &FB_Page::blockPropertiesRequested, this, [this] { showPanel(properties()); });
   connect(&page, &FB_Page::usagesRequested, this, [this](const QUuid& key) { resultDialog(mUsages).showUses(key); });
   connect(&page, &FB_Page::typeUsagesRequested, this, [this](int type) { resultDialog(mUsages).showType(type); });
   connect(&page, &FB_Page::helpRequested, this, &Main_Window_Dev::showHelp);

@@ -165,6 +165,8 @@ signals:
   /// The other page was chosen that uses what a pin is bound to; the block there.
   void linkActivated(const QUuid& page, const QUuid& block);
   void propertiesRequested(const QUuid& page);
+  /// A block was chosen whose properties shall be seen.
+  void blockPropertiesRequested();
   /// The window of that block shall open.
   void editorRequested(const QUuid& block);
   /// Of an address or a variable.

@@ -88,8 +88,11 @@ void FB_Page::blockDoubleClicked(FB_Base& block, const FB_Pin_Ref* pin, QMouseEv
   if (event.button() == Qt::LeftButton && isText && !pin && mayEdit()) {
     cancelGesture();
     editText(block.guid());
-  } else {
-    blockPressed(block, pin, event);
+    return;
+  }
+  blockPressed(block, pin, event);
+  if (event.button() == Qt::LeftButton && !isText && !pin) {
+    emit blockPropertiesRequested();
   }
 }
 

@@ -86,6 +86,10 @@ void Page_View::addPanel(QWidget* panel, const QString& title) {
   mPanels->setCurrentIndex(0);
 }
 
+void Page_View::showPanel(QWidget* panel) {
+  mPanels->setCurrentWidget(panel);
+}
+
 void Page_View::enter() {
   if (!mTree->currentIndex().isValid()) {
     mTree->setCurrentIndex(mModel->index(0, 0));

@@ -36,6 +36,8 @@ public:
   void enter();
   /// A further panel below the tree, before what there is to say about the page, and shown at first.
   void addPanel(QWidget* panel, const QString& title);
+  /// Brings it to the front; the keyboard focus stays where it is.
+  void showPanel(QWidget* panel);
 
   /// Between tree and details; its object name is "ui:mSplitterRight".
   [[nodiscard]] QSplitter* splitter() { return mSplitter; }

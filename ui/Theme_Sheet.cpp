@@ -59,6 +59,11 @@ QLineEdit:read-only { background: @Window@; }
 QLineEdit:disabled { background: @Window@; border-color: @Button@; }
 QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0px; min-height: 0px; }
 QAbstractItemView QLineEdit { border: 1px solid @Accent@; border-radius: 0px; padding: 0px; min-height: 0px; }
+FB_Dev_Properties_Page QTreeWidget { background: @Window@; }
+FB_Property_Row QLineEdit { border: 1px solid @Border@; border-radius: 3px; padding: 2px 4px; min-height: 16px; }
+FB_Property_Row QLineEdit:focus { border-color: @Accent@; }
+FB_Property_Row QLineEdit:disabled { border-color: @Button@; }
+FB_Property_Row QAbstractSpinBox QLineEdit { border: none; padding: 0px; min-height: 0px; }
 QLineEdit[invalid="true"], QAbstractItemView QLineEdit[invalid="true"] { border: 1px solid @Error@; }
 QLabel[reason="true"] { background: @Input@; color: @ErrorText@; border: 1px solid @Error@; padding: 4px 8px; }
 

@@ -4,6 +4,10 @@
 #include "fb/FB_Property_Editors.h"
 #include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Types.h"
+#include "fb/properties/FB_Dev_Properties_Checkbox.h"
+#include "fb/properties/FB_Dev_Properties_ComboBox.h"
+#include "fb/properties/FB_Dev_Properties_LineEdit.h"
+#include "fb/properties/FB_Dev_Properties_SpinBox.h"
 #include "tests/db/Session_Rig.h"
 
 #include <QMimeData>
@@ -79,6 +83,32 @@ DB_Address_Binding addressBinding(const QString& name) {
 }
 
 } // namespace
+
+/// Makes the editors and keeps them.
+struct Editors : FB_Property_Editors {
+  template <class Editor>
+  Editor* add(int index, const QString& value) {
+    auto* const editor = new Editor(index, &mPanel);
+    editor->showValue({value, false});
+    mRows.append(editor);
+    return editor;
+  }
+  FB_Dev_Properties_SpinBox* addNumber(int i, const FB_Parameter&, const QString& value) override {
+    return add<FB_Dev_Properties_SpinBox>(i, value);
+  }
+  FB_Dev_Properties_Checkbox* addCheck(int i, const FB_Parameter&, const QString& value) override {
+    return add<FB_Dev_Properties_Checkbox>(i, value);
+  }
+  FB_Dev_Properties_ComboBox* addChoice(int i, const FB_Parameter&, const QString& value) override {
+    return add<FB_Dev_Properties_ComboBox>(i, value);
+  }
+  FB_Dev_Properties_LineEdit* addText(int i, const FB_Parameter&, const QString& value) override {
+    return add<FB_Dev_Properties_LineEdit>(i, value);
+  }
+  void setEnabled(int, bool) override {}
+  QWidget mPanel;
+  QList<FB_Dev_Properties_Editor*> mRows;
+};
 
 class FB_Base_Test : public QObject {
   Q_OBJECT
@@ -328,25 +358,16 @@ private slots:
   }
 
   void parametersAreEditedAsTheTypeDeclaresThem() {
-    struct Editors : FB_Property_Editors {
-      void add(const char* kind, int index, const FB_Parameter& of, const QString& value) {
-        const QString range = QStringLiteral("%1..%2").arg(of.mMinimum).arg(of.mMaximum);
-        mRows.append(QStringLiteral("%1 %2 %3 %4").arg(QLatin1String(kind)).arg(index).arg(value, range));
-      }
-      void addNumber(int i, const FB_Parameter& of, const QString& value) override { add("number", i, of, value); }
-      void addCheck(int i, const FB_Parameter& of, const QString& value) override { add("check", i, of, value); }
-      void addChoice(int i, const FB_Parameter& of, const QString& value) override { add("choice", i, of, value); }
-      void addText(int i, const FB_Parameter& of, const QString& value) override { add("text", i, of, value); }
-      void setEnabled(int, bool) override {}
-      QStringList mRows;
-    } editors;
+    Editors editors;
     Host host;
     DB_FB_Control record = makeBlock(50, 2, 1);
     record.mParams = {QStringLiteral("5"), {}, {}};
     FB_Base block(nullptr, host, record);
     block.setupProperties(editors);
     QCOMPARE(editors.mRows.size(), 3);
-    QCOMPARE(editors.mRows.constFirst(), QStringLiteral("number 0 5 2..64"));
+    const auto* const count = dynamic_cast<FB_Dev_Properties_SpinBox*>(editors.mRows.constFirst());
+    QVERIFY(count && count->decimals() == 0 && count->minimum() == 2 && count->maximum() == 64);
+    QCOMPARE(count->storedText(), QStringLiteral("5"));
     block.applyProperties();
     QCOMPARE(block.record().mInputs.size(), size_t(5));
     QCOMPARE(block.height(), static_cast<int>(7 * g));

@@ -1,3 +1,4 @@
+#include "fb/model/FB_Block_Edits.h"
 #include "fb/model/FB_Clipboard.h"
 #include "fb/model/FB_Page_List_Edits.h"
 #include "fb/model/FB_Variable_Generation.h"
@@ -170,7 +171,7 @@ private:
     static constexpr int cTypes[] = {10, 11, 12, 50, 50, 51, 53, 1337};
     Project_Session& session = mRig.mSession;
     const bool isFull = pages().childCount() >= cMostBlocks;
-    switch (isFull ? 12 + bounded(10) : bounded(24)) {
+    switch (isFull ? 12 + bounded(13) : bounded(27)) {
     case 0:
     case 1:
       return Edit_Result{create(session, page().mGuid, cTypes[bounded(std::size(cTypes))], point()).mError};
@@ -211,6 +212,13 @@ private:
       return editPages();
     case 21:
       return FB_Page_List_Edits::move(session, page().mGuid, bounded(pages().pages().size()));
+    case 22:
+      return setParameter(session, some(), 0, QString::number(bounded(9)));
+    case 23:
+      return FB_Block_Edits::setDisableAddress(session, some(), bounded(3) ? address() : QUuid());
+    case 24:
+      return bounded(2) ? FB_Block_Edits::takeNames(session, some())
+                        : FB_Block_Edits::setStartDelay(session, some(), bounded(3));
     default: { // two in one turn
       const Edit_Result first = move();
       const Edit_Result second = remove(session, {one()});

@@ -1,4 +1,5 @@
 #include "db/DB_Bindings.h"
+#include "fb/model/FB_Block_Edits.h"
 #include "fb/model/FB_Clipboard.h"
 #include "tests/fb/Logic_Rig.h"
 
@@ -100,6 +101,25 @@ private slots:
         "too many pins", [this] { return setParameter(session(), mA, 0, QStringLiteral("999999999")); },
         QStringLiteral("64"));
     row(
+        "one of several",
+        [this] {
+          return setParameter(session(), QList<QUuid>{mA, QUuid::createUuid()}, 0, QStringLiteral("3"));
+        },
+        QStringLiteral("gibt es"));
+    row(
+        "long name", [this] { return FB_Block_Edits::setName(session(), {mA}, QString(256, u'x')); },
+        QStringLiteral("255"));
+    row(
+        "delay",
+        [this] {
+          return FB_Block_Edits::setStartDelay(session(), {mA, mB}, -1);
+        },
+        QStringLiteral("-1 s"));
+    row(
+        "no disabling address",
+        [this] { return FB_Block_Edits::setDisableAddress(session(), {mA}, QUuid::createUuid()); },
+        QStringLiteral("gibt es"));
+    row(
         "no address", [this] { return bind(session(), in(mA), QUuid::createUuid()); }, QStringLiteral("gibt es"));
     row(
         "nothing packed", [this] { return FB_Clipboard::paste(session(), mRig->mPage, "QSBLOCKS", {}, true); },
@@ -116,6 +136,34 @@ private slots:
     mRig->mState.setOperatingMode(false);
     mRig->history().commit();
     QCOMPARE(mRig->dump(), mStart);
+  }
+
+  void fieldsOfSeveralBlocks() {
+    QVERIFY(bind(session(), out(mA), mRig->mLight) && bind(session(), in(mB), mRig->mBlind));
+    mRig->history().commit();
+    const QList<QUuid> all{mA, mB, mC};
+    const size_t steps = mRig->history().position();
+    QVERIFY(FB_Block_Edits::takeNames(session(), all));
+    mRig->history().commit();
+    QCOMPARE(mRig->history().position(), steps + 1);
+    QStringList names;
+    for (const QUuid& block : all) {
+      names.append(mRig->block(block).mName);
+    }
+    QCOMPARE(names, (QStringList{QStringLiteral("Licht"), QStringLiteral("Jalousie"), QStringLiteral("Und")}));
+    QVERIFY(FB_Block_Edits::setComment(session(), all, QStringLiteral("Treppe")));
+    QVERIFY(FB_Block_Edits::setCommentAsCaption(session(), {mC}, true));
+    QCOMPARE(FB_Block_Edits::fittingName(mRig->block(mC)), QStringLiteral("Treppe"));
+    QVERIFY(FB_Block_Edits::setDisabled(session(), all, true) && FB_Block_Edits::setUpdateCyclic(session(), all, true));
+    QVERIFY(FB_Block_Edits::setUpdateAtStart(session(), all, false) &&
+            FB_Block_Edits::setStartDelay(session(), all, 9));
+    QVERIFY(FB_Block_Edits::setDisableAddress(session(), all, mRig->mLight));
+    QCOMPARE(mRig->block(mB).mDisableAddress.mName, QStringLiteral("Licht"));
+    QVERIFY(FB_Block_Edits::setDisableAddress(session(), {mB}, {}));
+    QCOMPARE(mRig->block(mB).mDisableAddress.mKind, Kind::None);
+    QVERIFY(setParameter(session(), all, 0, QStringLiteral("5")) && bind(session(), in(mA, 4), mRig->mLight));
+    QCOMPARE(FB_Block_Edits::lostBindings(session(), all, 0, QStringLiteral("4")), 1);
+    goBack();
   }
 
   /// After taking the wire from A to B away.

@@ -1,0 +1,217 @@
+// The rows of the parameters.
+#include "db/Project_Session.h"
+#include "fb/FB_Base.h"
+#include "fb/FB_Page.h"
+#include "fb/model/FB_Block_Edits.h"
+#include "fb/model/FB_Page_Edits.h"
+#include "fb/model/FB_Parameter_Text.h"
+#include "fb/model/FB_Types.h"
+#include "fb/properties/FB_Dev_Properties_Checkbox.h"
+#include "fb/properties/FB_Dev_Properties_ComboBox.h"
+#include "fb/properties/FB_Dev_Properties_LineEdit.h"
+#include "fb/properties/FB_Dev_Properties_Page.h"
+#include "fb/properties/FB_Dev_Properties_SpinBox.h"
+#include "fb/properties/FB_Property_Row.h"
+
+#include <QTreeWidget>
+
+#include <algorithm>
+
+QList<FB_Dev_Properties_Editor*> FB_Dev_Properties_Page::editors() const {
+  QList<FB_Dev_Properties_Editor*> all;
+  for (const auto& [index, field] : mRows) {
+    all.append(field.mEditor);
+  }
+  return all;
+}
+
+FB_Dev_Properties_Editor* FB_Dev_Properties_Page::editor(int index) const {
+  const auto at = mRows.find(index);
+  return at == mRows.end() ? nullptr : at->second.mEditor;
+}
+
+template <class Editor, class Slot>
+Editor* FB_Dev_Properties_Page::editorFor(int index, const FB_Parameter& parameter, const QString& value, Slot slot) {
+  auto at = mRows.find(index);
+  if (at != mRows.end() && !dynamic_cast<Editor*>(at->second.mEditor)) {
+    delete at->second.mItem;
+    at = mRows.erase(at);
+  }
+  if (at == mRows.end() || at->first != index) {
+    auto* const made = new Editor(index);
+    const auto place = static_cast<int>(std::distance(mRows.begin(), mRows.lower_bound(index)));
+    Parameter_Field field;
+    static_cast<Field&>(field) = addField(*mParameters, place, FB_Parameter_Text::name(parameter, index), *made);
+    field.mParameter = parameter;
+    describe(field, FB_Types::text(parameter.mDescription), FB_Parameter_Text::toolTip(parameter));
+    made->showValue({value, false});
+    connect(made, qOverload<Editor*>(&Editor::valueChanged), this, slot);
+    connect(field.mRow, &FB_Property_Row::resetRequested, this,
+            [this, made, usual = parameter.mDefault] { editParameter(*made, QString::fromUtf8(usual)); });
+    at = mRows.emplace(index, field).first;
+  }
+  at->second.mIsAsked = true;
+  return static_cast<Editor*>(at->second.mEditor);
+}
+
+FB_Dev_Properties_SpinBox* FB_Dev_Properties_Page::addNumber(int index, const FB_Parameter& parameter,
+                                                             const QString& value) {
+  const bool isNew = !editor(index);
+  auto* const made = editorFor<FB_Dev_Properties_SpinBox>(index, parameter, value,
+                                                          &FB_Dev_Properties_Page::onParam_SpinBox_valueChanged);
+  if (isNew) {
+    FB_Property_Row* const row = mRows.at(index).mRow;
+    connect(made, &FB_Dev_Properties_SpinBox::typedOutside, row, [row, parameter](bool isOutside) {
+      const QString outside = FB_Parameter_Text::ofNumber(parameter.mMaximum + 1, 0);
+      row->setFault(isOutside ? FB_Parameter_Text::fault(parameter, outside) : QString());
+    });
+  }
+  return made;
+}
+
+FB_Dev_Properties_Checkbox* FB_Dev_Properties_Page::addCheck(int index, const FB_Parameter& parameter,
+                                                             const QString& value) {
+  return editorFor<FB_Dev_Properties_Checkbox>(index, parameter, value,
+                                               &FB_Dev_Properties_Page::onParam_Checkbox_valueChanged);
+}
+
+FB_Dev_Properties_ComboBox* FB_Dev_Properties_Page::addChoice(int index, const FB_Parameter& parameter,
+                                                              const QString& value) {
+  return editorFor<FB_Dev_Properties_ComboBox>(index, parameter, value,
+                                               &FB_Dev_Properties_Page::onParam_Combobox_valueChanged);
+}
+
+FB_Dev_Properties_LineEdit* FB_Dev_Properties_Page::addText(int index, const FB_Parameter& parameter,
+                                                            const QString& value) {
+  return editorFor<FB_Dev_Properties_LineEdit>(index, parameter, value,
+                                               &FB_Dev_Properties_Page::onParam_Edit_valueChanged);
+}
+
+void FB_Dev_Properties_Page::setEnabled(int index, bool isEnabled) {
+  if (const auto at = mRows.find(index); at != mRows.end()) {
+    setDisabledReason(at->second, isEnabled ? QString() : tr("Ist bei den anderen Einstellungen ohne Bedeutung."));
+  }
+}
+
+void FB_Dev_Properties_Page::clearParameters() {
+  for (const auto& [index, field] : mRows) {
+    delete field.mItem;
+  }
+  mRows.clear();
+  mType = -1;
+}
+
+/// The block asks for its rows anew each time: those that it asks for again stay as they are.
+void FB_Dev_Properties_Page::showParameters(const Blocks& blocks) {
+  const int type = blocks.front()->mType;
+  const bool isOneType = std::ranges::all_of(blocks, [type](const auto* block) { return block->mType == type; });
+  const FB_Base* const first = mCanvas->blocks().find(blocks.front()->mGuid);
+  mTree->setUpdatesEnabled(false);
+  if (!isOneType || !first || mType != type) {
+    clearParameters();
+  }
+  if (isOneType && first) {
+    mType = type;
+    for (auto& [index, field] : mRows) {
+      field.mIsAsked = false;
+    }
+    first->setupProperties(*this);
+    std::erase_if(mRows, [](const auto& row) {
+      if (!row.second.mIsAsked) {
+        delete row.second.mItem;
+      }
+      return !row.second.mIsAsked;
+    });
+    for (auto& [index, field] : mRows) {
+      showParameter(field, index, blocks);
+    }
+  }
+  showParameterHint(blocks);
+  mTree->setUpdatesEnabled(true);
+}
+
+void FB_Dev_Properties_Page::showParameter(Parameter_Field& field, int index, const Blocks& blocks) {
+  const FB_Parameter& parameter = field.mParameter;
+  const QString usual = QString::fromUtf8(parameter.mDefault);
+  const auto valueOf = [&](const DB_FB_Control& block) {
+    return index < block.mParams.size() ? block.mParams.at(index) : usual;
+  };
+  const FB_Shared_Value value = FB_Shared_Value::of(blocks, valueOf);
+  field.mEditor->showValue(value);
+  const bool isChanged = value.mIsMixed || !FB_Parameter_Text::isDefault(parameter, value.mText);
+  QFont font = mTree->font();
+  font.setBold(isChanged);
+  if (field.mItem->font(0).bold() != isChanged) {
+    field.mItem->setFont(0, font);
+  }
+  field.mRow->setReset(isChanged ? tr("Auf Vorgabe \"%1\" zurücksetzen").arg(FB_Parameter_Text::shown(parameter, usual))
+                                 : QString());
+  if (!field.mEditor->isTyping()) {
+    field.mRow->setFault(value.mIsMixed ? QString() : FB_Parameter_Text::fault(parameter, value.mText));
+  }
+}
+
+void FB_Dev_Properties_Page::showParameterHint(const Blocks& blocks) {
+  const int type = blocks.front()->mType;
+  const bool isOneType = std::ranges::all_of(blocks, [type](const auto* block) { return block->mType == type; });
+  const FB_Type* const declared = FB_Types::find(type);
+  mHint->setText(0, !isOneType                       ? tr("Nur für Bausteine eines Typs")
+                    : declared && declared->mHasPins ? tr("Der Baustein hat keine Parameter.")
+                                                     : tr("Parameter noch nicht verfügbar"));
+  mHint->setHidden(!mRows.empty());
+}
+
+/// Why the row does not matter, with the blocks as they are; empty when it does for one of them.
+QString FB_Dev_Properties_Page::whyUseless(const Parameter_Field& field, const Blocks& blocks) const {
+  const FB_Parameter& parameter = field.mParameter;
+  const auto needed = mRows.find(parameter.mNeeds);
+  if (parameter.mNeeds < 0 || needed == mRows.end()) {
+    return {};
+  }
+  const auto matters = [&](const DB_FB_Control* block) {
+    return FB_Parameter_Text::number(block->mParams.value(parameter.mNeeds)) == double(parameter.mNeedsValue);
+  };
+  return std::ranges::any_of(blocks, matters)
+             ? QString()
+             : tr("Nur von Bedeutung, wenn \"%1\" auf \"%2\" steht.")
+                   .arg(FB_Parameter_Text::name(needed->second.mParameter, parameter.mNeeds),
+                        FB_Parameter_Text::shown(needed->second.mParameter, QString::number(parameter.mNeedsValue)));
+}
+
+bool FB_Dev_Properties_Page::countsPins(int index) const {
+  const FB_Type* const type = FB_Types::find(mType);
+  return type && std::any_of(type->mPins.begin(), type->mPins.end(),
+                             [index](const FB_Pin_Group& group) { return group.mParameter == index; });
+}
+
+void FB_Dev_Properties_Page::editParameter(FB_Dev_Properties_Editor& editor, const QString& value) {
+  const int index = editor.index();
+  const int lost = countsPins(index) ? FB_Block_Edits::lostBindings(mSession, mBlocks, index, value) : 0;
+  if (!edit(editor.widget(), [&] { return FB_Page_Edits::setParameter(mSession, mBlocks, index, value); })) {
+    return;
+  }
+  if (lost > 0) {
+    setNotice(lost == 1 ? tr("Mit den Pins ist eine Verknüpfung entfallen. Rückgängig bringt sie zurück.")
+                        : tr("Mit den Pins sind %1 Verknüpfungen entfallen. Rückgängig bringt sie zurück.").arg(lost));
+  }
+  const FB_Base* const first = mCanvas ? mCanvas->blocks().find(mBlocks.value(0)) : nullptr;
+  if (first && !mRows.empty()) {
+    first->parameterEdited(*this, index);
+  }
+}
+
+void FB_Dev_Properties_Page::onParam_SpinBox_valueChanged(FB_Dev_Properties_SpinBox* editor) {
+  editParameter(*editor, editor->storedText());
+}
+
+void FB_Dev_Properties_Page::onParam_Checkbox_valueChanged(FB_Dev_Properties_Checkbox* editor) {
+  editParameter(*editor, editor->storedText());
+}
+
+void FB_Dev_Properties_Page::onParam_Combobox_valueChanged(FB_Dev_Properties_ComboBox* editor) {
+  editParameter(*editor, editor->storedText());
+}
+
+void FB_Dev_Properties_Page::onParam_Edit_valueChanged(FB_Dev_Properties_LineEdit* editor) {
+  editParameter(*editor, editor->storedText());
+}
