@@ -61,17 +61,19 @@ FB_Dev_Properties_Page::FB_Dev_Properties_Page(Project_Session& session, App_Set
   mHeading->setFont(bold);
   Theme::setTextRole(*mSubject, Theme::Role::SecondaryText);
   auto* const heading = new QHBoxLayout;
-  heading->setContentsMargins(cGap, cGap, cGap, 0);
   heading->setSpacing(cGap);
+  heading->addSpacing(cGap);
   heading->addWidget(mHeading);
   heading->addWidget(mSubject, 1);
+  heading->addSpacing(cGap);
 
   auto* const sign = new QLabel;
   sign->setPixmap(Theme::icon(QStringLiteral("warning_white")).pixmap(cNoticeIcon));
   mNoticeText->setWordWrap(true);
   mNoticeText->setTextFormat(Qt::PlainText);
   auto* const notice = new QHBoxLayout(mNotice);
-  notice->setContentsMargins(cGap, cSmallGap, cGap, 0);
+  notice->setContentsMargins(0, 0, 0, 0);
+  mNotice->setContentsMargins(cGap, 0, cGap, 0);
   notice->addWidget(sign, 0, Qt::AlignTop);
   notice->addWidget(mNoticeText, 1);
   mNotice->hide();
@@ -92,6 +94,7 @@ FB_Dev_Properties_Page::FB_Dev_Properties_Page(Project_Session& session, App_Set
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(cSmallGap);
+  layout->addSpacing(cSmallGap);
   layout->addLayout(heading);
   layout->addWidget(mNotice);
   layout->addWidget(mTree, 1);
@@ -132,13 +135,14 @@ void FB_Dev_Properties_Page::buildButtons(QVBoxLayout& layout) {
   mPageProperties->setFocusPolicy(Qt::StrongFocus);
   mOpenEditor = new QPushButton;
   auto* const line = new QHBoxLayout;
-  line->setContentsMargins(cGap, 0, cGap, 0);
   line->setSpacing(cGap);
+  line->addSpacing(cGap);
   line->addWidget(mGenerate);
   line->addStretch();
   line->addWidget(mPageProperties);
+  line->addSpacing(cGap);
   auto* const second = new QHBoxLayout;
-  second->setContentsMargins(cGap, 0, cGap, cSmallGap);
+  second->addSpacing(cGap);
   second->addWidget(mOpenEditor);
   second->addStretch();
   layout.addLayout(line);

@@ -17,7 +17,8 @@ FB_Property_Row::FB_Property_Row(QWidget& editor, QWidget* parent)
     : QWidget(parent),
       mLines(new QVBoxLayout(this)),
       mFirst(new QHBoxLayout) {
-  mLines->setContentsMargins(0, cMargin, cGap, cMargin);
+  mLines->setContentsMargins(0, 0, 0, 0);
+  setContentsMargins(0, cMargin, cGap, cMargin);
   mLines->setSpacing(0);
   mFirst->setSpacing(cGap);
   mFirst->addWidget(&editor, 1);

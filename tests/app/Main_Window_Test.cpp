@@ -399,6 +399,9 @@ private slots:
     tabs->setCurrentIndex(1);
     rig.mWindow.findChild<QToolBar*>()->hide();
     const QList<int> sizes = main->sizes();
+    const QString properties = u"FB_Dev_Properties::ui->mSplitter"_s;
+    rig.mWindow.findChild<QSplitter*>(properties)->setSizes({500, 100});
+    const QByteArray state = rig.mWindow.findChild<QSplitter*>(properties)->saveState();
     QVERIFY(rig.mWindow.close());
     Main_Window_Dev again(rig.mSession, rig.mSettings, rig.mState, false);
     again.show();
@@ -406,6 +409,7 @@ private slots:
     auto* const mainAgain = again.findChild<QSplitter*>(u"ui:mSplitterMain"_s);
     auto* const tabsAgain = qobject_cast<QTabWidget*>(mainAgain->widget(1));
     QCOMPARE(mainAgain->sizes(), sizes);
+    QCOMPARE(again.findChild<QSplitter*>(properties)->saveState(), state);
     QCOMPARE(tabsAgain->tabText(0), u"Variablen"_s);
     QCOMPARE(tabsAgain->currentIndex(), 0); // always the first
     QVERIFY(!again.findChild<QToolBar*>()->isVisible());
