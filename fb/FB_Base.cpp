@@ -5,6 +5,7 @@
 #include "fb/FB_Block_Editors.h"
 #include "fb/FB_Block_Host.h"
 #include "fb/model/FB_Geometry.h"
+#include "fb/model/FB_Variable_Generation.h"
 
 #include <algorithm>
 
@@ -57,7 +58,7 @@ void FB_Base::setBinding(FB_Side side, int index, const DB_Address_Binding& bind
 }
 
 bool FB_Base::generateVariables() {
-  return false;
+  return offersVariables() && mHost.generateVariables(*this);
 }
 
 bool FB_Base::belongsToElement() const {
@@ -85,7 +86,7 @@ bool FB_Base::canBeDisabled() const {
 }
 
 bool FB_Base::offersVariables() const {
-  return true;
+  return FB_Variable_Generation::offers(mRecord.mType);
 }
 
 void FB_Base::refreshBindings() {

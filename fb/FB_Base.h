@@ -57,7 +57,8 @@ public:
   virtual void paintBlock(QPainter& painter) const;
   /// Binds a pin of the copy, or with an empty binding unbinds it. Does nothing when there is no such pin.
   virtual void setBinding(FB_Side side, int index, const DB_Address_Binding& binding);
-  /// Makes internal variables for the pins; false when none were made. Only of blocks that `offersVariables`.
+  /// Makes group addresses for the pins, asks what of those that are bound, and tells what was done; false when nothing
+  /// was. Only of blocks that `offersVariables`.
   virtual bool generateVariables();
   /// Whether it stands for an element of a visualisation page.
   [[nodiscard]] virtual bool belongsToElement() const;

@@ -50,6 +50,8 @@ public:
   virtual void addressDropped(const FB_Pin_Ref& pin, const QUuid& address) = 0;
   /// The block was selected (operation `setSelected`).
   virtual void blockSelected(FB_Base& block) = 0;
+  /// Variables shall be made for the pins of the block; false when none were. Only a page does it.
+  virtual bool generateVariables(FB_Base& /*block*/) { return false; }
   /// The window in which the block is edited shall open.
   virtual void openBlockEditor(FB_Base& block) = 0;
 

@@ -14,10 +14,6 @@ bool FB_Comment::canBeDisabled() const {
   return false;
 }
 
-bool FB_Comment::offersVariables() const {
-  return false;
-}
-
 bool FB_Comment::isStandIn() const {
   return record().mOriginalType != 0;
 }

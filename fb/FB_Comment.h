@@ -11,6 +11,5 @@ public:
 
   void paintBlock(QPainter& painter) const override;
   [[nodiscard]] bool canBeDisabled() const override;
-  [[nodiscard]] bool offersVariables() const override;
   [[nodiscard]] bool isStandIn() const override;
 };

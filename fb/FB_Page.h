@@ -103,6 +103,9 @@ public:
   bool connectPins(const FB_Pin_Ref& from, const FB_Pin_Ref& to);
   bool removeConnection(const FB_Connection& connection);
   bool moveConnection(const FB_Connection& connection, FB_Side end, const FB_Pin_Ref& to);
+  /// Makes group addresses for the pins of these blocks; asks block by block what of those that are bound, and tells
+  /// what was done. False when nothing was.
+  bool generateVariables(const QList<QUuid>& blocks);
   bool removeSelected();
   bool duplicate(const QList<QUuid>& blocks, const QPointF& offset);
   bool paste(const QByteArray& packed, const QPointF& position);
@@ -150,6 +153,7 @@ public:
   void pinHovered(FB_Base& block, const FB_Pin_Ref* pin) override;
   void addressDropped(const FB_Pin_Ref& pin, const QUuid& address) override;
   void blockSelected(FB_Base& block) override;
+  bool generateVariables(FB_Base& block) override;
   void openBlockEditor(FB_Base& block) override;
 
 signals:

@@ -80,6 +80,9 @@ void FB_Page::openBlockMenu(FB_Base& block, const FB_Pin_Ref* pin, const QPoint&
     addAlignment(*menu);
   }
   block.fillContextMenu(*menu);
+  QAction* const generate = menu->addAction(Theme::icon(QStringLiteral("main_group")), tr("Variablen erzeugen\tStrg+G"),
+                                            this, [this] { generateVariables(selectedBlocks()); });
+  generate->setEnabled(mayEdit() && block.offersVariables());
   addUses(*menu, block, pin);
   menu->popup(screen);
 }

@@ -282,6 +282,8 @@ void FB_Page::keyPressEvent(QKeyEvent* event) {
     setCursor(Qt::OpenHandCursor);
   } else if (event->key() == Qt::Key_F2 && selectedBlocks().size() == 1) {
     editText(selectedBlocks().constFirst());
+  } else if (event->key() == Qt::Key_G && event->modifiers() == Qt::ControlModifier && !selectedBlocks().isEmpty()) {
+    generateVariables(selectedBlocks()); // while the property panel, whose button has the key, is not seen
   } else if (!direction.isNull() && !mGesture && !selectedBlocks().isEmpty()) {
     const bool isFine = event->modifiers().testFlag(Qt::ShiftModifier);
     nudge(direction * (isFine ? 1 : mSettings.value(Setting::GridSize)));

@@ -66,6 +66,10 @@ Edit_Result moveConnection(Project_Session& session, const FB_Connection& connec
 
 /// To the group address of that key.
 Edit_Result bind(Project_Session& session, const FB_Pin_Ref& pin, const QUuid& address);
+/// To the internal variable of that key, which is used somewhere in the project.
+Edit_Result bindVariable(Project_Session& session, const FB_Pin_Ref& pin, const QUuid& variable);
+/// To a new internal variable. Refuses a name that one has already.
+Edit_Result bindNewVariable(Project_Session& session, const FB_Pin_Ref& pin, const QString& name);
 Edit_Result unbind(Project_Session& session, const FB_Pin_Ref& pin);
 
 /// The block's own title; of a comment block its text, of several lines.

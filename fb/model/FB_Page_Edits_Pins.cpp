@@ -1,11 +1,15 @@
 #include "base/Group_Address.h"
 #include "db/DB_Address_Groups.h"
+#include "db/DB_Text.h"
+#include "db/Variable_Edits.h"
 #include "fb/model/FB_Connections.h"
 #include "fb/model/FB_Edit.h"
 #include "fb/model/FB_Page_Edits.h"
 #include "fb/model/FB_Variables.h"
 
 #include <QCoreApplication>
+
+#include <optional>
 
 namespace {
 
@@ -146,6 +150,44 @@ Edit_Result FB_Page_Edits::bind(Project_Session& session, const FB_Pin_Ref& pin,
   DB_Address_Binding binding;
   binding.bindTo(*group, tree.addressOf(*group));
   rebind(edit, {pin}, binding);
+  return result;
+}
+
+Edit_Result FB_Page_Edits::bindVariable(Project_Session& session, const FB_Pin_Ref& pin, const QUuid& variable) {
+  FB_Edit edit(session, tr("Variable verknüpfen"));
+  if (!edit) {
+    return edit.refusal();
+  }
+  Edit_Result result = edit.check(pin);
+  if (!result) {
+    return result;
+  }
+  const std::optional<DB_Address_Binding> binding = FB_Variables::find(
+      edit.database(), [&variable](const DB_Address_Binding& known) { return known.mKey == variable; });
+  if (!binding) {
+    return Edit_Result::refused(tr("Die Variable gibt es nicht mehr."));
+  }
+  rebind(edit, {pin}, *binding);
+  return result;
+}
+
+Edit_Result FB_Page_Edits::bindNewVariable(Project_Session& session, const FB_Pin_Ref& pin, const QString& name) {
+  FB_Edit edit(session, tr("Variable verknüpfen"));
+  if (!edit) {
+    return edit.refusal();
+  }
+  Edit_Result result = edit.check(pin);
+  if (result) {
+    result = Variable_Edits::checkName(name);
+  }
+  if (!result) {
+    return result;
+  }
+  const QString clean = DB_Text::singleLine(name);
+  if (FB_Variables::find(edit.database(), [&clean](const DB_Address_Binding& known) { return known.mName == clean; })) {
+    return Edit_Result::refused(tr("Variable bereits vorhanden: \"%1\".").arg(clean));
+  }
+  rebind(edit, {pin}, FB_Variables::make(clean));
   return result;
 }
 

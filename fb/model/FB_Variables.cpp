@@ -78,12 +78,29 @@ QString FB_Variables::Names::take(const QString& wish) {
   return name;
 }
 
-QString FB_Variables::nameFor(const DB_FB_Control& block, const DB_FB_Pin& pin) {
-  QString owner = block.mTitle.simplified();
-  if (owner.isEmpty()) {
-    owner = FB_Types::name(block.mType).remove(u'*').simplified();
+std::optional<DB_Address_Binding>
+FB_Variables::find(const ProjectDatabase& database,
+                   const std::function<bool(const DB_Address_Binding& variable)>& isMeant) {
+  std::optional<DB_Address_Binding> found;
+  DB_Bindings::visit(database, [&](const DB_Address_Binding& binding, const Address_Use&) {
+    if (!found && binding.mKind == Kind::Internal && isMeant(binding)) {
+      found = binding;
+    }
+  });
+  return found;
+}
+
+QString FB_Variables::ownerName(const DB_FB_Control& block) {
+  for (const QString& name : {block.mTitle.simplified(), block.mName.simplified()}) {
+    if (!name.isEmpty()) {
+      return name;
+    }
   }
-  return (owner + u' ' + pin.mLongName).simplified();
+  return FB_Types::name(block.mType).remove(u'*').simplified();
+}
+
+QString FB_Variables::nameFor(const DB_FB_Control& block, const DB_FB_Pin& pin) {
+  return (ownerName(block) + u' ' + pin.mLongName).simplified();
 }
 
 DB_Address_Binding FB_Variables::make(const QString& name) {

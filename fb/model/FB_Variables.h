@@ -6,6 +6,9 @@
 #include <QSet>
 #include <QString>
 
+#include <functional>
+#include <optional>
+
 class FB_Edit;
 class ProjectDatabase;
 struct DB_FB_Pin;
@@ -26,6 +29,12 @@ private:
   QHash<QString, int> mLast; ///< number by name without one
 };
 
+/// A binding to the first internal variable of which that is true.
+[[nodiscard]] std::optional<DB_Address_Binding>
+find(const ProjectDatabase& database, const std::function<bool(const DB_Address_Binding& variable)>& isMeant);
+
+/// "Und": the block's own title, else its name, else that of its type.
+[[nodiscard]] QString ownerName(const DB_FB_Control& block);
 /// "Und Ausgang": what a variable made for that pin of the block would be called.
 [[nodiscard]] QString nameFor(const DB_FB_Control& block, const DB_FB_Pin& pin);
 /// A variable of its own; what type of data it takes is not known yet.

@@ -1,6 +1,7 @@
 #include "fb/model/FB_Block_Edits.h"
 #include "fb/model/FB_Clipboard.h"
 #include "fb/model/FB_Page_List_Edits.h"
+#include "fb/model/FB_Variable_Generation.h"
 #include "tests/fb/Logic_Rig.h"
 
 #include <QCryptographicHash>
@@ -49,6 +50,7 @@ private slots:
   }
 
 private:
+  using Conflict = FB_Variable_Generation::Conflict;
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
   static constexpr quint32 cDefaultCount = 1500;
 #else
@@ -56,6 +58,7 @@ private:
 #endif
   static constexpr qsizetype cMostBlocks = 200;
   static constexpr qsizetype cMostPages = 6;
+  static constexpr qsizetype cMostAddresses = 40;
 
   const char* where(quint32 edit, quint32 seed) {
     mWhere = QStringLiteral("edit %1, seed %2").arg(edit).arg(seed).toUtf8();
@@ -121,6 +124,27 @@ private:
     return FB_Page_Edits::move(mRig.mSession, positions);
   }
 
+  Edit_Result bindSome() {
+    Project_Session& session = mRig.mSession;
+    switch (bounded(4)) {
+    case 0:
+      return FB_Page_Edits::bindNewVariable(session, pin(), QStringLiteral("Variable %1").arg(bounded(20)));
+    case 1: {
+      const QUuid owner = one();
+      const DB_FB_Control* const block = pages().child(owner);
+      const bool isThere = block && !block->mInputs.empty();
+      return FB_Page_Edits::bindVariable(session, pin(), isThere ? block->mInputs.front().mBinding.mKey : owner);
+    }
+    case 2:
+      if (session.database().mAddresses.subGroupCount() < cMostAddresses) {
+        return Edit_Result{FB_Variable_Generation::generate(session, {{one(), Conflict(bounded(3))}}).mError};
+      }
+      [[fallthrough]];
+    default:
+      return FB_Page_Edits::bind(session, pin(), address());
+    }
+  }
+
   Edit_Result editPages() {
     namespace Edits = FB_Page_List_Edits;
     Project_Session& session = mRig.mSession;
@@ -166,7 +190,7 @@ private:
     case 9:
       return setParameter(session, one(), 0, QString::number(bounded(9)));
     case 10:
-      return bind(session, pin(), address());
+      return bindSome();
     case 11:
     case 12:
       return moveConnection(session, wire(), bounded(2) ? FB_Side::Input : FB_Side::Output, pin());
