@@ -40,8 +40,6 @@ FB_Dev_Properties::FB_Dev_Properties(Project_Session& session, App_Settings& set
   connect(hint, &Empty_Hint::stepRequested, this, &FB_Dev_Properties::catalogueRequested);
   connect(mPage, &FB_Dev_Properties_Page::pagePropertiesRequested, this, &FB_Dev_Properties::pagePropertiesRequested);
   connect(mPage, &FB_Dev_Properties_Page::editorRequested, this, &FB_Dev_Properties::editorRequested);
-  connect(mPage, &FB_Dev_Properties_Page::generateVariablesRequested, this,
-          &FB_Dev_Properties::generateVariablesRequested);
   connect(mPage, &FB_Dev_Properties_Page::emptyChanged, this,
           [this] { mStack->setCurrentIndex(mPage->isEmpty() ? 0 : 1); });
   connect(mPage, &FB_Dev_Properties_Page::statusText, this, &FB_Dev_Properties::statusText);

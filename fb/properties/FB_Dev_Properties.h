@@ -33,8 +33,6 @@ signals:
   void pagePropertiesRequested(const QUuid& page);
   /// The window in which the block is edited.
   void editorRequested(const QUuid& block);
-  /// Variables shall be made for the pins of the selected blocks.
-  void generateVariablesRequested();
   /// Nothing is selected, and the user wants to insert a block.
   void catalogueRequested();
   /// The block at the other end of a binding shall be shown.

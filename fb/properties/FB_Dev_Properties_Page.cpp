@@ -318,7 +318,9 @@ void FB_Dev_Properties_Page::resizeEvent(QResizeEvent* event) {
 }
 
 void FB_Dev_Properties_Page::onGenerateVariable_clicked() {
-  emit generateVariablesRequested();
+  if (mCanvas) {
+    mCanvas->generateVariables(mBlocks);
+  }
 }
 
 void FB_Dev_Properties_Page::onPageProperties_clicked() {

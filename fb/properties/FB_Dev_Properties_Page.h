@@ -55,8 +55,6 @@ public:
 signals:
   void pagePropertiesRequested(const QUuid& page);
   void editorRequested(const QUuid& block);
-  /// Variables shall be made for the pins of the selected blocks.
-  void generateVariablesRequested();
   /// Nothing is selected any more, or something is.
   void emptyChanged();
   void statusText(const QString& text);
