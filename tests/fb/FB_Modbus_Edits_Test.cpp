@@ -183,11 +183,14 @@ private slots:
   }
 
   void aFilesCountMakesNoMorePinsThanThereCanBe() {
-    DB_FB_Control block = mRig->block(mBlock);
-    block.mModbusRegisters[0].mCount = 2'000'000'000;
+    DB_FB_Control& block = *mRig->mSession.database().mFbPages.child(mBlock);
+    block.mModbusRegisters[2].mCount = 2'000'000'000;
     FB_Pins::rebuild(block);
     QCOMPARE(block.mOutputs.size(), size_t(FB_Pins::cMostPins));
-    QVERIFY(FB_Pins::isBuilt(block));
+    QVERIFY(FB_Pins::isBuilt(block) && FB_Pins::missingPins(block).contains(u"2"));
+    QVERIFY(!setField(mRig->mSession, mBlock, {0}, Field::Count, QStringLiteral("2")));
+    QVERIFY(removeRegisters(mRig->mSession, mBlock, {1}));
+    QVERIFY(pins(FB_Side::Output, 0).startsWith(u"Verbindung OK, Fehlercode, A=Licht, C [1]"));
   }
 
 private:
