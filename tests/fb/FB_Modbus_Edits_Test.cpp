@@ -170,6 +170,7 @@ private slots:
     row("no address", "Name;Funktion;Adresse\nA;3;\n", "", 1);
     row("bits", "Adresse\tFunktion\n3\t1\n", " 1 3 bool ABCD 1 1 0 1000", 0);
     row("a title twice", "Adresse;Name;Name\n3;A;B\n", "A 3 3 uint16 ABCD 1 1 0 1000", 1);
+    row("quotes in names", "\"\"\"A\"\t3\t7\nB\"\t3\t8\n", "\"\"\"A\" 3 7 uint16 ABCD 1 1 0 1000", 0);
     row("prose", "Nichts davon ist eine Tabelle.", "", 1);
   }
   void tables() {
