@@ -160,6 +160,8 @@ private slots:
     QTest::newRow("pin") << count << FB_Pin_Group{FB_Side::Output, "Ausgang", ""} << "pin without";
     QTest::newRow("nothing counts") << count << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 2, 1} << "not there";
     QTest::newRow("other minimum") << count << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 1, 0} << "no count";
+    QTest::newRow("too many") << FB_Parameter{"Anzahl", "D", FB_Editor::Number, "2", 2, 1025}
+                              << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 2, 0} << "more pins";
     QTest::newRow("numberless") << count << FB_Pin_Group{FB_Side::Output, "A", "A%1", 2, 0} << "without a number";
     QTest::newRow("type of a pin") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1-1"} << "no datapoint";
     QTest::newRow("unknown type") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1.999"} << "no datapoint";
