@@ -28,5 +28,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const QString written = FB_Modbus_Table::write(result.mRegisters);
   const FB_Modbus_Table::Result again = FB_Modbus_Table::read(written);
   require(again.mRegisters.size() == result.mRegisters.size(), "as many are read again");
+  require(FB_Modbus_Table::write(again.mRegisters) == written, "they are read alike");
   return 0;
 }

@@ -47,8 +47,8 @@ size_t valuesOf(const DB_Modbus_Register& item) {
 }
 
 /// The pins of a side that the registers do not make.
-size_t declaredPins(const DB_FB_Control& block, FB_Side side) {
-  return FB_Pins::pins(block, side).size() - FB_Register_Pins::count(block, side, FB_Pins::cMostPins);
+size_t fixedPins(FB_Side side) {
+  return FB_Pins::fixedPins(*FB_Types::find(FB_Modbus_Words::cMaster), side);
 }
 
 /// Bindings of the values of each register of the block.
@@ -56,7 +56,7 @@ std::vector<std::vector<DB_Address_Binding>> bindingsOf(const DB_FB_Control& blo
   std::vector<std::vector<DB_Address_Binding>> bindings(block.mModbusRegisters.size());
   for (const FB_Side side : cSides) {
     const auto& pins = FB_Pins::pins(block, side);
-    size_t at = declaredPins(block, side);
+    size_t at = fixedPins(side);
     for (size_t i = 0; i < bindings.size(); ++i) {
       const DB_Modbus_Register& item = block.mModbusRegisters[i];
       const size_t values = FB_Register_Pins::sideOf(item) == side ? valuesOf(item) : 0;
@@ -86,7 +86,7 @@ void rebuild(DB_FB_Control& block, Rows&& rows) {
   for (const DB_Modbus_Register& item : block.mModbusRegisters) {
     sides.push_back(FB_Register_Pins::sideOf(item));
   }
-  size_t declared[] = {declaredPins(block, FB_Side::Input), declaredPins(block, FB_Side::Output)};
+  size_t next[] = {fixedPins(FB_Side::Input), fixedPins(FB_Side::Output)};
   block.mModbusRegisters.clear();
   FB_Pins::rebuild(block); // leaves the declared pins
   for (Row& row : rows) {
@@ -98,7 +98,7 @@ void rebuild(DB_FB_Control& block, Rows&& rows) {
     const FB_Side side = FB_Register_Pins::sideOf(item);
     const auto origin = static_cast<size_t>(rows[i].mOrigin);
     const bool isKept = rows[i].mOrigin >= 0 && sides[origin] == side;
-    size_t& at = declared[side == FB_Side::Input ? 0 : 1];
+    size_t& at = next[side == FB_Side::Input ? 0 : 1];
     auto& pins = FB_Pins::pins(block, side);
     for (size_t value = 0; value < valuesOf(item) && at < pins.size(); ++value, ++at) {
       if (isKept && value < bindings[origin].size()) {
@@ -108,15 +108,16 @@ void rebuild(DB_FB_Control& block, Rows&& rows) {
   }
 }
 
-/// Refuses more pins than a block can have.
+/// Refuses more pins than a block can have, but for fewer than too many.
 Edit_Result checkPins(const DB_FB_Control& block, const Rows& rows) {
   const QLocale locale;
   for (const FB_Side side : cSides) {
-    size_t pins = declaredPins(block, side);
+    size_t pins = fixedPins(side);
     for (const Row& row : rows) {
       pins += FB_Register_Pins::sideOf(row.mItem) == side ? valuesOf(row.mItem) : 0;
     }
-    if (pins > static_cast<size_t>(FB_Pins::cMostPins)) {
+    const size_t before = fixedPins(side) + FB_Register_Pins::count(block, side, std::numeric_limits<size_t>::max());
+    if (pins > std::max(before, static_cast<size_t>(FB_Pins::cMostPins))) {
       const QString text = side == FB_Side::Input ? tr("Der Baustein hätte %1 Eingänge, erlaubt sind höchstens %2.")
                                                   : tr("Der Baustein hätte %1 Ausgänge, erlaubt sind höchstens %2.");
       return Edit_Result::refused(

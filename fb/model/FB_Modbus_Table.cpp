@@ -109,7 +109,11 @@ QString FB_Modbus_Table::write(const std::vector<DB_Modbus_Register>& registers)
   for (const DB_Modbus_Register& item : registers) {
     QStringList cells;
     for (const Field field : cUsual) {
-      cells.append(DB_Text::singleLine(plain(item, field)));
+      QString cell = DB_Text::singleLine(plain(item, field));
+      if (cell.startsWith(u'"')) {
+        cell = u'"' + cell.replace(u'"', QStringLiteral("\"\"")) + u'"';
+      }
+      cells.append(cell);
     }
     text += cells.join(u'\t') + u'\n';
   }

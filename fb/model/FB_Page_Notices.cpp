@@ -56,11 +56,10 @@ QStringList FB_Page_Notices::of(const DB_FB_Page& page, const DB_Project& projec
       std::ranges::count_if(page.mChildren, [](const auto& block) { return !FB_Pins::missingPins(*block).isEmpty(); });
   if (few > 0) {
     const QLocale locale;
-    notices.append(
-        text(QT_TRANSLATE_NOOP("FB_Page_Notices",
-                               "Bausteine dieser Seite mit einer zu großen Anzahl: %1. Angelegt sind jeweils "
-                               "die ersten %2 Ein- oder Ausgänge."))
-            .arg(locale.toString(qlonglong(few)), locale.toString(FB_Pins::cMostPins)));
+    notices.append(text(QT_TRANSLATE_NOOP("FB_Page_Notices",
+                                          "Bausteine dieser Seite mit einer zu großen Anzahl: %1. Mehr als %2 Ein- und "
+                                          "Ausgänge sind nicht möglich."))
+                       .arg(locale.toString(qlonglong(few)), locale.toString(FB_Pins::cMostPins)));
   }
   return notices;
 }

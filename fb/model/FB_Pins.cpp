@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <optional>
 #include <span>
 #include <utility>
@@ -31,25 +32,21 @@ std::optional<int> countIn(const QString& text, const FB_Pin_Group& group) {
 }
 
 /// Empty as long as the parameters do not say it.
-std::optional<int> sizeOf(const FB_Pin_Group& group, const QStringList& parameters) {
+std::optional<int> sizeOf(const FB_Type& type, const FB_Pin_Group& group, const QStringList& parameters) {
   if (group.mParameter < 0) {
     return group.mCount;
   }
   const auto count = countIn(parameters.at(group.mParameter), group);
-  return count ? std::optional(std::min(*count, FB_Pins::cMostPins)) : std::nullopt;
+  return count ? std::optional(std::min(*count, FB_Pins::mostPins(type, group.mParameter))) : std::nullopt;
 }
 
 /// How many pins each counted group of a side has in a list that was made with another count. One parameter counts all
 /// groups of a side.
 int countBehind(size_t pins, const FB_Type& type, FB_Side side) {
-  int fixed = 0;
-  int counted = 0;
-  for (const FB_Pin_Group& group : type.mPins) {
-    if (group.mSide == side) {
-      (group.mParameter < 0 ? fixed : counted) += group.mParameter < 0 ? group.mCount : 1;
-    }
-  }
-  return counted == 0 ? 0 : std::max(0, (static_cast<int>(pins) - fixed) / counted);
+  const auto counted = static_cast<int>(std::ranges::count_if(
+      type.mPins, [side](const FB_Pin_Group& group) { return group.mSide == side && group.mParameter >= 0; }));
+  const int behind = static_cast<int>(pins) - static_cast<int>(FB_Pins::fixedPins(type, side));
+  return counted == 0 ? 0 : std::max(0, behind / counted);
 }
 
 std::vector<DB_FB_Pin> build(std::vector<DB_FB_Pin> old, const FB_Type& type, FB_Side side,
@@ -67,7 +64,7 @@ std::vector<DB_FB_Pin> build(std::vector<DB_FB_Pin> old, const FB_Type& type, FB
       return word.contains(u"%1") ? word.arg(number) : word;
     };
     const int oldCount = group.mParameter < 0 ? group.mCount : countBefore;
-    const int count = sizeOf(group, parameters).value_or(group.mCount);
+    const int count = sizeOf(type, group, parameters).value_or(group.mCount);
     for (int i = 0; i < count; ++i) {
       DB_FB_Pin pin{numbered(longName, i + 1), numbered(shortName, i + 1), {}};
       const auto before = static_cast<size_t>(oldStart) + static_cast<size_t>(i);
@@ -81,27 +78,40 @@ std::vector<DB_FB_Pin> build(std::vector<DB_FB_Pin> old, const FB_Type& type, FB
   return pins;
 }
 
-/// Pins of a side that the type itself declares, of a type whose registers make the others.
-size_t declaredCount(const FB_Type& type, FB_Side side) {
-  size_t count = 0;
-  for (const FB_Pin_Group& group : type.mPins) {
-    count += group.mSide == side ? static_cast<size_t>(group.mCount) : 0;
-  }
-  return count;
-}
-
 /// The pins of the registers, bound as those behind the declared ones are in `old`.
 std::vector<DB_FB_Pin> registerPins(const DB_FB_Control& block, const FB_Type& type, FB_Side side) {
   if (!type.mHasRegisterPins) {
     return {};
   }
   const std::span<const DB_FB_Pin> old = FB_Pins::pins(block, side);
-  const size_t declared = declaredCount(type, side);
+  const size_t declared = FB_Pins::fixedPins(type, side);
   return FB_Register_Pins::build(block, side, old.subspan(std::min(declared, old.size())),
                                  FB_Pins::cMostPins - declared);
 }
 
 } // namespace
+
+int FB_Pins::mostPins(const FB_Type& type, int parameter) {
+  int most = cMostPins;
+  int groups = 0;
+  for (const FB_Side side : cSides) {
+    const auto isCounted = [=](const FB_Pin_Group& group) {
+      return group.mSide == side && group.mParameter == parameter;
+    };
+    const auto ofSide = static_cast<int>(std::ranges::count_if(type.mPins, isCounted));
+    groups += ofSide;
+    most = ofSide > 0 ? std::min(most, (cMostPins - static_cast<int>(fixedPins(type, side))) / ofSide) : most;
+  }
+  return std::min(most, cMostPins / std::max(1, groups));
+}
+
+size_t FB_Pins::fixedPins(const FB_Type& type, FB_Side side) {
+  size_t count = 0;
+  for (const FB_Pin_Group& group : type.mPins) {
+    count += group.mSide == side && group.mParameter < 0 ? static_cast<size_t>(group.mCount) : 0;
+  }
+  return count;
+}
 
 std::unique_ptr<DB_FB_Control> FB_Pins::makeBlock(int type, const QPointF& position) {
   if (!FB_Types::find(type)) {
@@ -149,7 +159,7 @@ bool FB_Pins::isBuilt(const DB_FB_Control& block) {
   size_t inputs = 0;
   size_t outputs = 0;
   for (const FB_Pin_Group& group : type->mPins) {
-    const auto count = sizeOf(group, block.mParams);
+    const auto count = sizeOf(*type, group, block.mParams);
     if (!count) {
       return false;
     }
@@ -165,17 +175,27 @@ bool FB_Pins::isBuilt(const DB_FB_Control& block) {
 }
 
 QString FB_Pins::missingPins(const DB_FB_Control& block) {
-  constexpr auto cMost = static_cast<size_t>(cMostPins);
   // Nearly every block is done with here, which keeps a walk over thousands of them short.
-  const FB_Type* const type =
-      std::max(block.mInputs.size(), block.mOutputs.size()) < cMost ? nullptr : declarationOf(block);
-  for (const FB_Pin_Group& group : type ? type->mPins : std::span<const FB_Pin_Group>()) {
+  const bool isSmall = block.mInputs.size() + block.mOutputs.size() < static_cast<size_t>(cMostPins) / 2;
+  const FB_Type* const type = isSmall ? nullptr : declarationOf(block);
+  if (!type) {
+    return {};
+  }
+  const QLocale locale;
+  for (const FB_Pin_Group& group : type->mPins) {
     const auto count = group.mParameter < 0 ? std::nullopt : countIn(block.mParams.value(group.mParameter), group);
-    if (count && *count > cMostPins) {
-      const QLocale locale;
+    if (const int most = mostPins(*type, group.mParameter); count && *count > most) {
       const QString name = FB_Types::text(type->mParameters[static_cast<size_t>(group.mParameter)].mName);
       return QCoreApplication::translate("FB_Pins", "\"%1\" ist %2. Angelegt sind die ersten %3.")
-          .arg(name, locale.toString(*count), locale.toString(cMostPins));
+          .arg(name, locale.toString(*count), locale.toString(most));
+    }
+  }
+  for (const FB_Side side : type->mHasRegisterPins ? std::span(cSides) : std::span<const FB_Side>()) {
+    const size_t most = static_cast<size_t>(cMostPins) - fixedPins(*type, side);
+    const size_t values = FB_Register_Pins::count(block, side, std::numeric_limits<size_t>::max());
+    if (values > most) {
+      return QCoreApplication::translate("FB_Pins", "Die Register haben %1 Werte. Angelegt sind die ersten %2.")
+          .arg(locale.toString(qulonglong(values)), locale.toString(qulonglong(most)));
     }
   }
   return {};

@@ -1,6 +1,7 @@
 #include "fb/model/FB_Type_Check.h"
 
 #include "base/Datapoint_Types.h"
+#include "fb/model/FB_Pins.h"
 
 #include <QSet>
 
@@ -131,6 +132,9 @@ QString wrongPins(const FB_Type& type, const FB_Pin_Group& group) {
   }
   const FB_Parameter& counter = type.mParameters[static_cast<size_t>(group.mParameter)];
   const bool isCount = counter.mEditor == FB_Editor::Number && counter.mDecimals == 0;
+  if (isCount && counter.mMaximum > FB_Pins::mostPins(type, group.mParameter)) {
+    return QStringLiteral("counts more pins than there can be");
+  }
   return isCount && counter.mMinimum == group.mCount ? QString() : QStringLiteral("pins counted by no count");
 }
 

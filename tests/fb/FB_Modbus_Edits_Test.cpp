@@ -170,6 +170,7 @@ private slots:
     row("no address", "Name;Funktion;Adresse\nA;3;\n", "", 1);
     row("bits", "Adresse\tFunktion\n3\t1\n", " 1 3 bool ABCD 1 1 0 1000", 0);
     row("a title twice", "Adresse;Name;Name\n3;A;B\n", "A 3 3 uint16 ABCD 1 1 0 1000", 1);
+    row("quotes in names", "\"\"\"A\"\t3\t7\nB\"\t3\t8\n", "\"\"\"A\" 3 7 uint16 ABCD 1 1 0 1000", 0);
     row("prose", "Nichts davon ist eine Tabelle.", "", 1);
   }
   void tables() {
@@ -183,11 +184,14 @@ private slots:
   }
 
   void aFilesCountMakesNoMorePinsThanThereCanBe() {
-    DB_FB_Control block = mRig->block(mBlock);
-    block.mModbusRegisters[0].mCount = 2'000'000'000;
+    DB_FB_Control& block = *mRig->mSession.database().mFbPages.child(mBlock);
+    block.mModbusRegisters[2].mCount = 2'000'000'000;
     FB_Pins::rebuild(block);
     QCOMPARE(block.mOutputs.size(), size_t(FB_Pins::cMostPins));
-    QVERIFY(FB_Pins::isBuilt(block));
+    QVERIFY(FB_Pins::isBuilt(block) && FB_Pins::missingPins(block).contains(u"2"));
+    QVERIFY(!setField(mRig->mSession, mBlock, {0}, Field::Count, QStringLiteral("2")));
+    QVERIFY(removeRegisters(mRig->mSession, mBlock, {1}));
+    QVERIFY(pins(FB_Side::Output, 0).startsWith(u"Verbindung OK, Fehlercode, A=Licht, C [1]"));
   }
 
 private:

@@ -307,6 +307,27 @@ private slots:
     QVERIFY2(other.input(made.mBlocks.at(1)).mKind == Kind::None, "the variable is of the other project");
   }
 
+  void aCountIsLimitedWhereItIsEdited_data() {
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("kept");
+    QTest::newRow("above the range") << 52 << "40"
+                                     << "2";
+    QTest::newRow("in the range") << 50 << "40"
+                                  << "40";
+    QTest::newRow("too few") << 50 << "1"
+                             << "2";
+  }
+  void aCountIsLimitedWhereItIsEdited() {
+    QFETCH(int, type);
+    QFETCH(QString, typed);
+    QFETCH(QString, kept);
+    const QUuid block = mRig->add(type);
+    QCOMPARE(bool(setParameter(session(), block, 0, typed)), typed == kept || type == 50);
+    QCOMPARE(mRig->block(block).mParams.at(0), kept);
+    QCOMPARE(int(mRig->block(block).mInputs.size()), kept.toInt());
+  }
+
   void aSmallerCountTellsWhatItTakesAndGivesItBack() {
     QVERIFY(setParameter(session(), mA, 0, QStringLiteral("4")));
     QVERIFY(bind(session(), in(mA), mRig->mLight) && bind(session(), in(mA, 3), mRig->mBlind));

@@ -25,6 +25,10 @@ private slots:
                          << "1024" << 1024;
     QTest::newRow("above all") << 50 << "1000000"
                                << "1000000" << 1024;
+    QTest::newRow("above all, four pins each") << 1937 << "1000000"
+                                               << "1000000" << 3 * 256;
+    QTest::newRow("above all, behind a fixed pin") << 60 << "1000000"
+                                                   << "1000000" << 1024;
     QTest::newRow("largest") << 50 << "2147483647"
                              << "2147483647" << 1024;
     QTest::newRow("no 32 bits") << 50 << "2147483648"

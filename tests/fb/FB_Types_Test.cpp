@@ -43,18 +43,89 @@ private slots:
     QCOMPARE(FB_Types::helpFileName(49), QString());
   }
 
-  void helpPages_data() {
+  void families_data() {
     QTest::addColumn<int>("id");
-    QTest::addColumn<QString>("page");
-    QTest::newRow("of the class") << 50 << "fb_and.html";
-    QTest::newRow("of a long class") << 1373 << "fb_inv_1n.html";
-    QTest::newRow("change per time") << 1937 << "fb_compare_change_per_time.html";
-    QTest::newRow("week") << 1331 << "fb_time_clock_week.html";
-    QTest::newRow("holidays") << 1940 << "fb_time_clock_holiday.html";
+    QTest::addColumn<QString>("count");
+    QTest::addColumn<QString>("further");
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("help");
+    const auto row = [](int id, const char* type, const char* count, const char* further, const char* words,
+                        const char* help = "") {
+      const QString page =
+          *help ? QString::fromLatin1(help) : QString::fromLatin1(type).toLower() + QStringLiteral(".html");
+      QTest::newRow(type) << id << count << further << QString::fromUtf8(words) << page;
+    };
+    row(50, "FB_AND", "2..64", "", "Eingang");
+    row(51, "FB_OR", "2..64", "", "Eingang");
+    row(52, "FB_XOR", "2..32", "", "Eingang");
+    row(53, "FB_INV", "1..64", "", "Eingang, Ausgang");
+    row(1373, "FB_INV_1N", "1..32", "", "A %1");
+    row(60, "FB_Input_Switch", "2..32", "", "Eingang %1");
+    row(63, "FB_Output_Switch", "2..64", "1d", "Ausgang");
+    row(61, "FB_Manual_Automatic", "1..128", "", "Ausgang");
+    row(71, "FB_Step", "2..64", "1d", "Stufe %1");
+    row(1397, "FB_Shift_Register", "2..16", "1d", "Wert");
+    row(1395, "FB_Binary_Encoder", "1..16", "", "");
+    row(1396, "FB_Binary_Decoder", "1..16", "", "");
+    row(1352, "FB_Mathematics_Addition_1", "1..128", "", "Eingang, Ergebnis");
+    row(300, "FB_Mathematics_Addition_2", "2..32", "", "Eingang");
+    row(1353, "FB_Mathematics_Subtraction_1", "1..128", "", "Wert, Ergebnis");
+    row(1348, "FB_Mathematics_Multiplication_1", "1..128", "", "Multiplikator %1, Ergebnis %1");
+    row(1347, "FB_Mathematics_Division_1", "1..128", "", "Dividend %1, Ergebnis %1");
+    row(306, "FB_Mathematics_Minimum", "2..32", "", "Eingang");
+    row(307, "FB_Mathematics_Maximum", "2..32", "", "Eingang");
+    row(312, "FB_Mathematics_Interpolate", "1..128", "", "X-Achse, Y-Achse");
+    row(1338, "FB_Random", "1..128", "0..4294967295", "Zufallszahl %1");
+    row(1375, "FB_Trend", "1..64", "2d 4d 9d", "E %1, T %1");
+    row(1349, "FB_ConvertTemperature", "1..128", "", "Wert %1");
+    row(64, "FB_Multiplex", "", "", "Wert %1");
+    row(65, "FB_Demultiplex", "", "", "Wert %1");
+    row(54, "FB_Assign_To_1_1_Digital", "1..64", "6d", "E %1, A %1");
+    row(74, "FB_Assign_To_1_1_KNX", "1..64", "6d", "E %1, A %1");
+    row(55, "FB_Assign_To_1_N_Digital", "1..32", "", "A %1");
+    row(75, "FB_Assign_To_1_N_KNX", "1..32", "", "A %1");
+    row(76, "FB_Assign_To_1_N_KNX_Value", "1..32", "", "A %1");
+    row(1393, "FB_Formula", "1..8", "1..86400 -1..6", "Trigger, Eingang %1, Ergebnis, Ergebnis als Bit, Fehler");
+    row(1407, "FB_Step_Chain", "0..8", "1..32",
+        "Start, Stopp, Pause, Weiterschalten, Zu Schritt springen, Freigabe, Bedingung %1, Aktuelle Schrittnummer");
+    row(1402, "FB_State_Evaluation", "1..8", "",
+        "Eingang %1, Statustext, Nummer der Zeile, Statuswert, Symbolnummer, Farbe, Aktiv");
+    row(1937, "FB_Compare_Limit_Time", "1..64", "", "Istwert %1, Grenzwert %1, Zeit %1",
+        "fb_compare_change_per_time.html");
+    row(1331, "FB_Clock_Week", "1..128", "1..32640 0..23 0..59 0..23 0..59", "Ausgang", "fb_time_clock_week.html");
+    row(1940, "FB_Clock_Holiday", "1..126", "", "Ausgang, Feiertag morgen", "fb_time_clock_holiday.html");
+    row(1330, "FB_Debug_SetValue", "1..32", "1d", "Ausgang");
+    row(900, "FB_Lua_Script", "1..64", "1..64", "Eingang, Ausgang");
   }
-  void helpPages() {
+  /// What counts a member's pins, then its further numbers by range or decimals, the words of its pins, its help page.
+  void families() {
     QFETCH(int, id);
-    QTEST(FB_Types::helpFileName(id), "page");
+    QFETCH(QString, further);
+    QFETCH(QString, words);
+    const FB_Type& type = *FB_Types::find(id);
+    QCOMPARE(type.mClass, QTest::currentDataTag());
+    QTEST(FB_Types::helpFileName(id), "help");
+    const auto rangeOf = [](const FB_Parameter& parameter) {
+      return QStringLiteral("%1..%2").arg(parameter.mMinimum, 0, 'f', 0).arg(parameter.mMaximum, 0, 'f', 0);
+    };
+    const auto counter = std::ranges::max_element(type.mPins, {}, &FB_Pin_Group::mParameter)->mParameter;
+    std::vector<FB_Parameter> numbers;
+    std::ranges::copy_if(type.mParameters, std::back_inserter(numbers),
+                         [](const FB_Parameter& parameter) { return parameter.mEditor == FB_Editor::Number; });
+    QTEST(counter < 0 ? QString() : rangeOf(numbers.at(0)), "count");
+    QVERIFY(counter < 0 || numbers.at(0).mDecimals == 0);
+    size_t next = 1;
+    for (const QString& meant : further.split(u' ', Qt::SkipEmptyParts)) {
+      const FB_Parameter& number = numbers.at(next++);
+      QCOMPARE(meant.endsWith(u'd') ? QStringLiteral("%1d").arg(number.mDecimals) : rangeOf(number), meant);
+    }
+    for (const QString& word : words.split(QStringLiteral(", "), Qt::SkipEmptyParts)) {
+      const auto isCalled = [&word](const FB_Pin_Group& pins) {
+        const QString name = QString::fromUtf8(pins.mLongName);
+        return name == word || name == word + QStringLiteral(" %1");
+      };
+      QVERIFY2(std::ranges::any_of(type.mPins, isCalled), qPrintable(word));
+    }
   }
 
   void theRegistryHasNoProblem() {
@@ -89,6 +160,8 @@ private slots:
     QTest::newRow("pin") << count << FB_Pin_Group{FB_Side::Output, "Ausgang", ""} << "pin without";
     QTest::newRow("nothing counts") << count << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 2, 1} << "not there";
     QTest::newRow("other minimum") << count << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 1, 0} << "no count";
+    QTest::newRow("too many") << FB_Parameter{"Anzahl", "D", FB_Editor::Number, "2", 2, 1025}
+                              << FB_Pin_Group{FB_Side::Output, "A%1", "A%1", 2, 0} << "more pins";
     QTest::newRow("numberless") << count << FB_Pin_Group{FB_Side::Output, "A", "A%1", 2, 0} << "without a number";
     QTest::newRow("type of a pin") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1-1"} << "no datapoint";
     QTest::newRow("unknown type") << count << FB_Pin_Group{FB_Side::Output, "A", "A", 1, -1, "1.999"} << "no datapoint";
@@ -146,13 +219,15 @@ private slots:
             const QString word = FB_Types::text(group.mLongName).section(QStringLiteral("%1"), 0, 0);
             return pin.mLongName.startsWith(word) && pin.mLongName.mid(word.size()).toInt() > 0;
           };
-          QVERIFY2(std::ranges::count_if(pins, isOfGroup) == std::min(kept, FB_Pins::cMostPins), type->mClass);
+          const int made = FB_Pins::mostPins(*type, group.mParameter);
+          QVERIFY2(std::ranges::count_if(pins, isOfGroup) == std::min(kept, made), type->mClass);
+          QVERIFY2(pins.size() <= size_t(FB_Pins::cMostPins), type->mClass);
           QVERIFY2(std::ranges::all_of(pins,
                                        [](const DB_FB_Pin& pin) {
                                          return pin.mBinding.mName.isEmpty() || pin.mBinding.mName == pin.mLongName;
                                        }),
                    type->mClass);
-          QCOMPARE(FB_Pins::missingPins(*block).isEmpty(), kept <= FB_Pins::cMostPins);
+          QCOMPARE(FB_Pins::missingPins(*block).isEmpty(), kept <= made);
         }
       }
     }

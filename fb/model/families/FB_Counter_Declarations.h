@@ -222,7 +222,7 @@ inline constexpr FB_Parameter cCSVFile[] = {
          QT_TRANSLATE_NOOP("FB_Types", "Titel der Spalten, durch Semikolon getrennt; leer schreibt keine Kopfzeile")),
     seconds(
         QT_TRANSLATE_NOOP("FB_Types", "Zyklus"),
-        QT_TRANSLATE_NOOP("FB_Types", "Abstand, in dem eine Zeile geschrieben wird; 0 schreibt nur auf „Schreiben“"),
+        QT_TRANSLATE_NOOP("FB_Types", "Abstand, in dem eine Zeile geschrieben wird; 0 schreibt nur auf \"Schreiben\""),
         "900"),
     check(QT_TRANSLATE_NOOP("FB_Types", "Zeitstempel"),
           QT_TRANSLATE_NOOP("FB_Types", "Datum und Uhrzeit stehen in der ersten Spalte"), "1"),

@@ -41,7 +41,7 @@ inline constexpr FB_Parameter cParameters[] = {
 inline constexpr FB_Pin_Group cPins[] = {
     {.mLongName = QT_TRANSLATE_NOOP("FB_Types", "Trigger"),
      .mShortName = QT_TRANSLATE_NOOP("FB_Types", "Tr"),
-     .mDpt = "1",
+     .mDpt = cTrigger,
      .mDescription = QT_TRANSLATE_NOOP("FB_Types", "Ein Telegramm mit 1 berechnet die Formel sofort")},
     {.mLongName = QT_TRANSLATE_NOOP("FB_Types", "Eingang %1"),
      .mShortName = QT_TRANSLATE_NOOP("FB_Types", "E%1"),
@@ -54,12 +54,12 @@ inline constexpr FB_Pin_Group cPins[] = {
     {.mSide = FB_Side::Output,
      .mLongName = QT_TRANSLATE_NOOP("FB_Types", "Ergebnis als Bit"),
      .mShortName = QT_TRANSLATE_NOOP("FB_Types", "Bit"),
-     .mDpt = "1",
+     .mDpt = cBit,
      .mDescription = QT_TRANSLATE_NOOP("FB_Types", "1, wenn das gerundete Ergebnis ungleich 0 ist, sonst 0")},
     {.mSide = FB_Side::Output,
      .mLongName = QT_TRANSLATE_NOOP("FB_Types", "Fehler"),
      .mShortName = QT_TRANSLATE_NOOP("FB_Types", "F"),
-     .mDpt = "1",
+     .mDpt = cAlarm,
      .mDescription = QT_TRANSLATE_NOOP("FB_Types", "1, solange die Formel kein Ergebnis hat")},
 };
 

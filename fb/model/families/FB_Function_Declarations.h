@@ -169,7 +169,7 @@ inline constexpr FB_Parameter cButtonStops =
           QT_TRANSLATE_NOOP("FB_Types", "Ein Druck während der Fahrt hält an"), "1");
 inline constexpr FB_Parameter cSafetyPosition =
     choice(QT_TRANSLATE_NOOP("FB_Types", "Sicherheitsstellung"),
-           QT_TRANSLATE_NOOP("FB_Types", "Wohin bei „Sicherheit“ gefahren wird"), cSafetyPositions);
+           QT_TRANSLATE_NOOP("FB_Types", "Wohin bei \"Sicherheit\" gefahren wird"), cSafetyPositions);
 inline constexpr FB_Pin_Group cUp = input(QT_TRANSLATE_NOOP("FB_Types", "Auf"), QT_TRANSLATE_NOOP("FB_Types", "Auf"),
                                           "1.001", QT_TRANSLATE_NOOP("FB_Types", "Ein fährt auf"));
 inline constexpr FB_Pin_Group cDown = input(QT_TRANSLATE_NOOP("FB_Types", "Ab"), QT_TRANSLATE_NOOP("FB_Types", "Ab"),

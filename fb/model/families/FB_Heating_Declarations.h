@@ -186,7 +186,7 @@ inline constexpr FB_Pin_Group cHeatGeneratorPins[] = {
     output(QT_TRANSLATE_NOOP("FB_Types", "Erzeuger"), QT_TRANSLATE_NOOP("FB_Types", "E"), "1.001",
            QT_TRANSLATE_NOOP("FB_Types", "Schaltet den Wärmeerzeuger")),
     output(QT_TRANSLATE_NOOP("FB_Types", "Leistung"), QT_TRANSLATE_NOOP("FB_Types", "Y"), "5.001",
-           QT_TRANSLATE_NOOP("FB_Types", "Leistungsvorgabe bei „Modulierend“")),
+           QT_TRANSLATE_NOOP("FB_Types", "Leistungsvorgabe bei \"Modulierend\"")),
     output(QT_TRANSLATE_NOOP("FB_Types", "Solltemperatur"), QT_TRANSLATE_NOOP("FB_Types", "TS"), "9.001",
            QT_TRANSLATE_NOOP("FB_Types", "Temperaturvorgabe an das Gerät")),
     output(QT_TRANSLATE_NOOP("FB_Types", "Pumpe"), QT_TRANSLATE_NOOP("FB_Types", "P"), "1.001",

@@ -9,8 +9,8 @@ using namespace FB_Shared;
 
 inline constexpr FB_Parameter cKNXTimeServer[] = {
     number(QT_TRANSLATE_NOOP("FB_Types", "Zyklus"),
-           QT_TRANSLATE_NOOP("FB_Types", "Abstand, in dem gesendet wird; 0 sendet nur auf „Senden“"), "60", 0, 1440, 0,
-           QT_TRANSLATE_NOOP("FB_Types", "min")),
+           QT_TRANSLATE_NOOP("FB_Types", "Abstand, in dem gesendet wird; 0 sendet nur auf \"Senden\""), "60", 0, 1440,
+           0, QT_TRANSLATE_NOOP("FB_Types", "min")),
     check(QT_TRANSLATE_NOOP("FB_Types", "Beim Start senden"),
           QT_TRANSLATE_NOOP("FB_Types", "Sendet, sobald die Steuerung läuft"), "1"),
     check(QT_TRANSLATE_NOOP("FB_Types", "Bei Zeitumstellung senden"),
@@ -117,13 +117,13 @@ inline constexpr FB_Parameter cKNXPartitionWall[] = {
     number(QT_TRANSLATE_NOOP("FB_Types", "Anzahl"),
            QT_TRANSLATE_NOOP("FB_Types", "Funktionen, die bei offener Wand gemeinsam bedient werden"), "1", 1, 32),
     choice(QT_TRANSLATE_NOOP("FB_Types", "Wand offen bei"),
-           QT_TRANSLATE_NOOP("FB_Types", "Wert des Kontakts bei offener Trennwand"), cWallContacts),
+           QT_TRANSLATE_NOOP("FB_Types", "Wert des Kontakts bei offener Trennwand"), cWallContacts, "1"),
     choice(QT_TRANSLATE_NOOP("FB_Types", "Beim Öffnen"),
            QT_TRANSLATE_NOOP("FB_Types", "Was geschieht, wenn die Wand geöffnet wird"), cWallOpenings),
 };
 inline constexpr FB_Pin_Group cKNXPartitionWallPins[] = {
     input(QT_TRANSLATE_NOOP("FB_Types", "Trennwand"), QT_TRANSLATE_NOOP("FB_Types", "Wand"), "1.009",
-          QT_TRANSLATE_NOOP("FB_Types", "Kontakt der Trennwand")),
+          QT_TRANSLATE_NOOP("FB_Types", "Kontakt der Trennwand, mit Datenpunkttyp 1.009 bei offener Wand Aus")),
     counted(input(QT_TRANSLATE_NOOP("FB_Types", "Raum 1 Eingang %1"), QT_TRANSLATE_NOOP("FB_Types", "1E%1"), "",
                   QT_TRANSLATE_NOOP("FB_Types", "Bedienung in Raum 1")),
             1),
@@ -149,7 +149,7 @@ inline constexpr FB_Parameter cKNXDimmer4Bit[] = {
     number(QT_TRANSLATE_NOOP("FB_Types", "Höchstwert"), QT_TRANSLATE_NOOP("FB_Types", "Größter Wert"), "100", 1, 100, 0,
            QT_TRANSLATE_NOOP("FB_Types", "%")),
     choice(QT_TRANSLATE_NOOP("FB_Types", "Einschalten auf"),
-           QT_TRANSLATE_NOOP("FB_Types", "Wert, den „Schalten“ Ein sendet"), cSwitchOnLevels),
+           QT_TRANSLATE_NOOP("FB_Types", "Wert, den \"Schalten\" Ein sendet"), cSwitchOnLevels),
     needs(number(QT_TRANSLATE_NOOP("FB_Types", "Fester Einschaltwert"),
                  QT_TRANSLATE_NOOP("FB_Types", "Wert beim Einschalten"), "80", 1, 100, 0,
                  QT_TRANSLATE_NOOP("FB_Types", "%")),

@@ -56,9 +56,10 @@ inline constexpr FB_Parameter cMixerReturnLimit[] = {
     cMixerCycle,
     cMixerGain,
     cMixerWithoutEnable,
-    number(QT_TRANSLATE_NOOP("FB_Types", "Rücklauf mindestens"),
-           QT_TRANSLATE_NOOP("FB_Types", "Darunter wird der Mischer zugefahren"), "55", 0, 90, 1,
-           QT_TRANSLATE_NOOP("FB_Types", "°C")),
+    number(
+        QT_TRANSLATE_NOOP("FB_Types", "Rücklaufgrenze"),
+        QT_TRANSLATE_NOOP("FB_Types", "Unter der Mindest- oder über der Höchsttemperatur wird der Mischer zugefahren"),
+        "55", 0, 90, 1, QT_TRANSLATE_NOOP("FB_Types", "°C")),
     number(QT_TRANSLATE_NOOP("FB_Types", "Hysterese Rücklauf"),
            QT_TRANSLATE_NOOP("FB_Types", "Abstand, bis wieder geregelt wird"), "3", 0.5, 20, 1,
            QT_TRANSLATE_NOOP("FB_Types", "K")),

@@ -151,7 +151,7 @@ inline constexpr FB_Parameter cKNXTelegramOutput[] = {
     choice(QT_TRANSLATE_NOOP("FB_Types", "Priorität"),
            QT_TRANSLATE_NOOP("FB_Types", "Vorrang des Telegramms auf dem Bus"), cPriorities, "3"),
     check(QT_TRANSLATE_NOOP("FB_Types", "Bei Änderung senden"),
-          QT_TRANSLATE_NOOP("FB_Types", "Sendet auch, wenn sich der Wert ändert, nicht nur auf „Senden“")),
+          QT_TRANSLATE_NOOP("FB_Types", "Sendet auch, wenn sich der Wert ändert, nicht nur auf \"Senden\"")),
 };
 inline constexpr FB_Pin_Group cKNXTelegramOutputPins[] = {
     input(QT_TRANSLATE_NOOP("FB_Types", "Wert"), QT_TRANSLATE_NOOP("FB_Types", "W"), "",

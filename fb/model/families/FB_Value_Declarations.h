@@ -28,8 +28,8 @@ inline constexpr FB_Pin_Group cSunPositionPins[] = {
            QT_TRANSLATE_NOOP("FB_Types", "Richtung der Sonne, Norden 0°, Osten 90°")),
     output(QT_TRANSLATE_NOOP("FB_Types", "Elevation"), QT_TRANSLATE_NOOP("FB_Types", "El"), "14.007",
            QT_TRANSLATE_NOOP("FB_Types", "Höhe der Sonne über dem Horizont, nachts negativ")),
-    output(QT_TRANSLATE_NOOP("FB_Types", "Tag"), QT_TRANSLATE_NOOP("FB_Types", "Tag"), "1.024",
-           QT_TRANSLATE_NOOP("FB_Types", "Wechselt bei Sonnenauf- und -untergang")),
+    output(QT_TRANSLATE_NOOP("FB_Types", "Tag"), QT_TRANSLATE_NOOP("FB_Types", "Tag"), cState,
+           QT_TRANSLATE_NOOP("FB_Types", "Ein von Sonnenaufgang bis Sonnenuntergang")),
     output(QT_TRANSLATE_NOOP("FB_Types", "Sonnenaufgang"), QT_TRANSLATE_NOOP("FB_Types", "SA"), "10.001",
            QT_TRANSLATE_NOOP("FB_Types", "Uhrzeit des heutigen Sonnenaufgangs")),
     output(QT_TRANSLATE_NOOP("FB_Types", "Sonnenuntergang"), QT_TRANSLATE_NOOP("FB_Types", "SU"), "10.001",
@@ -108,10 +108,10 @@ inline constexpr FB_Parameter cConvertTemperature[] = {
 };
 inline constexpr FB_Pin_Group cConvertTemperaturePins[] = {
     counted(input(QT_TRANSLATE_NOOP("FB_Types", "Wert %1"), QT_TRANSLATE_NOOP("FB_Types", "W%1"), "",
-                  QT_TRANSLATE_NOOP("FB_Types", "Temperatur in der Einheit „Von“")),
+                  QT_TRANSLATE_NOOP("FB_Types", "Temperatur in der Einheit \"Von\"")),
             1),
     counted(output(QT_TRANSLATE_NOOP("FB_Types", "Ergebnis %1"), QT_TRANSLATE_NOOP("FB_Types", "Erg%1"), "",
-                   QT_TRANSLATE_NOOP("FB_Types", "Dieselbe Temperatur in der Einheit „Nach“")),
+                   QT_TRANSLATE_NOOP("FB_Types", "Dieselbe Temperatur in der Einheit \"Nach\"")),
             1),
 };
 
