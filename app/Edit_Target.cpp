@@ -1,5 +1,7 @@
 #include "app/Edit_Target.h"
 
+#include "ui/Field_Keys.h"
+
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
 #include <QAction>
@@ -102,7 +104,7 @@ QAction* commandOf(const QWidget* widget, const QWidget& window, Command command
 }
 
 Runner runnerOf(QWidget* target, const QWidget& window, Command command) {
-  if (auto* const line = qobject_cast<QLineEdit*>(target)) {
+  if (QLineEdit* const line = Field_Keys::lineOf(target)) {
     return ofLine(line, command);
   }
   if (auto* const text = qobject_cast<QTextEdit*>(target)) {
@@ -162,7 +164,7 @@ void Edit_Target::onFocusChanged(QWidget* now) {
 /// While the menu bar is walked through by keys a field keeps its selection, and the editor of a cell stays open: what
 /// is chosen in the menu is about them.
 bool Edit_Target::eventFilter(QObject* object, QEvent* event) {
-  const bool isText = qobject_cast<QLineEdit*>(object) || qobject_cast<QTextEdit*>(object);
+  const bool isText = Field_Keys::lineOf(object) || qobject_cast<QTextEdit*>(object);
   const bool isWithheld = isText && event->type() == QEvent::FocusOut &&
                           static_cast<QFocusEvent*>(event)->reason() == Qt::MenuBarFocusReason;
   if (isWithheld) {

@@ -1,5 +1,7 @@
 #include "ui/Field_Keys.h"
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -25,13 +27,19 @@ Field_Keys::Field_Keys(QCoreApplication& application, QObject* parent) : QObject
   application.installEventFilter(this);
 }
 
+QLineEdit* Field_Keys::lineOf(QObject* object) {
+  const bool isAround = qobject_cast<QAbstractSpinBox*>(object) || qobject_cast<QComboBox*>(object);
+  return isAround ? object->findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly)
+                  : qobject_cast<QLineEdit*>(object);
+}
+
 bool Field_Keys::eventFilter(QObject* object, QEvent* event) {
   const bool isPress = event->type() == QEvent::KeyPress;
   if (!isPress && event->type() != QEvent::ShortcutOverride) {
     return false;
   }
   const auto& key = static_cast<const QKeyEvent&>(*event);
-  const auto* const field = qobject_cast<QLineEdit*>(object);
+  const QLineEdit* const field = lineOf(object);
   if (isPress) {
     return (field || qobject_cast<QTextEdit*>(object)) && isAccessKey(key);
   }

@@ -3,6 +3,7 @@
 #include <QObject>
 
 class QCoreApplication;
+class QLineEdit;
 
 /// Which keys text fields leave alone, besides those that the toolkit says:
 ///
@@ -15,6 +16,9 @@ class Field_Keys : public QObject {
 public:
   /// Works for the whole application as long as it lives.
   Field_Keys(QCoreApplication& application, QObject* parent);
+
+  /// The field itself, or the one in a number field or a drop-down list, which hold the focus for it; null without.
+  [[nodiscard]] static QLineEdit* lineOf(QObject* object);
 
 protected:
   bool eventFilter(QObject* object, QEvent* event) override;

@@ -141,7 +141,10 @@ QIcon Theme::icon(const QString& name) {
 
 void Theme::setTextRole(QWidget& label, Role role) {
   QPalette palette = label.palette();
-  palette.setColor(QPalette::WindowText, color(role));
+  // In a row of a list the text is drawn as the list's.
+  for (const QPalette::ColorRole text : {QPalette::WindowText, QPalette::Text}) {
+    palette.setColor(text, color(role));
+  }
   label.setPalette(palette);
 }
 

@@ -82,8 +82,13 @@ void Theme_Style::drawComplexControl(ComplexControl control, const QStyleOptionC
     brightenFocus(palette);
     palette.setColor(QPalette::Button, palette.color(QPalette::Button).darker(cButtonLighter));
   };
+  // Fusion's own outline of a number field is as dark as the field, which then has no frame beside the other fields.
+  const auto framedButton = [&calmButton](QPalette& palette) {
+    calmButton(palette);
+    palette.setColor(QPalette::Window, Theme::color(Theme::Role::Border).lighter(cOutlineDarker));
+  };
   const bool isDrawn = drawAs<QStyleOptionComboBox>(option, calmButton, draw) ||
-                       drawAs<QStyleOptionSpinBox>(option, calmButton, draw) ||
+                       drawAs<QStyleOptionSpinBox>(option, framedButton, draw) ||
                        drawAs<QStyleOptionSlider>(option, brightenFocus, draw) ||
                        drawAs<QStyleOptionGroupBox>(option, brightenFocus, draw);
   if (!isDrawn) {

@@ -25,6 +25,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QTabBar>
 #include <QTextEdit>
 #include <QToolBar>
@@ -278,6 +279,15 @@ private slots:
     QVERIFY(field->text().isEmpty() && rig.mSession.isModified());
     QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(!rig.mSession.isModified());
+    // A number field holds the focus for the line in it.
+    auto* const number = new QSpinBox(window.centralWidget());
+    number->show();
+    number->setFocus();
+    QTest::keyClick(number, Qt::Key_Y, Qt::ControlModifier);
+    QVERIFY(rig.mSession.isModified());
+    QTest::keyClick(number, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!rig.mSession.isModified());
+    field->setFocus();
     QTest::keyClick(field, Qt::Key_Left, Qt::ControlModifier);
     QCOMPARE(tabs->currentIndex(), 0);
   }
