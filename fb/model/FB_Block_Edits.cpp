@@ -4,7 +4,6 @@
 #include "fb/model/FB_Edit.h"
 #include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Page_Edits.h"
-#include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Variables.h"
 
 #include <QCoreApplication>
@@ -61,12 +60,6 @@ Edit_Result checkDelay(int seconds) {
              : Edit_Result::refused(
                    tr("Eine Startverzögerung von %1 s ist nicht möglich, erlaubt sind 0 bis %2 s.")
                        .arg(locale.toString(seconds), locale.toString(FB_Block_Edits::cStartDelayMaximum)));
-}
-
-int boundPins(const DB_FB_Control& block) {
-  const auto isBound = [](const DB_FB_Pin& pin) { return pin.mBinding.mKind != Kind::None; };
-  return static_cast<int>(std::ranges::count_if(block.mInputs, isBound) +
-                          std::ranges::count_if(block.mOutputs, isBound));
 }
 
 } // namespace
@@ -144,19 +137,4 @@ QString FB_Block_Edits::fittingName(const DB_FB_Control& block) {
     }
   }
   return DB_Text::singleLine(FB_Geometry::title(block)).left(cNameLimit);
-}
-
-int FB_Block_Edits::lostBindings(const Project_Session& session, const QList<QUuid>& blocks, int index,
-                                 const QString& value) {
-  int lost = 0;
-  for (const QUuid& guid : blocks) {
-    const DB_FB_Control* const block = session.database().mFbPages.child(guid);
-    if (block && index >= 0 && index < block->mParams.size()) {
-      DB_FB_Control changed(*block);
-      changed.mParams[index] = value;
-      FB_Pins::rebuild(changed);
-      lost += std::max(0, boundPins(*block) - boundPins(changed));
-    }
-  }
-  return lost;
 }

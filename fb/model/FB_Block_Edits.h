@@ -38,8 +38,5 @@ Edit_Result setDisableAddress(Project_Session& session, const QList<QUuid>& bloc
 
 /// What the first bound output is bound to, else the first bound input, else what the block is called anyway.
 [[nodiscard]] QString fittingName(const DB_FB_Control& block);
-/// Bound pins that the blocks would lose if that parameter had that value.
-[[nodiscard]] int lostBindings(const Project_Session& session, const QList<QUuid>& blocks, int index,
-                               const QString& value);
 
 } // namespace FB_Block_Edits

@@ -90,10 +90,13 @@ QString FB_Parameter_Text::fault(const FB_Parameter& parameter, const QString& v
   if (parameter.mEditor == FB_Editor::Choice) {
     return choiceOf(parameter, value) ? QString() : tr("\"%1\" steht nicht zur Wahl").arg(value.left(40));
   }
+  const auto present = number(value);
+  if (parameter.mEditor == FB_Editor::Check) {
+    return present ? QString() : tr("\"%1\" ist weder Ein noch Aus").arg(value.left(40));
+  }
   if (parameter.mEditor != FB_Editor::Number) {
     return {};
   }
-  const auto present = number(value);
   if (!present) {
     return tr("\"%1\" ist keine Zahl").arg(value.left(40));
   }

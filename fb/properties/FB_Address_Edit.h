@@ -1,23 +1,21 @@
 #pragma once
 
+#include "db/Address_Usage.h"
 #include "db/DB_Address_Binding.h"
 #include "fb/properties/FB_Dev_Properties_LineEdit.h"
 
 #include <QUuid>
 
-class Address_Tree;
+class ProjectDatabase;
 class QStringListModel;
 
 /// A field for a group address: its number or its name is typed, with proposals for both, or it is dropped here. The
-/// tree outlives it.
+/// database outlives it.
 class FB_Address_Edit : public FB_Dev_Properties_LineEdit {
   Q_OBJECT
 
 public:
-  /// Proposals at most.
-  static constexpr int cMostMatches = 20;
-
-  explicit FB_Address_Edit(const Address_Tree& addresses, QWidget* parent = nullptr);
+  explicit FB_Address_Edit(const ProjectDatabase& database, QWidget* parent = nullptr);
 
   /// "1/2/3 Licht"; the name of a variable; empty when nothing is bound.
   [[nodiscard]] static QString textOf(const DB_Address_Binding& binding);
@@ -40,8 +38,8 @@ protected:
 private:
   void propose(const QString& text);
   void choose();
-  [[nodiscard]] QUuid keyOf(const QString& text) const;
 
-  const Address_Tree& mAddresses;
+  const ProjectDatabase& mDatabase;
+  const Address_Usage mNoVariables; ///< so that only group addresses are found
   QStringListModel* mProposals;
 };

@@ -14,18 +14,19 @@
 namespace {
 
 constexpr int cGap = 8;
-constexpr QSize cDefaultSize(520, 480);
-constexpr int cAddressWidth = 120;
-constexpr int cNameWidth = 200;
+constexpr QSize cDefaultSize(600, 480);
+constexpr int cAddressWidth = 160;
+constexpr int cNameWidth = 290;
 
 } // namespace
 
-FB_Address_Picker::FB_Address_Picker(Project_Session& session, const QUuid& current, QWidget* parent)
+FB_Address_Picker::FB_Address_Picker(Project_Session& session, const QString& pin, const QUuid& current,
+                                     QWidget* parent)
     : QDialog(parent),
       mModel(new Address_Tree_Model(session, this)),
       mTree(new QTreeView),
       mFilter(new Filter_Edit(0)) {
-  setWindowTitle(tr("Adresse auswählen"));
+  setWindowTitle(tr("Adresse auswählen: %1").arg(pin));
   mModel->setBlockTypeName(FB_Types::name);
   setUpTree();
   mFilter->setAccessibleName(tr("Suchen"));

@@ -16,8 +16,8 @@ class FB_Address_Picker : public QDialog {
   Q_OBJECT
 
 public:
-  /// `current` is selected first; null for none.
-  FB_Address_Picker(Project_Session& session, const QUuid& current, QWidget* parent = nullptr);
+  /// `pin` is what it is called. `current` is selected first; null for none.
+  FB_Address_Picker(Project_Session& session, const QString& pin, const QUuid& current, QWidget* parent = nullptr);
 
   /// Of the chosen address or variable; null when the current row is none.
   [[nodiscard]] QUuid key() const;

@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 namespace {
-constexpr int cPageShare = 3;
+constexpr int cPageShare = 5;
 constexpr int cAddressShare = 2;
 constexpr int cAnyHeight = 1000; // the splitter keeps the ratio only
 } // namespace

@@ -14,9 +14,11 @@
 #include "ui/Filter_Edit.h"
 #include "ui/Theme.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -26,7 +28,8 @@ using Tree = FB_Dev_Properties_Address::TreeWidgetIO;
 
 constexpr int cGap = 4;
 constexpr int cIndentation = 12;
-constexpr int cPinWidth = 120;
+constexpr int cPinRoom = 28;       ///< beside icon and name
+constexpr double cPinShare = 0.55; ///< of the width, at most
 constexpr int cDeleteWidth = 28;
 
 QString textOf(const DB_Address_Binding& binding) {
@@ -96,14 +99,15 @@ void FB_Dev_Properties_Address::setUpTree(App_Settings& settings) {
   QHeaderView* const header = mTree->header();
   header->setObjectName(QStringLiteral("fb:mPropertiesAddressHeader"));
   header->setMinimumSectionSize(cDeleteWidth);
-  header->resizeSection(TreeWidgetIO::cPin, cPinWidth);
   header->resizeSection(TreeWidgetIO::cDelete, cDeleteWidth);
-  header->restoreState(settings.viewState(header->objectName()));
+  mIsWidthChosen = header->restoreState(settings.viewState(header->objectName()));
   header->setSectionResizeMode(TreeWidgetIO::cPin, QHeaderView::Interactive);
   header->setSectionResizeMode(TreeWidgetIO::cBinding, QHeaderView::Stretch);
   header->setSectionResizeMode(TreeWidgetIO::cDelete, QHeaderView::Fixed);
-  connect(header, &QHeaderView::sectionResized, this, [header, &settings](int section) {
-    if (section == TreeWidgetIO::cPin) {
+  connect(header, &QHeaderView::sectionResized, this, [this, header, &settings](int section) {
+    if (section == TreeWidgetIO::cPin && QApplication::mouseButtons().testFlag(Qt::LeftButton) &&
+        header->underMouse()) {
+      mIsWidthChosen = true;
       settings.setViewState(header->objectName(), header->saveState());
     }
   });
@@ -176,6 +180,9 @@ void FB_Dev_Properties_Address::showRows(const QList<const DB_FB_Control*>& bloc
   QSet<FB_Pin_Ref> present;
   QSet<QUuid> presentBranches;
   for (const DB_FB_Control* const block : blocks) {
+    if (block->mInputs.empty() && block->mOutputs.empty()) {
+      continue;
+    }
     QTreeWidgetItem* parent = mTree->invisibleRootItem();
     if (areBranches) {
       QTreeWidgetItem*& branch = mBranches[block->mGuid];
@@ -211,6 +218,26 @@ void FB_Dev_Properties_Address::showRows(const QList<const DB_FB_Control*>& bloc
     }
   }
   applyFilter();
+  fitPins();
+}
+
+void FB_Dev_Properties_Address::fitPins() {
+  if (mIsWidthChosen) {
+    return;
+  }
+  int width = 0;
+  for (const QTreeWidgetItem* const item : std::as_const(mRows)) {
+    const int depth = item->parent() ? 1 : 0;
+    width = std::max(width, mTree->fontMetrics().horizontalAdvance(item->text(Tree::cPin)) + depth * cIndentation);
+  }
+  const int most = static_cast<int>(mTree->viewport()->width() * cPinShare);
+  const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize);
+  mTree->header()->resizeSection(Tree::cPin, std::min(most, width + icon + cPinRoom));
+}
+
+void FB_Dev_Properties_Address::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  fitPins();
 }
 
 void FB_Dev_Properties_Address::syncPins(QTreeWidgetItem& parent, const DB_FB_Control& block,

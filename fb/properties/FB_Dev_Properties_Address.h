@@ -45,6 +45,9 @@ signals:
   void blockChosen(const QUuid& page, const QUuid& block);
   void statusText(const QString& text);
 
+protected:
+  void resizeEvent(QResizeEvent* event) override;
+
 private slots:
   void onTree_itemClicked(QTreeWidgetItem* item, int column);
   void onTree_itemDoubleClicked(QTreeWidgetItem* item, int column);
@@ -62,6 +65,8 @@ private:
   void fill(QTreeWidgetItem& item, const DB_FB_Control& block, const FB_Pin_Ref& pin);
   void showReason(QTreeWidgetItem& item, const QString& reason);
   void applyFilter();
+  /// Gives the names of the pins the room that they need, unless the user chose another width.
+  void fitPins();
 
   // What is done.
   [[nodiscard]] const DB_Address_Binding* bindingOf(const FB_Pin_Ref& pin) const;
@@ -83,5 +88,6 @@ private:
   FB_Binding_Delegate* mDelegate;
   QHash<FB_Pin_Ref, QTreeWidgetItem*> mRows;
   QHash<QUuid, QTreeWidgetItem*> mBranches; ///< of several blocks
+  bool mIsWidthChosen = false;              ///< by the user, of the pins
   bool mIsFilling = false;                  ///< changes of items are no edits
 };

@@ -5,6 +5,7 @@
 #include "fb/model/FB_Binding_Search.h"
 #include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Types.h"
+#include "fb/model/FB_Variables.h"
 #include "fb/properties/FB_Address_Picker.h"
 #include "fb/properties/FB_Dev_Properties_Address.h"
 #include "fb/properties/FB_Dev_Properties_Address_Tree.h"
@@ -118,7 +119,9 @@ void FB_Dev_Properties_Address::pick(const FB_Pin_Ref& pin) {
   if (!binding) {
     return;
   }
-  FB_Address_Picker dialog(mSession, binding->mKey, window());
+  const DB_FB_Control& block = *std::as_const(mSession).database().mFbPages.child(pin.mBlock);
+  const QString name = FB_Pins::pins(block, pin.mSide)[static_cast<size_t>(pin.mIndex)].mLongName;
+  FB_Address_Picker dialog(mSession, tr("%1, %2").arg(FB_Variables::ownerName(block), name), binding->mKey, window());
   const QPointer<FB_Dev_Properties_Address> self = this;
   const bool isChosen = dialog.exec() == QDialog::Accepted && !dialog.key().isNull();
   if (self && isChosen) { // the pin may be gone meanwhile, then the edit refuses

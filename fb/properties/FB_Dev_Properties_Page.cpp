@@ -21,7 +21,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <set>
+#include <utility>
 
 namespace {
 
@@ -111,6 +111,7 @@ FB_Dev_Properties_Page::FB_Dev_Properties_Page(Project_Session& session, App_Set
     if (mMergeField && now != mMergeField) {
       mMergeField = nullptr;
     }
+    reveal(now);
   });
 }
 
@@ -161,7 +162,10 @@ FB_Dev_Properties_Page::Field FB_Dev_Properties_Page::addField(QTreeWidgetItem& 
   field.mRow = new FB_Property_Row(editor.widget());
   editor.widget().setAccessibleName(name);
   mTree->setItemWidget(field.mItem, 1, field.mRow);
-  connect(field.mRow, &FB_Property_Row::heightChanged, mTree, &QTreeWidget::doItemsLayout);
+  connect(field.mRow, &FB_Property_Row::heightChanged, this, [this] {
+    mTree->doItemsLayout();
+    reveal(QApplication::focusWidget());
+  });
   return field;
 }
 
@@ -252,6 +256,9 @@ void FB_Dev_Properties_Page::refresh() {
   showParameters(blocks);
   updateEnabled(blocks);
   updateColumns();
+  if (std::exchange(mHasNewRows, false)) {
+    orderTabs();
+  }
 }
 
 void FB_Dev_Properties_Page::showHeading(const Blocks& blocks) {
@@ -312,18 +319,59 @@ void FB_Dev_Properties_Page::updateColumns() {
   mTree->setColumnWidth(0, std::min(most, width + 2 * cIndentation + cGap + cSmallGap));
 }
 
+void FB_Dev_Properties_Page::reveal(const QWidget* widget) {
+  if (!widget || !mTree->isAncestorOf(widget)) {
+    return;
+  }
+  const auto show = [&](const Field& field) {
+    if (field.mRow->isAncestorOf(widget)) {
+      mTree->scrollToItem(field.mItem);
+    }
+  };
+  for (const auto& [editor, field] : mFields) {
+    show(field);
+  }
+  for (const auto& [index, field] : mRows) {
+    show(field);
+  }
+}
+
+/// As one reads, however late a row was made.
+void FB_Dev_Properties_Page::orderTabs() {
+  QWidget* last = nullptr;
+  const auto append = [&last](QWidget* widget) {
+    if (last && widget->focusPolicy() & Qt::TabFocus) {
+      setTabOrder(last, widget);
+    }
+    last = widget->focusPolicy() & Qt::TabFocus ? widget : last;
+  };
+  for (const QTreeWidgetItem* const section : {mGeneral, mParameters}) {
+    for (int i = 0; i < section->childCount(); ++i) {
+      const QWidget* const row = mTree->itemWidget(section->child(i), 1);
+      const auto parts = row ? row->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly) : QList<QWidget*>();
+      std::ranges::for_each(parts, append);
+    }
+  }
+  for (QWidget* const button :
+       {static_cast<QWidget*>(mGenerate), static_cast<QWidget*>(mPageProperties), static_cast<QWidget*>(mOpenEditor)}) {
+    append(button);
+  }
+}
+
 void FB_Dev_Properties_Page::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   updateColumns();
 }
 
 void FB_Dev_Properties_Page::onGenerateVariable_clicked() {
+  finishTyping(); // the key leaves the focus where it is
   if (mCanvas) {
     mCanvas->generateVariables(mBlocks);
   }
 }
 
 void FB_Dev_Properties_Page::onPageProperties_clicked() {
+  finishTyping();
   if (mCanvas) {
     emit pagePropertiesRequested(mCanvas->pageGuid());
   }

@@ -102,6 +102,10 @@ private:
   void showController();
   void showParameters(const Blocks& blocks);
   void showParameter(Parameter_Field& field, int index, const Blocks& blocks);
+  /// What is wrong with the value that is shown or typed, and which bindings it would take.
+  void showRemark(Parameter_Field& field, int index, const Blocks& blocks);
+  /// Of a row that belongs to a pin that none of the blocks has.
+  [[nodiscard]] bool isBeyondCount(const Parameter_Field& field, int index, const Blocks& blocks) const;
   void showParameterHint(const Blocks& blocks);
   void updateEnabled(const Blocks& blocks);
   [[nodiscard]] QString whyUseless(const Parameter_Field& field, const Blocks& blocks) const;
@@ -109,6 +113,9 @@ private:
   void setNotice(const QString& text);
   void clearParameters();
   void updateColumns();
+  void orderTabs();
+  /// Scrolls to the row that the widget stands in.
+  void reveal(const QWidget* widget);
   void finishTyping();
 
   /// One change of all blocks; further ones of the same field belong to it.
@@ -150,6 +157,7 @@ private:
   std::map<FB_Dev_Properties_Editor*, Field> mFields; ///< the general ones
   std::map<int, Parameter_Field> mRows;               ///< by the index of the parameter
   int mType = -1;                                     ///< of which the rows are
+  bool mHasNewRows = true;
 
   QPointer<QWidget> mMergeField; ///< whose edits belong together
   quint64 mMerge = 0;

@@ -56,7 +56,7 @@ void FB_Dev_Properties_Page::buildGeneral() {
       tr("Genau eine Steuerung führt die Bausteine dieser Seite aus - nie mehrere.") + u'\n' +
           tr("\"Hauptsteuerung\" ist die Steuerung, die unter \"Verteiltes Projekt\" als Hauptsteuerung angegeben "
              "ist."));
-  mDisableAddress = new FB_Address_Edit(mSession.database().mAddresses);
+  mDisableAddress = new FB_Address_Edit(std::as_const(mSession).database());
   Field address = addField(*mGeneral, mGeneral->childCount(), tr("Deaktivieren Adresse"), *mDisableAddress);
   const QString tip = tr("Gruppenadresse, die den Baustein deaktiviert, solange ihr Wert Ein ist.\nNummer oder Namen "
                          "eingeben, oder eine Gruppenadresse aus \"Variablen\" hierher ziehen.");
@@ -111,7 +111,7 @@ void FB_Dev_Properties_Page::showGeneral(const Blocks& blocks) {
   const double delay = mStartDelay->value();
   const bool isOutside = delay < mStartDelay->lowest() || delay > mStartDelay->highest();
   mFields.at(mStartDelay)
-      .mRow->setFault(isOutside ? tr("erlaubt: 0 bis %1 s").arg(FB_Block_Edits::cStartDelayMaximum) : QString());
+      .mRow->setRemark(isOutside ? tr("erlaubt: 0 bis %1 s").arg(FB_Block_Edits::cStartDelayMaximum) : QString(), {});
   showController();
 }
 
@@ -130,7 +130,7 @@ void FB_Dev_Properties_Page::showController() {
   }
   mController->setEntries(entries);
   mController->showValue({QString::number(page->mControllerIndex), false});
-  mFields.at(mController).mRow->setFault(isThere ? QString() : tr("steht nicht mehr in der Liste"));
+  mFields.at(mController).mRow->setRemark(isThere ? QString() : tr("steht nicht mehr in der Liste"), {});
 }
 
 void FB_Dev_Properties_Page::updateEnabled(const Blocks& blocks) {

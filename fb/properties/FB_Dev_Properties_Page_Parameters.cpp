@@ -2,9 +2,9 @@
 #include "db/Project_Session.h"
 #include "fb/FB_Base.h"
 #include "fb/FB_Page.h"
-#include "fb/model/FB_Block_Edits.h"
 #include "fb/model/FB_Page_Edits.h"
 #include "fb/model/FB_Parameter_Text.h"
+#include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Types.h"
 #include "fb/properties/FB_Dev_Properties_Checkbox.h"
 #include "fb/properties/FB_Dev_Properties_ComboBox.h"
@@ -16,6 +16,20 @@
 #include <QTreeWidget>
 
 #include <algorithm>
+
+namespace {
+
+constexpr qsizetype cMostNamed = 4;
+
+/// "Eingang 3, Eingang 4 und 12 weitere"; of two at least.
+QString enumerated(const QStringList& names) {
+  const bool areAll = names.size() <= cMostNamed;
+  const qsizetype named = areAll ? names.size() - 1 : cMostNamed - 1;
+  const QString rest = areAll ? names.last() : FB_Dev_Properties_Page::tr("%1 weitere").arg(names.size() - named);
+  return FB_Dev_Properties_Page::tr("%1 und %2").arg(names.first(named).join(QStringLiteral(", ")), rest);
+}
+
+} // namespace
 
 QList<FB_Dev_Properties_Editor*> FB_Dev_Properties_Page::editors() const {
   QList<FB_Dev_Properties_Editor*> all;
@@ -49,6 +63,7 @@ Editor* FB_Dev_Properties_Page::editorFor(int index, const FB_Parameter& paramet
     connect(field.mRow, &FB_Property_Row::resetRequested, this,
             [this, made, usual = parameter.mDefault] { editParameter(*made, QString::fromUtf8(usual)); });
     at = mRows.emplace(index, field).first;
+    mHasNewRows = true;
   }
   at->second.mIsAsked = true;
   return static_cast<Editor*>(at->second.mEditor);
@@ -60,11 +75,8 @@ FB_Dev_Properties_SpinBox* FB_Dev_Properties_Page::addNumber(int index, const FB
   auto* const made = editorFor<FB_Dev_Properties_SpinBox>(index, parameter, value,
                                                           &FB_Dev_Properties_Page::onParam_SpinBox_valueChanged);
   if (isNew) {
-    FB_Property_Row* const row = mRows.at(index).mRow;
-    connect(made, &FB_Dev_Properties_SpinBox::typedOutside, row, [row, parameter](bool isOutside) {
-      const QString outside = FB_Parameter_Text::ofNumber(parameter.mMaximum + 1, 0);
-      row->setFault(isOutside ? FB_Parameter_Text::fault(parameter, outside) : QString());
-    });
+    connect(made, &FB_Dev_Properties_SpinBox::typed, this,
+            [this, index] { showRemark(mRows.at(index), index, records()); });
   }
   return made;
 }
@@ -146,9 +158,44 @@ void FB_Dev_Properties_Page::showParameter(Parameter_Field& field, int index, co
   }
   field.mRow->setReset(isChanged ? tr("Auf Vorgabe \"%1\" zurücksetzen").arg(FB_Parameter_Text::shown(parameter, usual))
                                  : QString());
-  if (!field.mEditor->isTyping()) {
-    field.mRow->setFault(value.mIsMixed ? QString() : FB_Parameter_Text::fault(parameter, value.mText));
+  showRemark(field, index, blocks);
+  if (const bool isHidden = isBeyondCount(field, index, blocks); isHidden != field.mItem->isHidden()) {
+    field.mItem->setHidden(isHidden);
   }
+}
+
+void FB_Dev_Properties_Page::showRemark(Parameter_Field& field, int index, const Blocks& blocks) {
+  const FB_Parameter& parameter = field.mParameter;
+  const bool isCount = countsPins(index);
+  if (const auto* const box = dynamic_cast<FB_Dev_Properties_SpinBox*>(field.mEditor); box && box->isTyping()) {
+    const QString outside = FB_Parameter_Text::ofNumber(parameter.mMaximum + 1, 0);
+    const QStringList lost = isCount && !box->typedText().isEmpty()
+                                 ? FB_Page_Edits::lostBindings(mSession, mBlocks, index, box->typedText())
+                                 : QStringList();
+    field.mRow->setRemark(box->isTypedOutside() ? FB_Parameter_Text::fault(parameter, outside) : QString(),
+                          lost.isEmpty()     ? QString()
+                          : lost.size() == 1 ? tr("%1 verliert die Verknüpfung").arg(lost.first())
+                                             : tr("%1 verlieren ihre Verknüpfung").arg(enumerated(lost)));
+    return;
+  }
+  const FB_Shared_Value value = FB_Shared_Value::of(blocks, [&](const DB_FB_Control& block) {
+    return index < block.mParams.size() ? block.mParams.at(index) : QString::fromUtf8(parameter.mDefault);
+  });
+  const bool isHuge =
+      isCount && !value.mIsMixed && FB_Parameter_Text::number(value.mText).value_or(0) > FB_Pins::cMostPins;
+  field.mRow->setRemark(value.mIsMixed ? QString() : FB_Parameter_Text::fault(parameter, value.mText),
+                        isHuge ? FB_Pins::missingPins(*blocks.front()) : QString());
+}
+
+bool FB_Dev_Properties_Page::isBeyondCount(const Parameter_Field& field, int index, const Blocks& blocks) const {
+  const FB_Type* const type = FB_Types::find(mType);
+  if (!type || !QByteArrayView(field.mParameter.mName).contains("%1")) {
+    return false; // only rows that are numbered like pins
+  }
+  const auto counted = std::ranges::find_if(type->mPins, [](const auto& group) { return group.mParameter >= 0; });
+  return counted != type->mPins.end() && std::ranges::all_of(blocks, [&](const DB_FB_Control* block) {
+           return index > FB_Parameter_Text::number(block->mParams.value(counted->mParameter)).value_or(0);
+         });
 }
 
 void FB_Dev_Properties_Page::showParameterHint(const Blocks& blocks) {
@@ -186,13 +233,15 @@ bool FB_Dev_Properties_Page::countsPins(int index) const {
 
 void FB_Dev_Properties_Page::editParameter(FB_Dev_Properties_Editor& editor, const QString& value) {
   const int index = editor.index();
-  const int lost = countsPins(index) ? FB_Block_Edits::lostBindings(mSession, mBlocks, index, value) : 0;
+  const QStringList lost =
+      countsPins(index) ? FB_Page_Edits::lostBindings(mSession, mBlocks, index, value) : QStringList();
   if (!edit(editor.widget(), [&] { return FB_Page_Edits::setParameter(mSession, mBlocks, index, value); })) {
     return;
   }
-  if (lost > 0) {
-    setNotice(lost == 1 ? tr("Mit den Pins ist eine Verknüpfung entfallen. Rückgängig bringt sie zurück.")
-                        : tr("Mit den Pins sind %1 Verknüpfungen entfallen. Rückgängig bringt sie zurück.").arg(lost));
+  if (!lost.isEmpty()) {
+    setNotice(lost.size() == 1
+                  ? tr("%1 hat die Verknüpfung verloren. Rückgängig bringt sie zurück.").arg(lost.first())
+                  : tr("%1 haben ihre Verknüpfung verloren. Rückgängig bringt sie zurück.").arg(enumerated(lost)));
   }
   const FB_Base* const first = mCanvas ? mCanvas->blocks().find(mBlocks.value(0)) : nullptr;
   if (first && !mRows.empty()) {

@@ -65,6 +65,18 @@ void FB_Dev_Properties_SpinBox::showAgain() {
   QDoubleSpinBox::setDecimals(std::max(mDecimals, FB_Parameter_Text::decimals(mValue.mText)));
   QDoubleSpinBox::setRange(std::min(mLowest, number), std::max(mHighest, number));
   setValue(number);
+  forgetTyping();
+}
+
+/// Undo is the window's from now on, not the line's.
+void FB_Dev_Properties_SpinBox::forgetTyping() {
+  QLineEdit& line = *lineEdit();
+  if (line.isUndoAvailable() || line.isRedoAvailable()) {
+    const QSignalBlocker blocker(&line);
+    const int cursor = line.cursorPosition();
+    line.setText(line.text());
+    line.setCursorPosition(cursor);
+  }
 }
 
 QString FB_Dev_Properties_SpinBox::storedText() const {
@@ -81,13 +93,11 @@ void FB_Dev_Properties_SpinBox::finishTyping() {
 void FB_Dev_Properties_SpinBox::onTextEdited(const QString& text) {
   mIsTyping = true;
   bool isNumber = false;
-  const double typed = locale().toDouble(withoutUnit(text), &isNumber);
+  const double number = locale().toDouble(withoutUnit(text), &isNumber);
   mIsMixed = mValue.mIsMixed && !isNumber;
-  const bool isOutside = isNumber && !isInRange(typed);
-  if (isOutside != mIsOutside) {
-    mIsOutside = isOutside;
-    emit typedOutside(isOutside);
-  }
+  mIsOutside = isNumber && !isInRange(number);
+  mTyped = isNumber ? FB_Parameter_Text::ofNumber(mIsOutside ? limited(number) : number, decimals()) : QString();
+  emit typed();
 }
 
 /// Where the blocks differ, the number that one of them has is a change, too.
@@ -104,9 +114,10 @@ void FB_Dev_Properties_SpinBox::onEditingFinished() {
 }
 
 void FB_Dev_Properties_SpinBox::stopTyping() {
-  mIsTyping = false;
-  if (std::exchange(mIsOutside, false)) {
-    emit typedOutside(false);
+  if (std::exchange(mIsTyping, false)) {
+    mIsOutside = false;
+    mTyped.clear();
+    emit typed();
   }
 }
 

@@ -33,6 +33,10 @@ public:
   [[nodiscard]] QString storedText() const override;
   [[nodiscard]] bool isTyping() const override { return mIsTyping; }
   void finishTyping() override;
+  /// What would be stored if typing stopped now; empty while nothing is typed, or no number.
+  [[nodiscard]] QString typedText() const { return mTyped; }
+  /// What is typed is outside of the range.
+  [[nodiscard]] bool isTypedOutside() const { return mIsOutside; }
 
   void stepBy(int steps) override;
   [[nodiscard]] QString textFromValue(double value) const override;
@@ -44,8 +48,8 @@ public:
 
 signals:
   void valueChanged(FB_Dev_Properties_SpinBox* editor);
-  /// What is typed has come into the range or left it.
-  void typedOutside(bool isOutside);
+  /// What is being typed is another number, or typing has stopped.
+  void typed();
 
 protected:
   void wheelEvent(QWheelEvent* event) override;
@@ -56,6 +60,7 @@ private slots:
 
 private:
   void showAgain();
+  void forgetTyping();
   void onTextEdited(const QString& text);
   void onEditingFinished();
   void stopTyping();
@@ -73,4 +78,5 @@ private:
   bool mIsMixed = false;
   bool mIsTyping = false;
   bool mIsOutside = false;
+  QString mTyped;
 };

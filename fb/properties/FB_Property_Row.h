@@ -3,8 +3,8 @@
 #include <QString>
 #include <QWidget>
 
-class Elided_Label;
 class QHBoxLayout;
+class QLabel;
 class QToolButton;
 class QVBoxLayout;
 
@@ -20,18 +20,27 @@ public:
   QToolButton& addButton(const QString& icon, const QString& text, const QString& toolTip);
   /// What resetting does (German); empty where there is nothing to reset.
   void setReset(const QString& text);
-  /// Empty for none. Tells `heightChanged` when the row gets or loses that line.
-  void setFault(const QString& text);
-  [[nodiscard]] QString fault() const { return mFaultText; }
+  /// What is wrong with the value, and what it would do; empty for none. The row grows with the text.
+  void setRemark(const QString& fault, const QString& warning);
+  [[nodiscard]] QString fault() const { return mFault; }
+  [[nodiscard]] QString warning() const { return mWarning; }
 
 signals:
   void resetRequested();
   void heightChanged();
 
+protected:
+  void resizeEvent(QResizeEvent* event) override;
+
 private:
+  void fitRemark();
+
   QVBoxLayout* mLines;
   QHBoxLayout* mFirst;
   QToolButton* mReset = nullptr;
-  Elided_Label* mFault = nullptr;
-  QString mFaultText;
+  QWidget* mLast; ///< of the first line
+  QLabel* mRemark = nullptr;
+  int mRemarkHeight = 0;
+  QString mFault;
+  QString mWarning;
 };

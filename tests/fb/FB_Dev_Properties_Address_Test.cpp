@@ -1,4 +1,5 @@
 #include "base/App_Settings.h"
+#include "db/Address_Clipboard.h"
 #include "db/Address_Edits.h"
 #include "fb/FB_Base_GenerateVar.h"
 #include "fb/FB_Page.h"
@@ -8,7 +9,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
+#include <QDropEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTimer>
 #include <QTreeWidget>
@@ -98,6 +101,52 @@ private slots:
     QCOMPARE(tree().topLevelItem(1)->childCount(), 3);
     mPage->select({});
     QCOMPARE(tree().topLevelItemCount(), 0);
+  }
+
+  void aTypeThatDoesNotFitIsMarked() {
+    QUuid temperature;
+    QVERIFY(Address_Edits::add(session(), {1, 2, 9}, {QStringLiteral("Aussen"), {}, {9, 1}}, &temperature));
+    QVERIFY(bind(session(), in(0), temperature));
+    QApplication::processEvents();
+    QVERIFY(row(0)->childCount() == 1 && row(0)->isExpanded());
+    QCOMPARE(row(0)->child(0)->text(0), QStringLiteral("Typ 9.001 (2 Byte) statt 1.001 (1 Bit)"));
+    QVERIFY(row(0)->toolTip(1).contains(row(0)->child(0)->text(0)));
+    QVERIFY(bind(session(), in(0), mRig->mLight));
+    QApplication::processEvents();
+    QCOMPARE(row(0)->childCount(), 0);
+  }
+
+  void dropping_data() {
+    QTest::addColumn<int>("dragged"); ///< addresses
+    QTest::addColumn<int>("onRow");
+    QTest::addColumn<bool>("isBound");
+    QTest::newRow("one address on a pin") << 1 << 1 << true;
+    QTest::newRow("several") << 2 << 1 << false;
+    QTest::newRow("beside the rows") << 1 << -1 << false;
+  }
+
+  void dropping() {
+    QFETCH(int, dragged);
+    QFETCH(int, onRow);
+    QFETCH(bool, isBound);
+    QMimeData data;
+    Address_Clipboard::fill(data, session(), QList<QUuid>{mRig->mLight, mRig->mBlind}.first(dragged),
+                            Address_Clipboard::Use::Move);
+    QWidget& target = *tree().viewport();
+    const QPoint at = onRow < 0 ? QPoint(20, target.height() - 2) : tree().visualItemRect(row(onRow)).center();
+    const auto actions = Qt::MoveAction | Qt::LinkAction;
+    QDragEnterEvent enter(at, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &enter);
+    QDragMoveEvent move(at, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &move);
+    QCOMPARE(move.isAccepted(), isBound);
+    QVERIFY2(!isBound || move.dropAction() == Qt::LinkAction, "the source keeps the address");
+    QDropEvent drop(at, actions, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &drop);
+    QCOMPARE(mRig->input(mBlocks[0], 1).mKind, isBound ? Kind::GroupAddress : Kind::None);
+    mRig->history().commit();
+    QVERIFY(!isBound || mRig->history().undo());
+    QCOMPARE(mRig->input(mBlocks[0], 1).mKind, Kind::None);
   }
 
   void theSignAtTheEndUnbinds_data() {

@@ -1,6 +1,8 @@
 #include "base/App_Settings.h"
 #include "fb/FB_Page.h"
 #include "fb/model/FB_Block_Edits.h"
+#include "fb/model/FB_Pins.h"
+#include "fb/model/FB_Types.h"
 #include "fb/properties/FB_Dev_Properties_Checkbox.h"
 #include "fb/properties/FB_Dev_Properties_ComboBox.h"
 #include "fb/properties/FB_Dev_Properties_LineEdit.h"
@@ -9,6 +11,7 @@
 #include "fb/properties/FB_Property_Row.h"
 #include "tests/fb/Logic_Rig.h"
 
+#include <QPushButton>
 #include <QSignalSpy>
 
 /// The upper part of the property panel: what it reports, what it shares, and that it never writes what it only shows.
@@ -109,6 +112,59 @@ private slots:
     QCOMPARE(&number(0), &count);
     count.stepBy(1);
     QCOMPARE(mRig->block(mBlocks[0]).mParams.at(0), QString::number(qBound(2, qRound(shown.toDouble()) + 1, 64)));
+  }
+
+  /// What the typed number would take is named before it does, and again when undo can bring it back.
+  void aSmallerCountWarns() {
+    QVERIFY(FB_Page_Edits::setParameter(mRig->mSession, mBlocks[0], 0, QStringLiteral("4")));
+    for (const int pin : {2, 3}) {
+      QVERIFY(FB_Page_Edits::bind(mRig->mSession, {mBlocks[0], FB_Side::Input, pin}, mRig->mLight));
+    }
+    mCanvas->select({mBlocks[0]});
+    auto& count = number(0);
+    const auto warning = [&](const char* keys) {
+      type(count, QString::fromLatin1(keys));
+      return rowOf(count).warning();
+    };
+    QCOMPARE(warning("2"), QStringLiteral("Eingang 3 und Eingang 4 verlieren ihre Verknüpfung"));
+    QCOMPARE(warning("3"), QStringLiteral("Eingang 4 verliert die Verknüpfung"));
+    QCOMPARE(warning("3\x1b"), QString());
+    QCOMPARE(warning("400"), QString());
+    QSignalSpy told(mPanel.get(), &FB_Dev_Properties_Page::statusText);
+    QCOMPARE(warning("2\r"), QString());
+    QVERIFY(told.value(0).value(0).toString().startsWith(QStringLiteral("Eingang 3 und Eingang 4 haben")));
+    mRig->mSession.database().mFbPages.changeChild(mBlocks[0], [](DB_FB_Control& block) {
+      block.mParams[0] = QStringLiteral("2000");
+      FB_Pins::rebuild(block);
+    });
+    QTRY_VERIFY(rowOf(count).warning().contains(QStringLiteral("Angelegt sind die ersten")));
+  }
+
+  void rowsBeyondTheCountAreHidden() {
+    const QUuid preset = mRig->add(FB_Types::cSetValue);
+    QVERIFY(FB_Page_Edits::setParameter(mRig->mSession, preset, 0, QStringLiteral("3")));
+    QTRY_COMPARE(mCanvas->selectedBlocks(), QList<QUuid>{preset});
+    mPanel->resize(400, 2000);
+    QTRY_VERIFY(number(3).isVisible());
+    QVERIFY(!number(4).isVisible());
+  }
+
+  /// As one reads, though the rows of parameters come and go.
+  void theTabKeyGoesDownTheRows() {
+    mCanvas->select({mRig->add(FB_Types::cSetValue)});
+    mCanvas->select({mBlocks[0]});
+    QStringList names;
+    QWidget* at = mPanel->findChild<FB_Dev_Properties_LineEdit*>();
+    do {
+      const auto* const editor = dynamic_cast<FB_Dev_Properties_Editor*>(at);
+      names += editor ? QStringList(at->accessibleName()) : QStringList();
+      at = at->nextInFocusChain();
+    } while (at != mPanel.get() && names.size() < 20 && !qobject_cast<QPushButton*>(at));
+    const QStringList last = names.mid(names.size() - 4);
+    QCOMPARE(names.value(0), QStringLiteral("Name"));
+    QCOMPARE(last.value(0), QStringLiteral("Deaktivieren Adresse"));
+    QCOMPARE(last.value(1), mPanel->editor(0)->widget().accessibleName());
+    QCOMPARE(names.size(), 9 + mPanel->editors().size());
   }
 
   void differentValuesAndTypes() {

@@ -161,8 +161,6 @@ private slots:
     QCOMPARE(mRig->block(mB).mDisableAddress.mName, QStringLiteral("Licht"));
     QVERIFY(FB_Block_Edits::setDisableAddress(session(), {mB}, {}));
     QCOMPARE(mRig->block(mB).mDisableAddress.mKind, Kind::None);
-    QVERIFY(setParameter(session(), all, 0, QStringLiteral("5")) && bind(session(), in(mA, 4), mRig->mLight));
-    QCOMPARE(FB_Block_Edits::lostBindings(session(), all, 0, QStringLiteral("4")), 1);
     goBack();
   }
 
