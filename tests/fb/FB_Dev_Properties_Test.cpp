@@ -176,6 +176,10 @@ private slots:
     QCOMPARE(invert->text(), QStringLiteral("verschieden"));
     QTest::mouseClick(invert, Qt::LeftButton, Qt::NoModifier, QPoint(6, invert->height() / 2));
     QCOMPARE(mRig->block(mBlocks[1]).mParams.at(1), QStringLiteral("1"));
+    mRig->mSession.database().mFbPages.changeChild(
+        mBlocks[2], [](DB_FB_Control& block) { block.mParams[1] = QStringLiteral("x"); });
+    mCanvas->select({mBlocks[2]});
+    QCOMPARE(rowOf(*invert).fault(), QStringLiteral("\"x\" ist weder Ein noch Aus"));
     const QUuid other = mRig->add(Logic_Rig::cAnd + 1);
     QTRY_COMPARE(mCanvas->selectedBlocks(), QList<QUuid>{other});
     mCanvas->select({mBlocks[0], other});
