@@ -96,8 +96,8 @@ FB_Dev_Properties_Page::FB_Dev_Properties_Page(Project_Session& session, App_Set
   layout->setSpacing(cSmallGap);
   layout->addSpacing(cSmallGap);
   layout->addLayout(heading);
-  layout->addWidget(mNotice);
   layout->addWidget(mTree, 1);
+  layout->addWidget(mNotice); // below, so that no row moves under the mouse
   buildButtons(*layout);
   buildGeneral();
   connectGeneral();
@@ -106,6 +106,8 @@ FB_Dev_Properties_Page::FB_Dev_Properties_Page(Project_Session& session, App_Set
   connect(&session.state(), &Session_State::operatingModeChanged, this, &FB_Dev_Properties_Page::refresh);
   // The controllers are no record of a page.
   connect(&session.history(), &History::changed, this, &FB_Dev_Properties_Page::showController);
+  // What was told of an edit is no longer true.
+  connect(&session.history(), &History::stepApplied, this, [this] { setNotice({}); });
   connect(&session, &Project_Session::closed, this, &FB_Dev_Properties_Page::clear);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     if (mMergeField && now != mMergeField) {
