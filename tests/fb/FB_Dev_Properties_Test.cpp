@@ -11,6 +11,7 @@
 #include "fb/properties/FB_Property_Row.h"
 #include "tests/fb/Logic_Rig.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -132,7 +133,12 @@ private slots:
     QCOMPARE(warning("400"), QString());
     QSignalSpy told(mPanel.get(), &FB_Dev_Properties_Page::statusText);
     QCOMPARE(warning("2\r"), QString());
-    QVERIFY(told.value(0).value(0).toString().startsWith(QStringLiteral("Eingang 3 und Eingang 4 haben")));
+    const QString notice = told.value(0).value(0).toString();
+    QVERIFY2(notice.startsWith(QStringLiteral("Eingang 3 und Eingang 4 haben")), qPrintable(notice));
+    const QList<QLabel*> labels = mPanel->findChildren<QLabel*>();
+    const auto label = std::ranges::find(labels, notice, &QLabel::text);
+    QVERIFY(label != labels.end() && (*label)->isVisible());
+    QVERIFY(mRig->history().undo() && !(*label)->isVisible());
     mRig->mSession.database().mFbPages.changeChild(mBlocks[0], [](DB_FB_Control& block) {
       block.mParams[0] = QStringLiteral("2000");
       FB_Pins::rebuild(block);
@@ -176,6 +182,10 @@ private slots:
     QCOMPARE(invert->text(), QStringLiteral("verschieden"));
     QTest::mouseClick(invert, Qt::LeftButton, Qt::NoModifier, QPoint(6, invert->height() / 2));
     QCOMPARE(mRig->block(mBlocks[1]).mParams.at(1), QStringLiteral("1"));
+    mRig->mSession.database().mFbPages.changeChild(
+        mBlocks[2], [](DB_FB_Control& block) { block.mParams[1] = QStringLiteral("x"); });
+    mCanvas->select({mBlocks[2]});
+    QCOMPARE(rowOf(*invert).fault(), QStringLiteral("\"x\" ist weder Ein noch Aus"));
     const QUuid other = mRig->add(Logic_Rig::cAnd + 1);
     QTRY_COMPARE(mCanvas->selectedBlocks(), QList<QUuid>{other});
     mCanvas->select({mBlocks[0], other});
