@@ -118,7 +118,7 @@ Address_Usage::Use_Text Address_Usage::text(const ProjectDatabase& database, con
     return {};
   }
   const QString type = blockType ? blockType(block->mType) : QString();
-  return {page->mCaption, firstOf(block->mTitle, block->mName, type.isEmpty() ? tr("Baustein") : type),
+  return {page->mCaption, firstOf(block->ownTitle(), block->mName, type.isEmpty() ? tr("Baustein") : type),
           placeText(*block, use)};
 }
 

@@ -42,6 +42,9 @@ struct DB_Modbus_Register {
 class DB_FB_Control : public DB_Record<DB_FB_Control> {
 public:
   void fields(DB_Fields& fields) override;
+  /// What stands above the block instead of its type's name: the comment where that is the heading, else the title of
+  /// its own; empty for neither.
+  [[nodiscard]] const QString& ownTitle() const { return mCommentAsCaption && !mComment.isEmpty() ? mComment : mTitle; }
 
   QUuid mGuid;
   QUuid mPageGuid; ///< the logic page it belongs to

@@ -39,7 +39,7 @@ Page_Content_Model::Rows Page_Content_Model::rowsOf(const ProjectDatabase& datab
   Rows rows;
   if (const DB_FB_Page* const logicPage = database.mFbPages.page(page)) {
     for (const auto& block : logicPage->mChildren) {
-      const QString name = block->mTitle.isEmpty() ? block->mName : block->mTitle;
+      const QString name = block->ownTitle().isEmpty() ? block->mName : block->ownTitle();
       rows.push_back({block->mGuid, blockType(block->mType), name.simplified(),
                       static_cast<int>(std::lround(block->mX)), static_cast<int>(std::lround(block->mY)),
                       bindingsOf(*block), block->mComment.simplified()});

@@ -75,7 +75,13 @@ private:
       return;
     }
     block->mPageGuid = page.mGuid;
-    block->mTitle = from.value("title"_L1).toString();
+    const QString title = from.value("title"_L1).toString();
+    if (block->mType == FB_Types::cComment) {
+      block->mTitle = title;
+    } else {
+      block->mComment = title;
+      block->mCommentAsCaption = !title.isEmpty();
+    }
     const QJsonArray parameters = from.value("params"_L1).toArray();
     for (int i = 0; i < parameters.size(); ++i) {
       if (i >= block->mParams.size()) {

@@ -68,10 +68,7 @@ QString FB_Geometry::title(const DB_FB_Control& block) {
   if (block.mType == FB_Types::cComment && block.mOriginalType != 0) {
     return QCoreApplication::translate("FB_Geometry", "Unbekannter Funktionsbaustein");
   }
-  if (block.mCommentAsCaption && !block.mComment.isEmpty()) {
-    return block.mComment;
-  }
-  return block.mTitle.isEmpty() ? FB_Types::name(block.mType) : block.mTitle;
+  return block.ownTitle().isEmpty() ? FB_Types::name(block.mType) : block.ownTitle();
 }
 
 QStringList FB_Geometry::titleLines(const DB_FB_Control& block) {

@@ -91,7 +91,7 @@ FB_Variables::find(const ProjectDatabase& database,
 }
 
 QString FB_Variables::ownerName(const DB_FB_Control& block) {
-  for (const QString& name : {block.mTitle.simplified(), block.mName.simplified()}) {
+  for (const QString& name : {block.ownTitle().simplified(), block.mName.simplified()}) {
     if (!name.isEmpty()) {
       return name;
     }
