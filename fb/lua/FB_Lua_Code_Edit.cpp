@@ -11,6 +11,7 @@
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTimer>
 #include <QToolTip>
 
 #include <algorithm>
@@ -133,8 +134,15 @@ void FB_Lua_Code_Edit::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Enter:
     case Qt::Key_Return:
-    case Qt::Key_Escape:
+      if (const QTextCursor cursor = textCursor();
+          mCompletion->current() == FB_Lua_Text_Edits::wordBefore(cursor.block().text(), cursor.positionInBlock())) {
+        mCompletion->popup()->hide(); // nothing is left to complete: "end" and Return is a new line
+        break;
+      }
       event->ignore(); // the list's own
+      return;
+    case Qt::Key_Escape:
+      event->ignore();
       return;
     default:
       break;
@@ -190,7 +198,10 @@ void FB_Lua_Code_Edit::offerCompletion(bool isAsked) {
   const QString prefix = FB_Lua_Text_Edits::wordBefore(line, cursor.positionInBlock());
   const bool isWordGoingOn =
       cursor.positionInBlock() < line.size() && FB_Lua_Text_Edits::isOfWord(line[cursor.positionInBlock()]);
-  const bool isTyped = prefix.size() >= cOfferFrom && !prefix[0].isDigit() && !isWordGoingOn;
+  // Where a comment or a string is written, Return must not take a word of the language.
+  const bool isTyped = prefix.size() >= cOfferFrom && !prefix[0].isDigit() && !isWordGoingOn &&
+                       FB_Lua_Text_Edits::isCode(line, cursor.positionInBlock()) &&
+                       !FB_Lua_Script_Highlight::isInsideComment(cursor.block());
   if (isReadOnly() || !(isAsked || isTyped)) {
     mCompletion->popup()->hide();
     return;
@@ -216,7 +227,7 @@ void FB_Lua_Code_Edit::complete(const QString& word) {
   }
   setTextCursor(cursor);
   if (function) {
-    showCallTip();
+    QTimer::singleShot(0, this, &FB_Lua_Code_Edit::showCallTip); // the closing list would take the tip with it
   }
 }
 

@@ -103,8 +103,9 @@ QTextDocument::FindFlags FB_Lua_Find_Bar::flags() const {
 }
 
 bool FB_Lua_Find_Bar::isMatch(const QTextCursor& cursor) const {
-  return cursor.hasSelection() && cursor.selectedText().compare(
-                                      mText->text(), mCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive) == 0;
+  const QTextCursor found = mEdit.document()->find(mText->text(), cursor.selectionStart(), flags());
+  return cursor.hasSelection() && found.selectionStart() == cursor.selectionStart() &&
+         found.selectionEnd() == cursor.selectionEnd();
 }
 
 void FB_Lua_Find_Bar::find(bool isBackward) {

@@ -107,6 +107,42 @@ private slots:
     QCOMPARE(mEdit->textCursor().position(), 16);
   }
 
+  void returnCompletesNothing_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("whole word") << "end"; // there is sys_send_mail too
+    QTest::newRow("comment") << "-- Licht an";
+    QTest::newRow("string") << "x = \"Licht an";
+    QTest::newRow("block comment") << "--[[\rLicht an";
+  }
+  void returnCompletesNothing() {
+    QFETCH(QString, typed);
+    QTest::keyClicks(mEdit, typed);
+    QTest::keyClick(mEdit, Qt::Key_Return);
+    QCOMPARE(mEditor->script(), typed.replace(u'\r', u'\n') + u'\n');
+  }
+
+  /// Deleted beside the window: what was typed waits there for the undo; a saved text closes with its block.
+  void typedTextOutlivesItsBlock() {
+    const QPointer<FB_Lua_Script_Editor> window = mEditor;
+    const auto remove = [this] { return FB_Page_Edits::remove(mRig->mSession, {mBlock}); };
+    mEdit->replaceAll("x = 1");
+    QVERIFY(remove());
+    mRig->history().commit();
+    QCoreApplication::processEvents();
+    QVERIFY(window && window->isVisible() && window->isWindowModified());
+    bool isAsked = false;
+    pressSoon("Nein", &isAsked);
+    QVERIFY(!mEditors->finishAll());
+    QVERIFY(isAsked);
+    QVERIFY(mRig->history().undo());
+    QCoreApplication::processEvents();
+    mEditor->onSave();
+    QCOMPARE(stored(), QStringLiteral("x = 1"));
+    mRig->history().commit();
+    QVERIFY(remove());
+    QTRY_VERIFY(!window);
+  }
+
   void operatingModeOnlyShows() {
     mRig->mState.setOperatingMode(true);
     QTest::keyClicks(mEdit, "x");
