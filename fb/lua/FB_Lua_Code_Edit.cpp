@@ -23,6 +23,7 @@ constexpr int cNormalZoom = 10;
 constexpr int cLeastZoom = 5;
 constexpr int cMostZoom = 30;
 constexpr int cOfferFrom = 2; // letters of a word
+constexpr int cTipMs = 120;
 
 QFont codeFont(int zoom) {
   QFont font(
@@ -227,7 +228,7 @@ void FB_Lua_Code_Edit::complete(const QString& word) {
   }
   setTextCursor(cursor);
   if (function) {
-    QTimer::singleShot(0, this, &FB_Lua_Code_Edit::showCallTip); // the closing list would take the tip with it
+    showCallTip();
   }
 }
 
@@ -237,7 +238,10 @@ void FB_Lua_Code_Edit::showCallTip() {
   const QString name = FB_Lua_Text_Edits::wordBefore(cursor.block().text(), cursor.positionInBlock() - 1);
   const QString tip = FB_Lua_Functions::toolTip(name);
   if (!tip.isEmpty()) {
-    QToolTip::showText(viewport()->mapToGlobal(cursorRect().bottomLeft()), tip, viewport());
+    // A list that closes takes tips with it when the pointer leaves it, which is told a moment later.
+    QTimer::singleShot(cTipMs, this, [this, tip] {
+      QToolTip::showText(viewport()->mapToGlobal(cursorRect().bottomLeft()), tip, viewport());
+    });
   }
 }
 
