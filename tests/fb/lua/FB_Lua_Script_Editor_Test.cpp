@@ -2,6 +2,7 @@
 #include "fb/FB_Block_Editors.h"
 #include "fb/lua/FB_Lua_Code_Edit.h"
 #include "fb/lua/FB_Lua_Completion.h"
+#include "fb/lua/FB_Lua_Find_Bar.h"
 #include "fb/lua/FB_Lua_Script_Editor.h"
 #include "tests/fb/Logic_Rig.h"
 #include "ui/Theme.h"
@@ -11,6 +12,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDateTime>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
@@ -119,6 +122,24 @@ private slots:
     QTest::keyClicks(mEdit, typed);
     QTest::keyClick(mEdit, Qt::Key_Return);
     QCOMPARE(mEditor->script(), typed.replace(u'\r', u'\n') + u'\n');
+  }
+
+  void findsWhatIsThereNow() {
+    auto* const bar = mEditor->findChild<FB_Lua_Find_Bar*>();
+    const auto isShown = [bar](const QString& count) {
+      const auto labels = bar->findChildren<QLabel*>();
+      return std::ranges::any_of(labels, [&count](const QLabel* label) { return label->text() == count; });
+    };
+    mEdit->replaceAll("ab\nabc\nab");
+    bar->bringUp(true);
+    bar->findChild<QLineEdit*>("mFind")->setText("ab");
+    QVERIFY(isShown("3 Stellen"));
+    mEdit->replaceAll("ab");
+    QTRY_VERIFY(isShown("1 Stelle"));
+    bar->findChild<QLineEdit*>("mReplacement")->setText("abab");
+    bar->replaceAll();
+    QCOMPARE(mEditor->script(), QStringLiteral("abab")); // once
+    QVERIFY(isShown("1 ersetzt"));
   }
 
   /// Deleted beside the window: what was typed waits there for the undo; a saved text closes with its block.
