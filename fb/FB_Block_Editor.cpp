@@ -1,6 +1,7 @@
 #include "fb/FB_Block_Editor.h"
 
 #include "db/Project_Session.h"
+#include "ui/Message_Box.h"
 
 #include <QCloseEvent>
 
@@ -17,5 +18,15 @@ const DB_FB_Control* FB_Block_Editor::record() const {
 }
 
 void FB_Block_Editor::closeEvent(QCloseEvent* event) {
-  event->setAccepted(!record() || finish());
+  event->setAccepted(!mSession.isOpen() || finish());
+}
+
+QString FB_Block_Editor::goneText() {
+  return tr(
+      "Den Baustein gibt es nicht mehr. \"Rückgängig\" bringt ihn zurück; bis dahin bleibt hier, was getippt wurde.");
+}
+
+bool FB_Block_Editor::mayDiscard() {
+  raise();
+  return Message_Box::askYesNo(this, tr("Den Baustein gibt es nicht mehr. Verwerfen, was für ihn getippt wurde?"));
 }

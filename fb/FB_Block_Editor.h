@@ -8,7 +8,8 @@ class DB_FB_Control;
 class Project_Session;
 
 /// A window of its own in which one block is edited: its script, its table of registers. It stays open beside the work
-/// and closes when the block or the project is gone. Session and settings outlive it.
+/// and closes when the project or the block is gone; with something typed that the project does not have it stays open
+/// without its block, which undo may bring back. Session and settings outlive it.
 class FB_Block_Editor : public QMainWindow {
   Q_OBJECT
 
@@ -16,9 +17,11 @@ public:
   FB_Block_Editor(Project_Session& session, App_Settings& settings, const QUuid& block, QWidget* parent);
 
   [[nodiscard]] QUuid block() const { return mBlock; }
+  /// Whether something was typed that the project does not have.
+  [[nodiscard]] virtual bool isUnsaved() const { return false; }
   /// Hands what was typed to the project, or asks whether to. False when the user wants to go on editing.
   [[nodiscard]] virtual bool finish() = 0;
-  /// The records of the project changed, perhaps that of the block; it is still there.
+  /// The records of the project changed, perhaps that of the block; it is there unless something is unsaved.
   virtual void follow() = 0;
 
 signals:
@@ -33,7 +36,11 @@ protected:
   /// Null when it is gone.
   [[nodiscard]] const DB_FB_Control* record() const;
 
-  /// Asks `finish`.
+  /// What a window says that stays open without its block.
+  [[nodiscard]] static QString goneText();
+  /// Asks whether to throw away what was typed for a block that is gone.
+  [[nodiscard]] bool mayDiscard();
+  /// Asks `finish`, unless the project is closed.
   void closeEvent(QCloseEvent* event) override;
 
 private:

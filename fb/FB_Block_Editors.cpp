@@ -89,7 +89,8 @@ void FB_Block_Editors::follow() {
   for (auto it = open.begin(); it != open.end(); ++it) {
     if (!it.value()) {
       mOpen.remove(it.key());
-    } else if (std::as_const(mSession).database().mFbPages.child(it.key())) {
+    } else if (std::as_const(mSession).database().mFbPages.child(it.key()) ||
+               (mSession.isOpen() && it.value()->isUnsaved())) {
       it.value()->follow();
     } else {
       it.value()->close();

@@ -30,7 +30,7 @@ signals:
   void statusText(const QString& text);
 
 private:
-  /// Closes those whose block is gone, and tells the others.
+  /// Closes those whose block is gone and that hold nothing unsaved, and tells the others.
   void follow();
 
   Project_Session& mSession;

@@ -174,19 +174,20 @@ int FB_Formula_Editor::decimals() const {
   return isNumber ? static_cast<int>(std::clamp(count, -1.0, 6.0)) : -1;
 }
 
-bool FB_Formula_Editor::isModified() const {
+bool FB_Formula_Editor::isUnsaved() const {
   return mEdit->toPlainText() != mStored;
 }
 
 void FB_Formula_Editor::follow() {
   const DB_FB_Control* const block = record();
   if (!block) {
+    update();
     return;
   }
   setWindowTitle(tr("%1 - Formel bearbeiten").arg(FB_Geometry::title(*block).simplified()) + QStringLiteral("[*]"));
   const QString now = stored();
   if (now != mStored) {
-    const bool wasModified = isModified();
+    const bool wasModified = isUnsaved();
     mStored = now;
     if (!wasModified) {
       mEdit->setPlainText(now);
@@ -204,7 +205,10 @@ void FB_Formula_Editor::update() {
   mFaultIcon->setPixmap(icon.pixmap(cIconSize));
   mFault->setText(fault ? tr("Zeichen %1: %2").arg(QString::number(fault.mAt + 1), fault.mText)
                         : tr("Die Formel ist in Ordnung."));
-  Theme::setTextRole(*mFault, fault ? Theme::Role::ErrorText : Theme::Role::Ok);
+  if (!record()) {
+    mFault->setText(goneText());
+  }
+  Theme::setTextRole(*mFault, fault || !record() ? Theme::Role::ErrorText : Theme::Role::Ok);
 
   const FB_Formula_Language::Result result = FB_Formula_Language::evaluate(formula, mInputs->values());
   const double number = FB_Formula_Language::rounded(result.mNumber.value_or(0), decimals());
@@ -212,8 +216,8 @@ void FB_Formula_Editor::update() {
   mBit->setText(!result.mNumber ? QStringLiteral("–") : number != 0 ? QStringLiteral("1") : QStringLiteral("0"));
   mError->setText(result.mNumber ? QStringLiteral("0") : fault ? QStringLiteral("1") : tr("1: %1").arg(result.mError));
   Theme::setTextRole(*mError, result.mNumber ? Theme::Role::Text : Theme::Role::ErrorText);
-  setWindowModified(isModified());
-  mApply->setEnabled(isModified() && !session().state().operatingMode());
+  setWindowModified(isUnsaved());
+  mApply->setEnabled(isUnsaved() && record() && !session().state().operatingMode());
 }
 
 void FB_Formula_Editor::updateMode() {
@@ -222,7 +226,7 @@ void FB_Formula_Editor::updateMode() {
 }
 
 bool FB_Formula_Editor::apply() {
-  if (!isModified()) {
+  if (!isUnsaved()) {
     return true;
   }
   const QString formula = mEdit->toPlainText();
@@ -242,8 +246,11 @@ bool FB_Formula_Editor::apply() {
 }
 
 bool FB_Formula_Editor::finish() {
-  if (!isModified()) {
+  if (!isUnsaved()) {
     return true;
+  }
+  if (!record()) {
+    return mayDiscard();
   }
   const FB_Formula_Language::Fault fault = FB_Formula_Language::check(mEdit->toPlainText(), inputs());
   const bool isRefused = session().state().operatingMode();

@@ -17,6 +17,7 @@ public:
   FB_Formula_Editor(Project_Session& session, App_Settings& settings, const QUuid& block, QWidget* parent);
   ~FB_Formula_Editor() override;
 
+  [[nodiscard]] bool isUnsaved() const override;
   [[nodiscard]] bool finish() override;
   void follow() override;
 
@@ -26,7 +27,6 @@ private:
   /// The text is checked and computed anew.
   void update();
   void updateMode();
-  [[nodiscard]] bool isModified() const;
   /// False when the project refuses it or the user wants to mend it.
   bool apply();
   [[nodiscard]] QString stored() const;

@@ -11,6 +11,7 @@
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTimer>
 #include <QToolTip>
 
 #include <algorithm>
@@ -22,6 +23,7 @@ constexpr int cNormalZoom = 10;
 constexpr int cLeastZoom = 5;
 constexpr int cMostZoom = 30;
 constexpr int cOfferFrom = 2; // letters of a word
+constexpr int cTipMs = 120;
 
 QFont codeFont(int zoom) {
   QFont font(
@@ -133,8 +135,15 @@ void FB_Lua_Code_Edit::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Enter:
     case Qt::Key_Return:
-    case Qt::Key_Escape:
+      if (const QTextCursor cursor = textCursor();
+          mCompletion->current() == FB_Lua_Text_Edits::wordBefore(cursor.block().text(), cursor.positionInBlock())) {
+        mCompletion->popup()->hide(); // nothing is left to complete: "end" and Return is a new line
+        break;
+      }
       event->ignore(); // the list's own
+      return;
+    case Qt::Key_Escape:
+      event->ignore();
       return;
     default:
       break;
@@ -190,7 +199,10 @@ void FB_Lua_Code_Edit::offerCompletion(bool isAsked) {
   const QString prefix = FB_Lua_Text_Edits::wordBefore(line, cursor.positionInBlock());
   const bool isWordGoingOn =
       cursor.positionInBlock() < line.size() && FB_Lua_Text_Edits::isOfWord(line[cursor.positionInBlock()]);
-  const bool isTyped = prefix.size() >= cOfferFrom && !prefix[0].isDigit() && !isWordGoingOn;
+  // Where a comment or a string is written, Return must not take a word of the language.
+  const bool isTyped = prefix.size() >= cOfferFrom && !prefix[0].isDigit() && !isWordGoingOn &&
+                       FB_Lua_Text_Edits::isCode(line, cursor.positionInBlock()) &&
+                       !FB_Lua_Script_Highlight::isInsideComment(cursor.block());
   if (isReadOnly() || !(isAsked || isTyped)) {
     mCompletion->popup()->hide();
     return;
@@ -226,7 +238,10 @@ void FB_Lua_Code_Edit::showCallTip() {
   const QString name = FB_Lua_Text_Edits::wordBefore(cursor.block().text(), cursor.positionInBlock() - 1);
   const QString tip = FB_Lua_Functions::toolTip(name);
   if (!tip.isEmpty()) {
-    QToolTip::showText(viewport()->mapToGlobal(cursorRect().bottomLeft()), tip, viewport());
+    // A list that closes takes tips with it when the pointer leaves it, which is told a moment later.
+    QTimer::singleShot(cTipMs, this, [this, tip] {
+      QToolTip::showText(viewport()->mapToGlobal(cursorRect().bottomLeft()), tip, viewport());
+    });
   }
 }
 

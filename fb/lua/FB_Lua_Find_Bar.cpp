@@ -19,6 +19,7 @@ constexpr int cMostMarks = 1'000;
 constexpr int cMargin = 8;
 constexpr int cGap = 4;
 constexpr int cCountWidth = 110;
+constexpr int cPauseMs = 200; // of typing in the script, before what is found there is counted anew
 
 QLineEdit* makeField(const QString& name, const QString& placeholder) {
   auto* const field = new QLineEdit;
@@ -75,6 +76,10 @@ FB_Lua_Find_Bar::FB_Lua_Find_Bar(FB_Lua_Code_Edit& edit, QWidget* parent)
     mReplace->setEnabled(canReplace);
     mReplaceAll->setEnabled(canReplace);
   });
+  mLater.setSingleShot(true);
+  mLater.setInterval(cPauseMs);
+  connect(&mEdit, &QPlainTextEdit::textChanged, &mLater, qOverload<>(&QTimer::start));
+  connect(&mLater, &QTimer::timeout, this, &FB_Lua_Find_Bar::refresh);
   connect(previous, &QPushButton::clicked, this, &FB_Lua_Find_Bar::findPrevious);
   connect(next, &QPushButton::clicked, this, &FB_Lua_Find_Bar::findNext);
   connect(mReplace, &QPushButton::clicked, this, &FB_Lua_Find_Bar::replaceOne);
@@ -103,8 +108,9 @@ QTextDocument::FindFlags FB_Lua_Find_Bar::flags() const {
 }
 
 bool FB_Lua_Find_Bar::isMatch(const QTextCursor& cursor) const {
-  return cursor.hasSelection() && cursor.selectedText().compare(
-                                      mText->text(), mCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive) == 0;
+  const QTextCursor found = mEdit.document()->find(mText->text(), cursor.selectionStart(), flags());
+  return cursor.hasSelection() && found.selectionStart() == cursor.selectionStart() &&
+         found.selectionEnd() == cursor.selectionEnd();
 }
 
 void FB_Lua_Find_Bar::find(bool isBackward) {
@@ -164,9 +170,13 @@ void FB_Lua_Find_Bar::replaceAll() {
 
 /// Marks what is found; so many that nobody looks at them are only counted.
 void FB_Lua_Find_Bar::refresh() {
+  mLater.stop();
+  if (!isVisible()) {
+    return;
+  }
   QList<QTextCursor> marks;
   const QString text = mText->text();
-  if (!text.isEmpty() && isVisible()) {
+  if (!text.isEmpty()) {
     for (QTextCursor found = mEdit.document()->find(text, 0, flags()); !found.isNull() && marks.size() < cMostMarks;
          found = mEdit.document()->find(text, found, flags())) {
       marks.append(found);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTextDocument>
+#include <QTimer>
 #include <QWidget>
 
 class FB_Lua_Code_Edit;
@@ -43,4 +44,5 @@ private:
   QPushButton* mReplace;
   QPushButton* mReplaceAll;
   QWidget* mReplaceRow;
+  QTimer mLater;
 };

@@ -25,6 +25,7 @@ public:
   FB_Lua_Script_Editor(Project_Session& session, App_Settings& settings, const QUuid& block, QWidget* parent);
   ~FB_Lua_Script_Editor() override;
 
+  [[nodiscard]] bool isUnsaved() const override;
   [[nodiscard]] bool finish() override;
   void follow() override;
 
@@ -64,7 +65,6 @@ private:
   void showCheck();
   void showProjectText();
   void updateState();
-  [[nodiscard]] bool isUnsaved() const;
   [[nodiscard]] QString blockName() const;
   [[nodiscard]] QString storedScript() const;
 
@@ -79,7 +79,8 @@ private:
   QAction* mSave = nullptr;
   QAction* mImport = nullptr;
   QPushButton* mCommands = nullptr;
-  QString mStored; ///< the project's script as it was last seen
+  QString mStored;      ///< the project's script as it was last seen
+  bool mIsGone = false; ///< the block, when this was told last
   FB_Lua_Check::Result mCheck;
   QTimer mCheckTimer;
   QTimer mKeepAlive;

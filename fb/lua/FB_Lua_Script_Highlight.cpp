@@ -4,6 +4,7 @@
 #include "ui/Theme.h"
 
 #include <QFontDatabase>
+#include <QTextBlock>
 
 namespace {
 
@@ -41,6 +42,10 @@ FB_Lua_Script_Highlight::FB_Lua_Script_Highlight(QTextDocument* document)
   };
   add(FB_Lua_Functions::keywords(), mKeywords);
   add(FB_Lua_Functions::highlighted(), mFunctions);
+}
+
+bool FB_Lua_Script_Highlight::isInsideComment(const QTextBlock& block) {
+  return block.previous().userState() == cInsideComment;
 }
 
 void FB_Lua_Script_Highlight::highlightBlock(const QString& text) {

@@ -13,6 +13,9 @@ class FB_Lua_Script_Highlight : public QSyntaxHighlighter {
 public:
   explicit FB_Lua_Script_Highlight(QTextDocument* document);
 
+  /// Whether the block begins inside of a comment over several lines.
+  [[nodiscard]] static bool isInsideComment(const QTextBlock& block);
+
 protected:
   void highlightBlock(const QString& text) override;
 

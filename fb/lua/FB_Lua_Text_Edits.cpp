@@ -212,6 +212,11 @@ std::optional<int> FB_Lua_Text_Edits::partner(const QTextDocument& document, int
   return std::nullopt;
 }
 
+bool FB_Lua_Text_Edits::isCode(const QString& line, qsizetype position) {
+  const QString before = line.first(position);
+  return before.isEmpty() || codeOf(before).back() == before.back();
+}
+
 bool FB_Lua_Text_Edits::isOfWord(QChar c) {
   return c.isLetterOrNumber() || c == u'_';
 }

@@ -27,5 +27,7 @@ void alignClosing(QTextCursor& cursor);
 /// The part of it in front of the position.
 [[nodiscard]] QString wordBefore(const QString& line, qsizetype position);
 [[nodiscard]] bool isOfWord(QChar c);
+/// Whether what stands in front of the position is neither comment nor string, as far as its line tells.
+[[nodiscard]] bool isCode(const QString& line, qsizetype position);
 
 } // namespace FB_Lua_Text_Edits

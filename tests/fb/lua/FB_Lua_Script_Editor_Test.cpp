@@ -2,6 +2,7 @@
 #include "fb/FB_Block_Editors.h"
 #include "fb/lua/FB_Lua_Code_Edit.h"
 #include "fb/lua/FB_Lua_Completion.h"
+#include "fb/lua/FB_Lua_Find_Bar.h"
 #include "fb/lua/FB_Lua_Script_Editor.h"
 #include "tests/fb/Logic_Rig.h"
 #include "ui/Theme.h"
@@ -11,6 +12,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDateTime>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
@@ -105,6 +108,60 @@ private slots:
     QTest::keyClick(mEdit, Qt::Key_Tab);
     QCOMPARE(mEditor->script(), QStringLiteral("sys_timer_start()"));
     QCOMPARE(mEdit->textCursor().position(), 16);
+  }
+
+  void returnCompletesNothing_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("whole word") << "end"; // there is sys_send_mail too
+    QTest::newRow("comment") << "-- Licht an";
+    QTest::newRow("string") << "x = \"Licht an";
+    QTest::newRow("block comment") << "--[[\rLicht an";
+  }
+  void returnCompletesNothing() {
+    QFETCH(QString, typed);
+    QTest::keyClicks(mEdit, typed);
+    QTest::keyClick(mEdit, Qt::Key_Return);
+    QCOMPARE(mEditor->script(), typed.replace(u'\r', u'\n') + u'\n');
+  }
+
+  void findsWhatIsThereNow() {
+    auto* const bar = mEditor->findChild<FB_Lua_Find_Bar*>();
+    const auto isShown = [bar](const QString& count) {
+      const auto labels = bar->findChildren<QLabel*>();
+      return std::ranges::any_of(labels, [&count](const QLabel* label) { return label->text() == count; });
+    };
+    mEdit->replaceAll("ab\nabc\nab");
+    bar->bringUp(true);
+    bar->findChild<QLineEdit*>("mFind")->setText("ab");
+    QVERIFY(isShown("3 Stellen"));
+    mEdit->replaceAll("ab");
+    QTRY_VERIFY(isShown("1 Stelle"));
+    bar->findChild<QLineEdit*>("mReplacement")->setText("abab");
+    bar->replaceAll();
+    QCOMPARE(mEditor->script(), QStringLiteral("abab")); // once
+    QVERIFY(isShown("1 ersetzt"));
+  }
+
+  /// Deleted beside the window: what was typed waits there for the undo; a saved text closes with its block.
+  void typedTextOutlivesItsBlock() {
+    const QPointer<FB_Lua_Script_Editor> window = mEditor;
+    const auto remove = [this] { return FB_Page_Edits::remove(mRig->mSession, {mBlock}); };
+    mEdit->replaceAll("x = 1");
+    QVERIFY(remove());
+    mRig->history().commit();
+    QCoreApplication::processEvents();
+    QVERIFY(window && window->isVisible() && window->isWindowModified());
+    bool isAsked = false;
+    pressSoon("Nein", &isAsked);
+    QVERIFY(!mEditors->finishAll());
+    QVERIFY(isAsked);
+    QVERIFY(mRig->history().undo());
+    QCoreApplication::processEvents();
+    mEditor->onSave();
+    QCOMPARE(stored(), QStringLiteral("x = 1"));
+    mRig->history().commit();
+    QVERIFY(remove());
+    QTRY_VERIFY(!window);
   }
 
   void operatingModeOnlyShows() {
