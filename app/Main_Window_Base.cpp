@@ -86,6 +86,9 @@ void Main_Window_Base::buildTabs() {
   mTabs->setObjectName(QStringLiteral("ui:mTabs"));
   mTabs->setTabPosition(QTabWidget::South);
   mTabs->setMovable(true);
+  // An address is dragged from the one tab to the properties in the other.
+  mTabs->tabBar()->setAcceptDrops(true);
+  mTabs->tabBar()->setChangeCurrentOnDrag(true);
   mTabs->setMinimumWidth(cLeastCharacters * mTabs->fontMetrics().averageCharWidth());
   mTabs->tabBar()->setAccessibleName(tr("Navigation und Variablen"));
   mPageView = new Page_View(mSession, mTabs);
