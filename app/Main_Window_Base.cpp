@@ -30,6 +30,7 @@ constexpr int cDefaultHeight = 800;
 constexpr int cFirstStretch = 3;
 constexpr int cSecondStretch = 2;
 constexpr int cInfoMs = 8000;
+constexpr int cLeastCharacters = 48; ///< beside the page: names and fields of the properties side by side
 
 } // namespace
 
@@ -85,6 +86,10 @@ void Main_Window_Base::buildTabs() {
   mTabs->setObjectName(QStringLiteral("ui:mTabs"));
   mTabs->setTabPosition(QTabWidget::South);
   mTabs->setMovable(true);
+  // An address is dragged from the one tab to the properties in the other.
+  mTabs->tabBar()->setAcceptDrops(true);
+  mTabs->tabBar()->setChangeCurrentOnDrag(true);
+  mTabs->setMinimumWidth(cLeastCharacters * mTabs->fontMetrics().averageCharWidth());
   mTabs->tabBar()->setAccessibleName(tr("Navigation und Variablen"));
   mPageView = new Page_View(mSession, mTabs);
   mPageView->setObjectName(QStringLiteral("Navigation"));

@@ -40,6 +40,8 @@ Page_View::Page_View(Project_Session& session, QWidget* parent)
   mSplitter->addWidget(mTreeOrHint);
   mPanels->setDocumentMode(true);
   mPanels->tabBar()->setAccessibleName(tr("Bausteine und Eigenschaften"));
+  mPanels->tabBar()->setAcceptDrops(true);
+  mPanels->tabBar()->setChangeCurrentOnDrag(true);
   mPanels->addTab(mDetails, tr("Seite"));
   mPanels->tabBar()->setAutoHide(true);
   mSplitter->addWidget(mPanels);
