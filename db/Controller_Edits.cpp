@@ -60,13 +60,13 @@ QString nameFault(const QString& name) {
 
 QString addressFault(const QString& address) {
   if (address.trimmed().isEmpty()) {
-    return tr("Eine Steuerung braucht eine Adresse: IP-Adresse oder Rechnername, bei Bedarf mit „:“ und Port.");
+    return tr("Eine Steuerung braucht eine Adresse: IP-Adresse oder Rechnername, bei Bedarf mit \":\" und Port.");
   }
-  return Controller_Edits::isAddress(address.trimmed())
-             ? QString()
-             : tr("„%1“ ist keine Adresse. Erlaubt sind IP-Adresse oder Rechnername, bei Bedarf mit „:“ und einem Port "
-                  "von 1 bis 65535.")
-                   .arg(address);
+  return Controller_Edits::isAddress(address.trimmed()) ? QString()
+                                                        : tr("\"%1\" ist keine Adresse. Erlaubt sind IP-Adresse oder "
+                                                             "Rechnername, bei Bedarf mit \":\" und einem Port "
+                                                             "von 1 bis 65535.")
+                                                              .arg(address);
 }
 
 QString mainFault(qsizetype count, const DB_Controller& controller, bool isFirst) {

@@ -36,6 +36,10 @@ protected:
   /// Null when it is gone.
   [[nodiscard]] const DB_FB_Control* record() const;
 
+  /// Names the window after the block, its page and what is edited there: "Zuluft (Technik) – Formel", with the mark of
+  /// what is not handed over yet.
+  void showTitle(const QString& what);
+
   /// What a window says that stays open without its block.
   [[nodiscard]] static QString goneText();
   /// Asks whether to throw away what was typed for a block that is gone.

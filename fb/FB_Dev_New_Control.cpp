@@ -138,7 +138,7 @@ void FB_Dev_New_Control::onSearchStart() {
   } else {
     mTree->expandAll();
   }
-  mHint->setText(tr("Kein Baustein und keine Kategorie enthält „%1“.").arg(search.text()));
+  mHint->setText(tr("Kein Baustein und keine Kategorie enthält \"%1\".").arg(search.text()));
   mTreeOrHint->setCurrentIndex(isFound ? 0 : 1);
 }
 

@@ -50,8 +50,8 @@ void FB_Page_List_Commands::onRemove(const QUuid& page) {
   const DB_FB_Page& record = *mSession.database().mFbPages.page(page);
   const qsizetype count = record.mChildren.size();
   const QString question =
-      count == 1 ? tr("Seite „%1“ mit 1 Baustein löschen?").arg(record.mCaption)
-                 : tr("Seite „%1“ mit %2 Bausteinen löschen?").arg(record.mCaption, QString::number(count));
+      count == 1 ? tr("Seite \"%1\" mit 1 Baustein löschen?").arg(record.mCaption)
+                 : tr("Seite \"%1\" mit %2 Bausteinen löschen?").arg(record.mCaption, QString::number(count));
   if (Message_Box::askYesNo(mWindow, question)) {
     tell(FB_Page_List_Edits::remove(mSession, page));
   }

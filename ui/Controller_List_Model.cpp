@@ -125,7 +125,7 @@ QVariant Controller_List_Model::headerData(int section, Qt::Orientation orientat
   case cName:
     return isTip ? tr("Name der Steuerung, 1 bis 255 Zeichen") : tr("Name");
   case cAddress:
-    return isTip ? tr("IP-Adresse oder Rechnername, bei Bedarf mit „:“ und Port") : tr("Adresse");
+    return isTip ? tr("IP-Adresse oder Rechnername, bei Bedarf mit \":\" und Port") : tr("Adresse");
   default:
     return isTip ? tr("Führt jede Seite aus, die keiner anderen Steuerung zugeordnet ist") : tr("Hauptsteuerung");
   }

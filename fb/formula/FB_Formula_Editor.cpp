@@ -6,7 +6,6 @@
 #include "fb/formula/FB_Formula_Edit.h"
 #include "fb/formula/FB_Formula_Inputs.h"
 #include "fb/formula/FB_Formula_List.h"
-#include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Page_Edits.h"
 #include "fb/model/FB_Types.h"
 #include "fb/model/families/FB_Formula_Declaration.h"
@@ -184,7 +183,7 @@ void FB_Formula_Editor::follow() {
     update();
     return;
   }
-  setWindowTitle(tr("%1 - Formel bearbeiten").arg(FB_Geometry::title(*block).simplified()) + QStringLiteral("[*]"));
+  showTitle(tr("Formel"));
   const QString now = stored();
   if (now != mStored) {
     const bool wasModified = isUnsaved();

@@ -25,7 +25,7 @@ QString pageStyle() {
                         "li { margin: 0px 0px 4px 0px; }"
                         "code, pre { font-family: 'Courier New', monospace; }"
                         "table { border-collapse: collapse; margin: 6px 0px 8px 0px; }"
-                        "th { text-align: left; background-color: %3; color: %1; }"
+                        "th { text-align: left; white-space: nowrap; background-color: %3; color: %1; }"
                         "td, th { padding: 4px 8px; border: 1px solid %4; }")
       .arg(colour(Role::SecondaryText), colour(Role::Link), colour(Role::Bar), colour(Role::Border));
 }

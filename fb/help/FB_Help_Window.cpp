@@ -208,7 +208,7 @@ void FB_Help_Window::onSearch(const QString& text) {
   const QString searched = text.simplified();
   const QList<FB_Help_Search::Hit> hits = mSearch.find(searched);
   mHits->setHits(hits);
-  mNone->setText(tr("Keine Seite der Hilfe enthält „%1“.").arg(searched));
+  mNone->setText(tr("Keine Seite der Hilfe enthält \"%1\".").arg(searched));
   if (searched.isEmpty()) {
     mLists->setCurrentWidget(mContents);
   } else if (hits.isEmpty()) {

@@ -7,6 +7,7 @@
 #include "fb/lua/FB_Lua_Notice.h"
 #include "fb/lua/FB_Lua_Script_Exchange.h"
 #include "fb/lua/FB_Lua_Trace_View.h"
+#include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Lua_Functions.h"
 #include "fb/model/FB_Page_Edits.h"
 #include "fb/model/FB_Types.h"
@@ -98,10 +99,7 @@ QString FB_Lua_Script_Editor::storedScript() const {
 
 QString FB_Lua_Script_Editor::blockName() const {
   const DB_FB_Control* const block = record();
-  if (!block) {
-    return {};
-  }
-  return block->mTitle.isEmpty() ? FB_Types::name(block->mType) : block->mTitle;
+  return block ? FB_Geometry::title(*block).simplified() : QString();
 }
 
 bool FB_Lua_Script_Editor::isUnsaved() const {

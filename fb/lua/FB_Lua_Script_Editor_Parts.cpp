@@ -109,11 +109,7 @@ void FB_Lua_Script_Editor::showCheck() {
 
 void FB_Lua_Script_Editor::updateState() {
   const bool isOperating = session().state().operatingMode();
-  const DB_FB_Page* const page = record() ? session().database().mFbPages.page(record()->mPageGuid) : nullptr;
-  const bool isNamed = page && !page->mCaption.isEmpty();
-  if (page) {
-    setWindowTitle(isNamed ? tr("%1 – %2[*]").arg(blockName(), page->mCaption) : tr("%1[*]").arg(blockName()));
-  }
+  showTitle(tr("Script"));
   setWindowModified(isUnsaved());
   const bool wasReadOnly = mEdit->isReadOnly();
   mEdit->setReadOnly(isOperating);

@@ -6,7 +6,6 @@
 #include "db/Project_Session.h"
 #include "fb/modbus/FB_Modbus_Delegate.h"
 #include "fb/modbus/FB_Modbus_Model.h"
-#include "fb/model/FB_Geometry.h"
 #include "ui/Empty_Hint.h"
 #include "ui/Filter_Edit.h"
 #include "ui/Theme.h"
@@ -189,8 +188,8 @@ void FB_Modbus_Register_Editor::update() {
 }
 
 void FB_Modbus_Register_Editor::follow() {
-  if (const DB_FB_Control* const block = record()) {
-    setWindowTitle(tr("%1 - Modbus Register").arg(FB_Geometry::title(*block).simplified()));
+  if (record()) {
+    showTitle(tr("Modbus Register"));
     QList<int> rows = selected();
     mModel->refresh();
     if (selected().isEmpty()) {
