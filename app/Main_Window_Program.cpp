@@ -77,10 +77,14 @@ void Main_Window_Dev::followSelection(FB_Page& page) {
   updateActions();
 }
 
-/// Undo and redo go to the page that they change, and select there what is there again.
+/// Undo and redo go to the page that they change, unless that is the shown one among others, and select there what is
+/// there again.
 void Main_Window_Dev::followStep(const std::vector<History::Applied>& records) {
+  const QUuid current = pageTabs().currentPage();
+  const auto isHere = [&current](const History::Applied& record) { return record.mPage == current; };
   const auto isOfPage = [](const History::Applied& record) { return !record.mPage.isNull(); };
-  const auto first = std::ranges::find_if(records, isOfPage);
+  const auto here = current.isNull() || !isProjectShown() ? records.end() : std::ranges::find_if(records, isHere);
+  const auto first = here != records.end() ? here : std::ranges::find_if(records, isOfPage);
   if (first == records.end() || !mSession.database().mFbPages.page(first->mPage)) {
     return;
   }

@@ -5,11 +5,13 @@
 #include "app/Project_Lifecycle.h"
 #include "app/Start_Page.h"
 #include "base/App_Settings.h"
+#include "db/Edit_Scope.h"
 #include "db/Project_Edits.h"
 #include "fb/FB_Block_Editors.h"
 #include "fb/FB_Page.h"
 #include "fb/help/FB_Help_Window.h"
 #include "fb/model/FB_Page_Edits.h"
+#include "fb/model/FB_Page_List_Edits.h"
 #include "tests/db/Session_Rig.h"
 #include "ui/Address_View.h"
 #include "ui/Message_Dialog.h"
@@ -280,6 +282,29 @@ private slots:
     QCOMPARE(page->pos(), QPoint()); // the place stays when Tab leaves
     emit page->typeUsagesRequested(50);
     QCOMPARE(rig.mWindow.findChild<Result_Dialog*>()->windowTitle(), u"Verwendungen: Baustein \"Und\""_s);
+  }
+
+  void undoOfSeveralPagesStaysOnTheShownOne() {
+    Window_Rig rig;
+    rig.show();
+    QVERIFY(rig.create());
+    const QUuid first = rig.mSession.database().mFbPages.pages().at(0).mGuid;
+    const auto made = FB_Page_List_Edits::create(rig.mSession, u"Zweite"_s);
+    QVERIFY(made);
+    const QUuid second = made.mPage;
+    {
+      const Edit_Scope scope(rig.mSession.history(), u"Beide"_s, Edit_Scope::Grouping::Own);
+      QVERIFY(FB_Page_Edits::create(rig.mSession, first, 50, {}) &&
+              FB_Page_Edits::create(rig.mSession, second, 50, {}));
+    }
+    auto* const tabs = rig.mWindow.findChild<Page_Tabs*>();
+    for (const QUuid& shown : {first, second}) {
+      emit rig.mWindow.findChild<Page_View*>()->pageChosen(shown);
+      QCOMPARE(tabs->currentPage(), shown);
+      rig.action("onEdit_Undo")->trigger();
+      QCOMPARE(tabs->currentPage(), shown);
+      rig.action("onEdit_Redo")->trigger();
+    }
   }
 
   void helpIsOfWhatTheUserIsAt() {
