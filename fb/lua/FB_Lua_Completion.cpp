@@ -15,7 +15,7 @@ namespace {
 constexpr int cNameRole = FB_Lua_Word_Model::cNameRole;
 constexpr int cShortestWord = 3;
 constexpr int cMostWords = 2'000; // of a script
-constexpr int cWidth = 640;       // pixels of the list, at most
+constexpr int cWidth = 960;       // pixels of the list, at most
 constexpr int cRows = 12;
 
 QTreeView* makePopup() {
