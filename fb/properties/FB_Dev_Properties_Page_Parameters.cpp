@@ -29,6 +29,11 @@ QString enumerated(const QStringList& names) {
   return FB_Dev_Properties_Page::tr("%1 und %2").arg(names.first(named).join(QStringLiteral(", ")), rest);
 }
 
+QString digitsText(int decimals) {
+  return decimals > 0 ? FB_Dev_Properties_Page::tr("höchstens %n Nachkommastellen", nullptr, decimals)
+                      : FB_Dev_Properties_Page::tr("nur ganze Zahlen");
+}
+
 } // namespace
 
 QList<FB_Dev_Properties_Editor*> FB_Dev_Properties_Page::editors() const {
@@ -172,7 +177,9 @@ void FB_Dev_Properties_Page::showRemark(Parameter_Field& field, int index, const
     const QStringList lost = isCount && !box->typedText().isEmpty()
                                  ? FB_Page_Edits::lostBindings(mSession, mBlocks, index, box->typedText())
                                  : QStringList();
-    field.mRow->setRemark(box->isTypedOutside() ? FB_Parameter_Text::fault(parameter, outside) : QString(),
+    field.mRow->setRemark(box->isTypedOutside()   ? FB_Parameter_Text::fault(parameter, outside)
+                          : box->isTypedTooFine() ? digitsText(parameter.mDecimals)
+                                                  : QString(),
                           lost.isEmpty()     ? QString()
                           : lost.size() == 1 ? tr("%1 verliert die Verknüpfung").arg(lost.first())
                                              : tr("%1 verlieren ihre Verknüpfung").arg(enumerated(lost)));

@@ -96,7 +96,9 @@ void FB_Dev_Properties_SpinBox::onTextEdited(const QString& text) {
   const double number = locale().toDouble(withoutUnit(text), &isNumber);
   mIsMixed = mValue.mIsMixed && !isNumber;
   mIsOutside = isNumber && !isInRange(number);
-  mTyped = isNumber ? FB_Parameter_Text::ofNumber(mIsOutside ? limited(number) : number, decimals()) : QString();
+  mIsTooFine = isNumber && hasTooManyDigits(text);
+  mTyped = isNumber ? FB_Parameter_Text::ofNumber(mIsOutside || mIsTooFine ? limited(number) : number, decimals())
+                    : QString();
   emit typed();
 }
 
@@ -116,6 +118,7 @@ void FB_Dev_Properties_SpinBox::onEditingFinished() {
 void FB_Dev_Properties_SpinBox::stopTyping() {
   if (std::exchange(mIsTyping, false)) {
     mIsOutside = false;
+    mIsTooFine = false;
     mTyped.clear();
     emit typed();
   }
@@ -158,6 +161,12 @@ bool FB_Dev_Properties_SpinBox::isInRange(double value) const {
   return (value >= mLowest && value <= mHighest) || value == this->value();
 }
 
+bool FB_Dev_Properties_SpinBox::hasTooManyDigits(const QString& text) const {
+  const QString number = withoutUnit(text);
+  const qsizetype point = number.indexOf(locale().decimalPoint());
+  return point >= 0 && number.size() - point - 1 > decimals();
+}
+
 QString FB_Dev_Properties_SpinBox::withoutUnit(const QString& text) const {
   const QString unit = mUnit.trimmed();
   QString number = text.trimmed();
@@ -192,9 +201,8 @@ QValidator::State FB_Dev_Properties_SpinBox::validate(QString& text, int& /*posi
   if (!std::ranges::all_of(number, isPart)) {
     return mValue.mIsMixed ? QValidator::Intermediate : QValidator::Invalid; // the rest of the word that stood there
   }
-  const qsizetype point = number.indexOf(locale().decimalPoint());
-  if (point >= 0 && number.size() - point - 1 > decimals()) {
-    return QValidator::Invalid;
+  if (hasTooManyDigits(number)) {
+    return QValidator::Intermediate;
   }
   bool isNumber = false;
   const double typed = locale().toDouble(number, &isNumber);

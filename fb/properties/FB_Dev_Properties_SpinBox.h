@@ -37,6 +37,8 @@ public:
   [[nodiscard]] QString typedText() const { return mTyped; }
   /// What is typed is outside of the range.
   [[nodiscard]] bool isTypedOutside() const { return mIsOutside; }
+  /// Whether what is being typed has more digits behind the point than are kept.
+  [[nodiscard]] bool isTypedTooFine() const { return mIsTooFine; }
 
   void stepBy(int steps) override;
   [[nodiscard]] QString textFromValue(double value) const override;
@@ -68,6 +70,7 @@ private:
   [[nodiscard]] QString withoutUnit(const QString& text) const;
   [[nodiscard]] double limited(double value) const;
   [[nodiscard]] bool isInRange(double value) const;
+  [[nodiscard]] bool hasTooManyDigits(const QString& text) const;
   [[nodiscard]] bool isMixedText(const QString& text) const;
 
   double mLowest = -cRange;
@@ -78,5 +81,6 @@ private:
   bool mIsMixed = false;
   bool mIsTyping = false;
   bool mIsOutside = false;
+  bool mIsTooFine = false;
   QString mTyped;
 };

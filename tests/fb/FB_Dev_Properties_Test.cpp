@@ -47,6 +47,7 @@ private slots:
     QTest::newRow("two keys") << QStringLiteral("12\r") << QStringLiteral("12") << 1;
     QTest::newRow("the same again") << QStringLiteral("2\r") << QStringLiteral("2") << 0;
     QTest::newRow("above the range") << QStringLiteral("400\r") << QStringLiteral("64") << 1;
+    QTest::newRow("too many digits") << QStringLiteral("3.4\r") << QStringLiteral("3") << 1;
     QTest::newRow("nothing") << QStringLiteral("-\r") << QStringLiteral("2") << 0;
     QTest::newRow("taken back") << QStringLiteral("12\x1b") << QStringLiteral("2") << 0;
   }
