@@ -41,6 +41,7 @@ QString script() {
 template <class Run>
 double median(const Run& run) {
   std::vector<double> times;
+  times.reserve(cRuns);
   for (int i = 0; i < cRuns; ++i) {
     times.push_back(Bench_Table::milliseconds(run));
   }
@@ -52,6 +53,7 @@ double keyAt(FB_Lua_Code_Edit& edit, int line, const QString& keys) {
   edit.goToLine(line);
   QApplication::processEvents();
   std::vector<double> times;
+  times.reserve(cKeys);
   for (int i = 0; i < cKeys; ++i) {
     times.push_back(Bench_Table::milliseconds([&] {
       QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(keys.at(i % keys.size())));

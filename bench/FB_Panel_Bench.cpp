@@ -25,7 +25,8 @@ public:
     pages.clear();
     const QUuid page = pages.appendPage(std::make_unique<DB_FB_Page>()).mGuid;
     for (int i = 0; i < blocks; ++i) {
-      mBlocks += FB_Page_Edits::create(mSession, page, type, {i % 20 * 200.0, i / 20 * 100.0}).mBlocks;
+      const int row = i / 20;
+      mBlocks += FB_Page_Edits::create(mSession, page, type, {i % 20 * 200.0, row * 100.0}).mBlocks;
     }
     mSession.history().commit();
     mCanvas = std::make_unique<FB_Page>(mSession, mSettings, page);

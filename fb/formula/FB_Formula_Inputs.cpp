@@ -73,6 +73,7 @@ void FB_Formula_Inputs::show(const DB_FB_Control& block, int inputs) {
 
 std::vector<double> FB_Formula_Inputs::values() const {
   std::vector<double> values;
+  values.reserve(static_cast<size_t>(mShown));
   for (int i = 0; i < mShown; ++i) {
     values.push_back(Decimal_Text::parse(mRows[static_cast<size_t>(i)].mValue->text()).value_or(0));
   }

@@ -103,8 +103,8 @@ void FB_Formula_List::filter(const QString& text) {
 void FB_Formula_List::showExample() {
   const QTreeWidgetItem* const item = mTree->currentItem();
   const QString example = item ? item->data(0, cExampleRole).toString() : QString();
-  mExample->setText(example.isEmpty() ? tr("Doppelklick oder Enter fügt in die Formel ein.")
-                                      : tr("%1\nBeispiel: %2").arg(item->text(1), example));
+  mExample->setText(!item || example.isEmpty() ? tr("Doppelklick oder Enter fügt in die Formel ein.")
+                                               : tr("%1\nBeispiel: %2").arg(item->text(1), example));
 }
 
 void FB_Formula_List::choose(const QTreeWidgetItem* item) {

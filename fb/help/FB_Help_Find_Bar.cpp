@@ -4,6 +4,7 @@
 #include "ui/Theme.h"
 
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>

@@ -11,6 +11,7 @@
 #include "ui/Filter_Edit.h"
 #include "ui/Theme.h"
 
+#include <QHideEvent>
 #include <QLabel>
 #include <QShortcut>
 #include <QSplitter>

@@ -82,7 +82,7 @@ QString FB_Modbus_Model::faultOf(const QModelIndex& cell) const {
 }
 
 QString FB_Modbus_Model::faultNear(const QModelIndex& cell) const {
-  const QString ofCell = faultOf(cell);
+  QString ofCell = faultOf(cell);
   if (!cell.isValid() || !ofCell.isEmpty() || mFaults[static_cast<size_t>(cell.row())].isEmpty()) {
     return ofCell;
   }

@@ -15,7 +15,7 @@ struct Script {
 };
 
 /// Larger files are no script files.
-inline constexpr qint64 cSizeLimit = 16 * 1024 * 1024;
+inline constexpr qint64 cSizeLimit = qint64{16} * 1024 * 1024;
 
 enum class State {
   Read,
