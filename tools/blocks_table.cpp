@@ -24,7 +24,7 @@ that counts the pins. Types with dashes in all columns declare nothing yet. The 
 )";
 
 /// In one cell of a table.
-QString cell(QString text) {
+QString cell(const QString& text) {
   return text.simplified().replace(u'|', QStringLiteral("\\|")).replace(u'*', QStringLiteral("\\*"));
 }
 

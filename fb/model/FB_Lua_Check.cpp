@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::size_t cMemoryLimit = 128u * 1024 * 1024;
+constexpr std::size_t cMemoryLimit = std::size_t{128} * 1024 * 1024;
 constexpr qsizetype cQuoted = 40; // characters of the script in a message
 constexpr int cLastAscii = 127;
 constexpr const char* cChunk = "=s";

@@ -53,7 +53,7 @@ namespace FB_Lua_Functions {
 
 /// Null for a name that is none.
 [[nodiscard]] const FB_Lua_Function* find(const QString& name);
-[[nodiscard]] const FB_Lua_Callback* findCallback(const QString& name);
+[[nodiscard]] const FB_Lua_Callback* findCallback(const QString& wanted);
 
 /// "sys_timer_start(id,timeMs)"
 [[nodiscard]] QString signature(const FB_Lua_Function& function);

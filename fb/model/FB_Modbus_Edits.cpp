@@ -188,7 +188,7 @@ QString freeName(const QString& name, const QSet<QString>& taken) {
   const QRegularExpressionMatch match = number.match(name);
   const QString stem = match.hasMatch() ? name.left(match.capturedStart()) : name;
   for (int i = match.hasMatch() ? match.captured(1).toInt() + 1 : 2;; ++i) {
-    const QString free = QStringLiteral("%1 %2").arg(stem.left(cNameLimit - 8)).arg(i);
+    QString free = QStringLiteral("%1 %2").arg(stem.left(cNameLimit - 8)).arg(i);
     if (!taken.contains(free)) {
       return free;
     }

@@ -60,7 +60,7 @@ QString readRow(const QStringList& cells, const Columns& columns, DB_Modbus_Regi
       if (!columns[column] || cell.isEmpty() || (*columns[column] == Field::Function) != isFunction) {
         continue;
       }
-      const QString error = set(item, *columns[column], cell);
+      QString error = set(item, *columns[column], cell);
       if (!error.isEmpty()) {
         return error;
       }

@@ -212,7 +212,10 @@ QStringList FB_Page_Edits::lostBindings(const Project_Session& session, const QL
   QStringList lost;
   for (const QUuid& guid : blocks) {
     const DB_FB_Control* const block = session.database().mFbPages.child(guid);
-    const QStringList pins = block ? FB_Pins::lostBindings(*block, index, value) : QStringList();
+    if (!block) {
+      continue;
+    }
+    const QStringList pins = FB_Pins::lostBindings(*block, index, value);
     for (const QString& pin : pins) {
       lost.append(blocks.size() == 1 ? pin : QStringLiteral("%1: %2").arg(FB_Geometry::title(*block), pin));
     }

@@ -82,7 +82,7 @@ int FB_Type_Text::alike(const FB_Type& type, int parameter) {
 }
 
 QString FB_Type_Text::name(const FB_Type& type, int parameter, int count) {
-  const QString text = FB_Types::text(type.mParameters[static_cast<size_t>(parameter)].mName);
+  QString text = FB_Types::text(type.mParameters[static_cast<size_t>(parameter)].mName);
   if (!text.contains(u"%1")) {
     return text;
   }
@@ -113,7 +113,7 @@ QString FB_Type_Text::range(const FB_Parameter& parameter) {
 }
 
 QString FB_Type_Text::usual(const FB_Parameter& parameter) {
-  const QString value = QString::fromUtf8(parameter.mDefault);
+  QString value = QString::fromUtf8(parameter.mDefault);
   switch (parameter.mEditor) {
   case FB_Editor::Number:
     return number(value.toDouble(), parameter.mDecimals);
