@@ -162,6 +162,7 @@ private slots:
     mCanvas->select({mBlocks[0]});
     QStringList names;
     QWidget* at = mPanel->findChild<FB_Dev_Properties_LineEdit*>();
+    QVERIFY(at);
     do {
       const auto* const editor = dynamic_cast<FB_Dev_Properties_Editor*>(at);
       names += editor ? QStringList(at->accessibleName()) : QStringList();
