@@ -80,10 +80,6 @@ bool FB_Block_Editors::finishAll() {
   return std::ranges::all_of(open, [](const auto& editor) { return !editor || editor->finish(); });
 }
 
-bool FB_Block_Editors::areAnyOpen() const {
-  return std::ranges::any_of(mOpen, [](const auto& editor) { return !editor.isNull(); });
-}
-
 void FB_Block_Editors::follow() {
   const auto open = mOpen;
   for (auto it = open.begin(); it != open.end(); ++it) {

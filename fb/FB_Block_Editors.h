@@ -23,7 +23,6 @@ public:
   FB_Block_Editor* open(const QUuid& block);
   /// Asks each to `finish`; false as soon as the user wants to go on editing in one.
   [[nodiscard]] bool finishAll();
-  [[nodiscard]] bool areAnyOpen() const;
 
 signals:
   void helpRequested(const QString& page);

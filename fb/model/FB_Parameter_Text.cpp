@@ -21,17 +21,10 @@ QString withUnit(const FB_Parameter& parameter, const QString& number) {
 }
 
 /// With no more digits than needed, as the chosen language writes it.
-QString shownNumber(double value, int decimals) {
-  QLocale locale;
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  const QString stored = FB_Parameter_Text::ofNumber(value, decimals);
-  return locale.toString(value, 'f', FB_Parameter_Text::decimals(stored));
-}
-
 QString range(const FB_Parameter& parameter) {
   return tr("%1 bis %2")
-      .arg(shownNumber(parameter.mMinimum, parameter.mDecimals),
-           withUnit(parameter, shownNumber(parameter.mMaximum, parameter.mDecimals)));
+      .arg(FB_Parameter_Text::shownNumber(parameter.mMinimum, parameter.mDecimals),
+           withUnit(parameter, FB_Parameter_Text::shownNumber(parameter.mMaximum, parameter.mDecimals)));
 }
 
 const FB_Choice* choiceOf(const FB_Parameter& parameter, const QString& value) {
@@ -41,6 +34,13 @@ const FB_Choice* choiceOf(const FB_Parameter& parameter, const QString& value) {
 }
 
 } // namespace
+
+QString FB_Parameter_Text::shownNumber(double value, int decimals) {
+  QLocale locale;
+  locale.setNumberOptions(QLocale::OmitGroupSeparator);
+  const QString stored = ofNumber(value, decimals);
+  return locale.toString(value, 'f', FB_Parameter_Text::decimals(stored));
+}
 
 QString FB_Parameter_Text::name(const FB_Parameter& parameter, int index) {
   QString text = FB_Types::text(parameter.mName);

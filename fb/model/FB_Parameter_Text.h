@@ -20,6 +20,8 @@ inline constexpr int cMostDecimals = 12;
 [[nodiscard]] std::optional<double> number(const QString& text);
 /// As it is stored.
 [[nodiscard]] QString ofNumber(double value, int decimals);
+/// In the language of the user, without needless digits.
+[[nodiscard]] QString shownNumber(double value, int decimals);
 /// So many digits behind the point are needed to show the stored number as it is.
 [[nodiscard]] int decimals(const QString& text);
 

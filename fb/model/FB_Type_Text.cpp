@@ -1,9 +1,9 @@
 #include "fb/model/FB_Type_Text.h"
 
+#include "fb/model/FB_Parameter_Text.h"
 #include "fb/model/FB_Types.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -12,21 +12,6 @@ namespace {
 
 QString tr(const char* text) {
   return QCoreApplication::translate("FB_Type_Text", text);
-}
-
-QString number(double value, int decimals) {
-  QLocale locale;
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  QString text = locale.toString(value, 'f', decimals);
-  if (decimals > 0) {
-    while (text.endsWith(u'0')) {
-      text.chop(1);
-    }
-    if (text.endsWith(locale.decimalPoint())) {
-      text.chop(locale.decimalPoint().size());
-    }
-  }
-  return text;
 }
 
 /// "E%1" from its first to its last number.
@@ -94,7 +79,8 @@ QString FB_Type_Text::range(const FB_Parameter& parameter) {
   switch (parameter.mEditor) {
   case FB_Editor::Number:
     return tr("%1 bis %2")
-        .arg(number(parameter.mMinimum, parameter.mDecimals), number(parameter.mMaximum, parameter.mDecimals));
+        .arg(FB_Parameter_Text::shownNumber(parameter.mMinimum, parameter.mDecimals),
+             FB_Parameter_Text::shownNumber(parameter.mMaximum, parameter.mDecimals));
   case FB_Editor::Check:
     return onOff(false) + QStringLiteral("; ") + onOff(true);
   case FB_Editor::Choice: {
@@ -116,7 +102,7 @@ QString FB_Type_Text::usual(const FB_Parameter& parameter) {
   QString value = QString::fromUtf8(parameter.mDefault);
   switch (parameter.mEditor) {
   case FB_Editor::Number:
-    return number(value.toDouble(), parameter.mDecimals);
+    return FB_Parameter_Text::shownNumber(value.toDouble(), parameter.mDecimals);
   case FB_Editor::Check:
     return onOff(value == u"1");
   case FB_Editor::Choice:
