@@ -30,7 +30,7 @@ public:
     }
     mSession.history().commit();
     mCanvas = std::make_unique<FB_Page>(mSession, mSettings, page);
-    mPanel = std::make_unique<FB_Dev_Properties_Page>(mSession, mSettings);
+    mPanel = std::make_unique<FB_Dev_Properties_Page>(mSession);
     mPanel->resize(400, 800);
     mPanel->show();
   }

@@ -18,7 +18,7 @@ FB_Dev_Properties::FB_Dev_Properties(Project_Session& session, App_Settings& set
     : QWidget(parent),
       mStack(new QStackedWidget),
       mSplitter(new QSplitter(Qt::Vertical)),
-      mPage(new FB_Dev_Properties_Page(session, settings)),
+      mPage(new FB_Dev_Properties_Page(session)),
       mAddress(new FB_Dev_Properties_Address(session, settings)) {
   auto* const hint = new Empty_Hint;
   hint->setText(

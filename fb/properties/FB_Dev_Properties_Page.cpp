@@ -41,7 +41,7 @@ QTreeWidgetItem* addSection(QTreeWidget& tree, const QString& title) {
 
 } // namespace
 
-FB_Dev_Properties_Page::FB_Dev_Properties_Page(Project_Session& session, App_Settings& /*settings*/, QWidget* parent)
+FB_Dev_Properties_Page::FB_Dev_Properties_Page(Project_Session& session, QWidget* parent)
     : QWidget(parent),
       mSession(session),
       mFollower(new FB_Page_Follower(session.database().mFbPages, this)),

@@ -13,7 +13,6 @@
 #include <functional>
 #include <map>
 
-class App_Settings;
 class Elided_Label;
 class FB_Address_Edit;
 class FB_Page;
@@ -28,12 +27,12 @@ class QTreeWidgetItem;
 
 /// The upper part of the property panel: general fields and parameters of the selected blocks, what they share and
 /// where they differ. Parameters are shown when all blocks have one type. It follows the records without disturbing
-/// what is being typed, and every edit is one step for all blocks. Session and settings outlive it.
+/// what is being typed, and every edit is one step for all blocks. The session outlives it.
 class FB_Dev_Properties_Page : public QWidget, public FB_Property_Editors {
   Q_OBJECT
 
 public:
-  FB_Dev_Properties_Page(Project_Session& session, App_Settings& settings, QWidget* parent = nullptr);
+  explicit FB_Dev_Properties_Page(Project_Session& session, QWidget* parent = nullptr);
   ~FB_Dev_Properties_Page() override;
 
   void showBlocks(FB_Page& page);

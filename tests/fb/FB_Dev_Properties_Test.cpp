@@ -28,7 +28,7 @@ private slots:
     }
     mRig->history().commit();
     mCanvas = std::make_unique<FB_Page>(mRig->mSession, *mSettings, mRig->mPage);
-    mPanel = std::make_unique<FB_Dev_Properties_Page>(mRig->mSession, *mSettings);
+    mPanel = std::make_unique<FB_Dev_Properties_Page>(mRig->mSession);
     connect(mCanvas.get(), &FB_Page::selectionChanged, mPanel.get(), [this] { mPanel->showBlocks(*mCanvas); });
     mPanel->resize(300, 600);
     mPanel->show();
