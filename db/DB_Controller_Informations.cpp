@@ -7,4 +7,6 @@ void DB_Controller_Informations::fields(DB_Fields& fields) {
   fields.text("mSystemVersion", mSystemVersion);
   fields.text("mProjectName", mProjectName);
   fields.number("mProjectTimestamp", mProjectTimestamp);
+  fields.number("mNumber", mNumber);
+  fields.flag("mIsRunning", mIsRunning);
 }

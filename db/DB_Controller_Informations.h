@@ -15,4 +15,6 @@ public:
   QString mSystemVersion;
   QString mProjectName;
   qint64 mProjectTimestamp = 0; ///< seconds since 1970 (UTC)
+  int mNumber = 0;              ///< its own number in a group, 0 for none
+  bool mIsRunning = false;      ///< its program runs
 };

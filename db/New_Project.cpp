@@ -1,6 +1,7 @@
 #include "db/New_Project.h"
 
 #include "base/Version.h"
+#include "db/Connection_Defaults.h"
 #include "db/ProjectDatabase.h"
 
 #include <QCoreApplication>
@@ -42,7 +43,8 @@ void New_Project::fill(ProjectDatabase& database, const Options& options) {
 
   DB_Connections::ITEM connection;
   connection.mName = orElse(options.mConnectionName, tr("Steuerung"));
-  connection.mUser = QStringLiteral("root");
+  connection.mUser = Connection_Defaults::user();
+  connection.mPassword = Connection_Defaults::password();
   connection.mAddress = orElse(options.mConnectionIp, QStringLiteral("172.31.1.100"));
   database.mConnections.mItems = {connection};
   database.mConnections.mSelected = 0;

@@ -66,6 +66,7 @@ void Project_Session::close() {
   mWorkingCopy.release();
   if (isOpen()) {
     setPath({});
+    mValues.clear();
     emit closed();
   }
 }

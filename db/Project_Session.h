@@ -1,6 +1,7 @@
 #pragma once
 
 #include "db/Address_Undo.h"
+#include "db/Address_Values.h"
 #include "db/Child_Undo.h"
 #include "db/FB_Page_Undo.h"
 #include "db/History.h"
@@ -33,6 +34,9 @@ public:
   [[nodiscard]] ProjectDatabase& database() { return mDatabase; }
   [[nodiscard]] const ProjectDatabase& database() const { return mDatabase; }
   [[nodiscard]] History& history() { return mHistory; }
+  /// What the controller last told of the project's addresses; forgotten with the project.
+  [[nodiscard]] Address_Values& values() { return mValues; }
+  [[nodiscard]] const Address_Values& values() const { return mValues; }
   [[nodiscard]] bool isModified() const { return isOpen() && mHistory.isModified(); }
 
   /// Closes what is open, copies the file to a working copy and loads that, converting an older layout. On failure
@@ -100,6 +104,7 @@ private:
 
   Session_State& mState;
   ProjectDatabase mDatabase;
+  Address_Values mValues;
   History mHistory;
   Address_Undo mAddressUndo;
   Page_Undo<DB_FB_Page> mFbPageUndo;

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "db/DB_Controller_Informations.h"
+#include "net/Main_Network_Client.h"
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+class Project_Session;
+
+/// The link as the user sees it: dials with a connection of the project, logs on with its user and password once the
+/// socket is connected, and tells how it stands. Owns the client.
+///
+///     Offline -> Dialling -> LoggingOn -> Online
+///
+/// A refused log-on, and one that the controller does not answer in time, end the link and tell why.
+class Controller_Link : public QObject {
+  Q_OBJECT
+
+public:
+  enum class State { Offline, Dialling, LoggingOn, Online };
+
+  /// The session outlives the link; what the controller tells of itself goes into its database.
+  explicit Controller_Link(Project_Session& session, QObject* parent = nullptr);
+
+  /// Dials with the project's selected connection. False with a German `error` when there is none.
+  bool connectToSelected(QString* error = nullptr);
+  void connectTo(const DB_Connections::ITEM& connection);
+  void disconnectLink();
+  void setLogOnTimeout(int ms) { mLogOnTimer.setInterval(ms); }
+
+  [[nodiscard]] State state() const { return mState; }
+  [[nodiscard]] bool isOnline() const { return mState == State::Online; }
+  [[nodiscard]] Main_Network_Client& client() { return *mClient; }
+  /// Name and address of the connection in use: "Demo-Steuerung (127.0.0.1)"; empty while offline.
+  [[nodiscard]] QString connectionText() const;
+
+signals:
+  void stateChanged(Controller_Link::State state);
+  /// A log-on failed and the link was ended; German, for the user. Comes from the event loop, so a box may be shown.
+  void refused(const QString& text);
+  /// A link that stood was lost, not ended by the user. Comes from the event loop.
+  void lost();
+
+private:
+  void setState(State state);
+  void onConnect(bool isConnected);
+  void onRead(Network_Message* message, uchar* data);
+  void refuse(const QString& text);
+
+  Project_Session& mSession;
+  Main_Network_Client* mClient;
+  QTimer mLogOnTimer;
+  State mState = State::Offline;
+  bool mIsEnding = false; ///< by the user
+};
