@@ -1,8 +1,8 @@
 #include "simulator/Simulator_Project.h"
 
-#include "db/Project_Digests.h"
 #include "db/Project_Image.h"
 #include "net/Controller_Command.h"
+#include "net/Project_Digests.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
