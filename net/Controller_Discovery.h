@@ -50,8 +50,10 @@ signals:
   /// A search went out.
   void searched();
 
-private:
+private slots:
   void onTick();
+
+private:
   void onReadyRead();
   void take(const QByteArray& datagram, const QHostAddress& sender);
 

@@ -28,6 +28,7 @@ public:
   Dev_Connection_Assistant(Project_Session& session, App_Settings& settings, Controller_Link& link, QWidget* parent);
   Dev_Connection_Assistant(Project_Session& session, App_Settings& settings, Controller_Link& link, Search search,
                            QWidget* parent);
+  ~Dev_Connection_Assistant() override;
 
   void accept() override;
 

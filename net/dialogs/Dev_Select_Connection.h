@@ -42,7 +42,7 @@ private:
   [[nodiscard]] int current() const;
   [[nodiscard]] QList<int> selected() const;
   void report(const Edit_Result& edit);
-  void show(int row);
+  void showRow(int row);
   void onNew();
   void onEdit();
   void onDuplicate();
