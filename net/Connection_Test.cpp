@@ -1,6 +1,7 @@
 #include "net/Connection_Test.h"
 
 #include "net/Controller_Command.h"
+#include "net/Controller_Link.h"
 #include "net/Controller_Records.h"
 #include "net/Main_Network_Client.h"
 
@@ -12,14 +13,18 @@ const QString cOk = QStringLiteral("ok;");
 
 } // namespace
 
-Connection_Test::Connection_Test(Main_Network_Client& client, DB_Connections::ITEM connection, Options options,
+Connection_Test::Connection_Test(Controller_Link& link, DB_Connections::ITEM connection, Options options,
                                  QObject* parent)
     : QObject(parent),
-      mClient(client),
+      mLink(link),
+      mClient(link.client()),
       mConnection(std::move(connection)),
       mOptions(options) {
   mTimer.setSingleShot(true);
-  connect(&mTimer, &QTimer::timeout, this, [this] { settle(Outcome::NoAnswer, tr("keine Antwort")); });
+  connect(&mTimer, &QTimer::timeout, this, [this] {
+    const QString error = mIsAsked ? QString() : mClient.lastErrorText();
+    settle(Outcome::NoAnswer, error.isEmpty() ? tr("keine Antwort") : error);
+  });
 }
 
 Connection_Test::~Connection_Test() {
@@ -28,13 +33,16 @@ Connection_Test::~Connection_Test() {
 
 void Connection_Test::start() {
   cancel();
+  mLink.lend();
   begin(mConnection.isRelay() ? Phase::Relay : Phase::Controller);
 }
 
 void Connection_Test::cancel() {
   if (isRunning()) {
     abandon();
-    mClient.disconnectFromController();
+    if (mLink.isLent()) {
+      mLink.disconnectLink();
+    }
   }
 }
 
@@ -79,6 +87,10 @@ void Connection_Test::ask() {
 }
 
 void Connection_Test::onNetworkConnect(bool isConnected, const DB_Connections::ITEM&) {
+  if (isRunning() && !mLink.isLent()) {
+    abandon();
+    QMetaObject::invokeMethod(this, &Connection_Test::interrupted, Qt::QueuedConnection);
+  }
   if (!isRunning() || mIsSettled) {
     return;
   }

@@ -8,12 +8,13 @@
 #include <QString>
 #include <QTimer>
 
+class Controller_Link;
 class Main_Network_Client;
 struct Network_Message;
 
 /// Tries a connection without logging on: through the relay service first whether that knows the controller's DNS name
-/// (commands 1000, then 1008 at the controller's end), directly whether the controller answers command 9. It takes the
-/// client for itself and leaves it disconnected.
+/// (command 1000) and then reaches it (1008), directly whether the controller answers command 9. It borrows the client
+/// of the link and leaves it disconnected; it ends when the link is told to connect or disconnect meanwhile.
 ///
 /// Its owner connects the client's signals to the two slots. Its own signals come from the event loop.
 class Connection_Test : public QObject {
@@ -25,17 +26,14 @@ public:
     int mAttemptMs = 5'000; ///< from dialling to the reply
   };
 
-  /// The client outlives the test.
-  Connection_Test(Main_Network_Client& client, DB_Connections::ITEM connection, Options options,
-                  QObject* parent = nullptr);
+  /// The link outlives the test.
+  Connection_Test(Controller_Link& link, DB_Connections::ITEM connection, Options options, QObject* parent = nullptr);
   ~Connection_Test() override;
 
-  /// What the client does otherwise ends.
+  /// A link that stands is given up.
   void start();
   /// Ends without a word and disconnects the client.
   void cancel();
-  /// Ends without a word, because somebody else has taken the client.
-  void abandon();
   [[nodiscard]] bool isRunning() const { return mPhase != Phase::Idle; }
 
 public slots:
@@ -47,11 +45,14 @@ signals:
   void step(const QString& text);
   /// What came of it.
   void result(const QString& text, bool isOk);
-  /// Once for each start, not after `cancel`.
+  /// Somebody else has taken the client.
+  void interrupted();
+  /// Once for each start, not after `cancel` and not when it was interrupted.
   void finished(bool isOk);
 
 private:
   enum class Phase { Idle, Relay, Controller };
+  void abandon();
   enum class Outcome { Right, Wrong, NoAnswer };
   void begin(Phase phase);
   void nextAttempt();
@@ -62,6 +63,7 @@ private:
   void ask();
   [[nodiscard]] QString resultText(Outcome outcome, const QString& detail) const;
 
+  Controller_Link& mLink;
   Main_Network_Client& mClient;
   DB_Connections::ITEM mConnection;
   Options mOptions;

@@ -33,14 +33,6 @@ Connection_Test_View::Connection_Test_View(Controller_Link& link, QWidget* paren
   mProgress->setTextVisible(false);
   mStart->setAutoDefault(false);
   connect(mStart, &QPushButton::clicked, this, [this] { isRunning() ? cancel() : start(); });
-  // Somebody else connects.
-  connect(&link, &Controller_Link::stateChanged, this, [this](Controller_Link::State state) {
-    if (state != Controller_Link::State::Offline && isRunning()) {
-      mTest->abandon();
-      addLine(tr("Test beendet: Das Studio verbindet sich mit einer Steuerung."), cErrorIcon);
-      updateState();
-    }
-  });
 
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -75,11 +67,7 @@ bool Connection_Test_View::mayTakeLink() {
   }
   const QString question =
       tr("Für den Test wird die Verbindung zu %1 getrennt. Trotzdem testen?").arg(mLink.connectionText());
-  if (!Message_Box::askYesNo(this, question)) {
-    return false;
-  }
-  mLink.disconnectLink();
-  return true;
+  return Message_Box::askYesNo(this, question);
 }
 
 void Connection_Test_View::start() {
@@ -87,10 +75,14 @@ void Connection_Test_View::start() {
     return;
   }
   delete mTest;
-  mTest = new Connection_Test(mLink.client(), mConnection, mOptions, this);
+  mTest = new Connection_Test(mLink, mConnection, mOptions, this);
   connect(mTest, &Connection_Test::step, this, [this](const QString& text) { addLine(text, {}); });
   connect(mTest, &Connection_Test::result, this,
           [this](const QString& text, bool isOk) { addLine(text, isOk ? cOkIcon : cErrorIcon); });
+  connect(mTest, &Connection_Test::interrupted, this, [this] {
+    addLine(tr("Test beendet: Das Studio verbindet sich mit einer Steuerung."), cErrorIcon);
+    updateState();
+  });
   connect(mTest, &Connection_Test::finished, this, &Connection_Test_View::onFinished);
   mSteps->clear();
   mIsRight = false;

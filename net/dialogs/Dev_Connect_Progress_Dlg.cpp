@@ -52,20 +52,10 @@ Dev_Connect_Progress_Dlg::Dev_Connect_Progress_Dlg(Controller_Link& link, QWidge
 
   mClock.start();
   mTimer.setInterval(cTickMs);
-  mGather.setSingleShot(true);
   connect(&mTimer, &QTimer::timeout, this, &Dev_Connect_Progress_Dlg::updateText);
-  connect(&mGather, &QTimer::timeout, this, [this] {
-    ++mAttempt;
-    mClock.start();
-    updateText();
-  });
   connect(&link, &Controller_Link::stateChanged, this, &Dev_Connect_Progress_Dlg::onState);
   connect(&link, &Controller_Link::refused, this, &Dev_Connect_Progress_Dlg::onRefused);
-  connect(&link.client(), &Main_Network_Client::onProcessNetworkConnect, this, [this](bool isConnected) {
-    if (!isConnected) {
-      onDown();
-    }
-  });
+  connect(&link, &Controller_Link::dialFailed, this, &Dev_Connect_Progress_Dlg::updateText);
   mTimer.start();
   updateText();
 }
@@ -87,13 +77,6 @@ bool Dev_Connect_Progress_Dlg::isShown() {
   });
 }
 
-/// Each dialling after the first one begins with being told down.
-void Dev_Connect_Progress_Dlg::onDown() {
-  if (!mIsOver && mLink.state() == Controller_Link::State::Dialling && !mGather.isActive()) {
-    mGather.start(0);
-  }
-}
-
 void Dev_Connect_Progress_Dlg::onState(Controller_Link::State state) {
   if (mIsOver) {
     return;
@@ -103,7 +86,6 @@ void Dev_Connect_Progress_Dlg::onState(Controller_Link::State state) {
     done(QDialog::Accepted);
   } else if (state == Controller_Link::State::Dialling) {
     // Told to connect anew, perhaps to another controller.
-    mAttempt = 1;
     mClock.start();
     mTarget = mLink.connectionText();
   }
@@ -126,17 +108,15 @@ void Dev_Connect_Progress_Dlg::updateText() {
   }
   switch (mLink.state()) {
   case Controller_Link::State::Dialling: {
-    const qint64 left = Main_Network_Client::cRedialMs - mClock.elapsed();
-    const qint64 seconds = std::max<qint64>(1, (left + cSecond - 1) / cSecond);
+    const qint64 left = Main_Network_Client::cRedialMs - mClock.elapsed() % Main_Network_Client::cRedialMs;
+    const qint64 seconds = std::max<qint64>(1, left / cSecond);
     const QString name = mLink.connectionText();
     mTarget = name.isEmpty() ? mTarget : name;
     mTitle->setText(tr("Verbinde mit %1 ...").arg(mTarget));
-    mDetail->setText(mAttempt == 1
-                         ? tr("Versuch 1; meldet sich niemand, folgt der nächste in %1 s.").arg(seconds)
-                         : tr("Versuch %1; bisher hat sich niemand gemeldet. Ist die Steuerung eingeschaltet und im "
-                              "Netz? Der nächste Versuch folgt in %2 s.")
-                               .arg(mAttempt)
-                               .arg(seconds));
+    const int failed = mLink.failedAttempts();
+    mDetail->setText(failed == 0 ? tr("Versuch 1; meldet sich niemand, folgt der nächste in %1 s.").arg(seconds)
+                                 : tr("Versuch %1 ist fehlgeschlagen: %2\nDer nächste folgt in %3 s.")
+                                       .arg(QString::number(failed), mLink.lastDialError(), QString::number(seconds)));
     break;
   }
   case Controller_Link::State::LoggingOn:

@@ -30,14 +30,11 @@ public:
 private:
   void onState(Controller_Link::State state);
   void onRefused(const QString& text);
-  void onDown();
   void updateText();
 
   Controller_Link& mLink;
   QTimer mTimer;
-  QTimer mGather; ///< what is told down several times in a row is one attempt
   QElapsedTimer mClock;
-  int mAttempt = 1;
   QString mTarget;
   bool mIsOver = false;
   QLabel* mTitle;

@@ -78,7 +78,7 @@ private slots:
       connection.mRelayDns = u"haus.example"_s;
       link.client().setRelay(u"127.0.0.1"_s, peer.port());
     }
-    Connection_Test test(link.client(), connection, {2, 400});
+    Connection_Test test(link, connection, {2, 400});
     connect(&link.client(), qOverload<Network_Message*, uchar*>(&Main_Network_Client::onProcessNetworkRead), &test,
             &Connection_Test::onNetworkRead);
     connect(&link.client(), &Main_Network_Client::onProcessNetworkConnect, &test, &Connection_Test::onNetworkConnect);
@@ -109,7 +109,7 @@ private slots:
     Controller_Link link(rig.mSession);
     DB_Connections::ITEM connection;
     connection.mAddress = Scripted_Peer::deadAddress();
-    Connection_Test test(link.client(), connection, {3, 100});
+    Connection_Test test(link, connection, {3, 100});
     connect(&link.client(), &Main_Network_Client::onProcessNetworkConnect, &test, &Connection_Test::onNetworkConnect);
     QSignalSpy steps(&test, &Connection_Test::step);
     QSignalSpy ends(&test, &Connection_Test::finished);
@@ -122,6 +122,25 @@ private slots:
     QTest::qWait(150);
     QCOMPARE(ends.size(), 1);
     QVERIFY(!link.client().isWanted());
+  }
+
+  void whoConnectsInterruptsIt() {
+    Session_Rig rig;
+    Controller_Link link(rig.mSession);
+    Scripted_Peer silent;
+    Scripted_Peer other;
+    Connection_Test test(link, silent.connection(), {2, 300});
+    connect(&link.client(), &Main_Network_Client::onProcessNetworkConnect, &test, &Connection_Test::onNetworkConnect);
+    QSignalSpy ends(&test, &Connection_Test::finished);
+    QSignalSpy interruptions(&test, &Connection_Test::interrupted);
+    test.start();
+    QTRY_COMPARE(silent.count(Command::Connection_Check), 1);
+    link.connectTo(other.connection());
+    QTRY_COMPARE(interruptions.size(), 1);
+    QTRY_COMPARE(other.count(Command::Log_On), 1);
+    QTest::qWait(400); // nothing of the test goes on
+    QCOMPARE(link.state(), Controller_Link::State::LoggingOn);
+    QCOMPARE(ends.size(), 0);
   }
 };
 
