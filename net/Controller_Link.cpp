@@ -65,9 +65,18 @@ void Controller_Link::disconnectLink() {
   }
 }
 
+void Controller_Link::lend() {
+  const QPointer<Controller_Link> self(this);
+  disconnectLink();
+  if (self) {
+    mIsLent = true;
+  }
+}
+
 void Controller_Link::end() {
   const QPointer<Controller_Link> self(this);
   ++mTurn;
+  mIsLent = false;
   mIsEnding = true;
   mClient->disconnectFromController();
   if (self) {
@@ -107,6 +116,9 @@ void Controller_Link::setState(State state) {
 }
 
 void Controller_Link::onConnect(bool isConnected) {
+  if (mIsLent) {
+    return;
+  }
   if (isConnected) {
     if (!mClient->isRelayService()) {
       logOn();

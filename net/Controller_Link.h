@@ -31,6 +31,10 @@ public:
   bool connectToSelected(QString* error = nullptr);
   void connectTo(const DB_Connections::ITEM& connection);
   void disconnectLink();
+  /// Disconnects, and leaves the client to who tests a connection: the link neither follows it nor logs on until it is
+  /// told to connect or to disconnect.
+  void lend();
+  [[nodiscard]] bool isLent() const { return mIsLent; }
   void setLogOnTimeout(int ms) { mLogOnTimer.setInterval(ms); }
 
   [[nodiscard]] State state() const { return mState; }
@@ -69,5 +73,6 @@ private:
   QString mLastDialError;
   int mFailedAttempts = 0;
   bool mIsEnding = false; ///< by the user
-  quint64 mTurn = 0;      ///< counts what the user began and ended
+  bool mIsLent = false;
+  quint64 mTurn = 0; ///< counts what the user began and ended
 };
