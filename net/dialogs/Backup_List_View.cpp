@@ -23,10 +23,10 @@ constexpr int cSizeWidth = 90;
 
 } // namespace
 
-Backup_List_View::Backup_List_View(const Controller_Access& access, QWidget* parent)
+Backup_List_View::Backup_List_View(const Controller_Access& access, Request_Queue& queue, QWidget* parent)
     : QWidget(parent),
       mAccess(access),
-      mQueue(access, this),
+      mQueue(queue),
       mFilter(new Filter_Edit(0)),
       mList(new Result_List(mModel, -1, access.mSession.state())),
       mCount(new QLabel) {
@@ -51,17 +51,11 @@ Backup_List_View::Backup_List_View(const Controller_Access& access, QWidget* par
   connect(mFilter, &Filter_Edit::filterChanged, this, [this](const QString& text) {
     mList->setFilter(text);
     updateCount();
-    emit changed();
+    emit selectionChanged();
   });
   connect(mFilter, &Filter_Edit::listWanted, this, [this] { mList->enter(); });
-  connect(mList, &Result_List::selectionChanged, this, &Backup_List_View::changed);
-  connect(&mQueue, &Request_Queue::finished, this, &Backup_List_View::changed);
-  connect(&mQueue, &Request_Queue::failed, this, [this](const QString& text) {
-    mModel.setRows({});
-    mList->setHint(text);
-    updateCount();
-    emit changed();
-  });
+  connect(mList, &Result_List::selectionChanged, this, &Backup_List_View::selectionChanged);
+  connect(&mQueue, &Request_Queue::failed, this, &Backup_List_View::onFailed);
   updateCount();
 }
 
@@ -69,12 +63,18 @@ Backup_List_View::~Backup_List_View() {
   mList->saveState(mAccess.mSettings);
 }
 
-void Backup_List_View::refresh() {
-  mQueue.clear();
+void Backup_List_View::read() {
   mList->setHint(tr("Die Sicherungen werden gelesen…"));
   mQueue.add({{}, Controller_Command::Backup_List, {}, Controller_Command::Backup_List_Reply},
              [this](Controller_Request& request) { onRead(request.replyRecord<DB_Backup_List>()); });
-  emit changed();
+}
+
+/// What stands there is no longer known to be true.
+void Backup_List_View::onFailed(const QString& text) {
+  mModel.setRows({});
+  mList->setHint(text);
+  updateCount();
+  emit selectionChanged();
 }
 
 void Backup_List_View::onRead(DB_Backup_List list) {

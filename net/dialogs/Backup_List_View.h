@@ -16,27 +16,28 @@ class Backup_List_View : public QWidget {
   Q_OBJECT
 
 public:
-  explicit Backup_List_View(const Controller_Access& access, QWidget* parent = nullptr);
+  /// Asks through the queue, which outlives the view.
+  Backup_List_View(const Controller_Access& access, Request_Queue& queue, QWidget* parent = nullptr);
   ~Backup_List_View() override;
 
-  /// Asks the controller; what is told meanwhile stands in place of the rows.
-  void refresh();
-  [[nodiscard]] bool isReading() const { return mQueue.isRunning(); }
+  /// Adds the request to the queue.
+  void read();
   /// Empty unless exactly one is selected.
   [[nodiscard]] std::optional<DB_Backup_List::Backup> selected() const;
   /// As soon as the list has been read.
   void selectWhenRead(const QString& id) { mWanted = id; }
 
 signals:
-  /// What is selected, or whether the list is being read.
-  void changed();
+  /// Another one is selected, or none.
+  void selectionChanged();
 
 private:
   void onRead(DB_Backup_List list);
+  void onFailed(const QString& text);
   void updateCount();
 
   Controller_Access mAccess;
-  Request_Queue mQueue;
+  Request_Queue& mQueue;
   Backup_List_Model mModel;
   QString mWanted;
   Filter_Edit* mFilter;

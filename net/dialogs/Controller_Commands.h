@@ -54,6 +54,9 @@ signals:
 private:
   /// Says so without a link.
   [[nodiscard]] bool isReady();
+  /// Whether to go on; also false when that is no longer possible.
+  [[nodiscard]] bool ask(const QString& text);
+  void tell(const QString& text);
   void openDialog(QDialog* dialog);
   void storeProject(const QString& path, const QByteArray& bytes);
 

@@ -25,7 +25,7 @@ bool Dev_Write_Persistent_Project_Dlg::mustAsk(const App_Settings& settings, con
 }
 
 QString Dev_Write_Persistent_Project_Dlg::question() {
-  return tr("Das Projekt an der Steuerung wird durch das lokale Projekt ersetzt.") + u'\n' + tr("Fortfahren?");
+  return tr("Das Projekt an der Steuerung wird durch das lokale Projekt ersetzt.");
 }
 
 void Dev_Write_Persistent_Project_Dlg::onSucceeded() {

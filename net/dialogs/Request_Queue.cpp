@@ -2,6 +2,8 @@
 
 #include "net/Controller_Link.h"
 
+#include <QDateTime>
+
 Request_Queue::Request_Queue(const Controller_Access& access, QObject* parent) : QObject(parent), mAccess(access) {}
 
 void Request_Queue::add(const Exchange_Runner::Request& request, const Done& done) {
@@ -26,6 +28,7 @@ void Request_Queue::next() {
                                     request.mLabel, this);
   mRunning->setTimeout(mAccess.mTimeoutMs);
   connect(mRunning, &Controller_Exchange::finished, this, &Request_Queue::onFinished);
+  mAskedMs = QDateTime::currentMSecsSinceEpoch();
   mRunning->start();
 }
 

@@ -20,6 +20,8 @@ public:
 
   void add(const Exchange_Runner::Request& request, const Done& done);
   [[nodiscard]] bool isRunning() const { return mRunning != nullptr; }
+  /// When the one that is being answered was sent; milliseconds since 1970 (UTC).
+  [[nodiscard]] qint64 askedMs() const { return mAskedMs; }
   /// Nothing that was added is told any more.
   void clear();
 
@@ -39,4 +41,5 @@ private:
   Controller_Access mAccess;
   std::vector<Entry> mEntries; ///< the first is the one that runs
   Controller_Request* mRunning = nullptr;
+  qint64 mAskedMs = 0;
 };
