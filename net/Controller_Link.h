@@ -7,6 +7,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <functional>
+
 class Project_Session;
 
 /// The link as the user sees it: dials with a connection of the project, logs on with its user and password once the
@@ -14,7 +16,8 @@ class Project_Session;
 ///
 ///     Offline -> Dialling -> LoggingOn -> Online
 ///
-/// A refused log-on, and one that the controller does not answer in time, end the link and tell why.
+/// While it is dialling the client repeats what fails. A refused log-on, and one that the controller does not answer in
+/// time, end the link and tell why. A link to the relay service itself is none to a controller and needs no log-on.
 class Controller_Link : public QObject {
   Q_OBJECT
 
@@ -35,9 +38,14 @@ public:
   [[nodiscard]] Main_Network_Client& client() { return *mClient; }
   /// Name and address of the connection in use: "Demo-Steuerung (127.0.0.1)"; empty while offline.
   [[nodiscard]] QString connectionText() const;
+  /// Failed attempts since it began to dial, and why the last one failed: German, empty when none did.
+  [[nodiscard]] int failedAttempts() const { return mFailedAttempts; }
+  [[nodiscard]] QString lastDialError() const { return mLastDialError; }
 
 signals:
   void stateChanged(Controller_Link::State state);
+  /// An attempt to dial failed; the next one follows. Comes from the event loop.
+  void dialFailed(const QString& text, int attempt);
   /// A log-on failed and the link was ended; German, for the user. Comes from the event loop, so a box may be shown.
   void refused(const QString& text);
   /// A link that stood was lost, not ended by the user. Comes from the event loop.
@@ -47,11 +55,19 @@ private:
   void setState(State state);
   void onConnect(bool isConnected);
   void onRead(Network_Message* message, uchar* data);
+  void onError();
+  void logOn();
   void refuse(const QString& text);
+  void end();
+  /// Later, unless the link is another one by then.
+  void queue(const std::function<void()>& what);
 
   Project_Session& mSession;
   Main_Network_Client* mClient;
   QTimer mLogOnTimer;
   State mState = State::Offline;
+  QString mLastDialError;
+  int mFailedAttempts = 0;
   bool mIsEnding = false; ///< by the user
+  quint64 mTurn = 0;      ///< counts what the user began and ended
 };

@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int cGap = 8;
-constexpr QSize cSize(820, 460);
+constexpr QSize cSize(900, 460);
 
 /// "Haus 2026-11-22 14.03"
 QString fileName(const DB_Backup_List::Backup& backup) {

@@ -16,9 +16,9 @@
 namespace {
 
 constexpr int cGap = 8;
-constexpr int cTimeWidth = 160;
-constexpr int cDescriptionWidth = 220;
-constexpr int cProjectWidth = 160;
+constexpr int cTimeWidth = 150;
+constexpr int cDescriptionWidth = 230;
+constexpr int cProjectWidth = 140;
 constexpr int cSizeWidth = 90;
 
 } // namespace

@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int cGap = 8;
-constexpr QSize cSize(520, 300);
+constexpr QSize cSize(520, 250);
 
 } // namespace
 
@@ -38,7 +38,7 @@ Dev_Clock_Dlg::Dev_Clock_Dlg(const Controller_Access& access, QWidget* parent)
   form->setVerticalSpacing(cGap);
   form->addRow(tr("Steuerung:"), mController);
   form->addRow(tr("Computer:"), mComputer);
-  form->addRow(tr("Uhr der Steuerung:"), mDifference);
+  form->addRow(tr("Abweichung:"), mDifference);
   form->addRow({}, mTakeOver);
   auto* const label = new QLabel(tr("Andere &Zeit:"));
   label->setBuddy(mChosen);

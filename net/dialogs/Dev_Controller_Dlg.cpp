@@ -94,9 +94,10 @@ QWidget* Dev_Controller_Dlg::makeClock() {
   auto* const form = new QFormLayout(box);
   form->setVerticalSpacing(cGap);
   mTime = addValue(*form, tr("Steuerung:"));
-  mDifference = addValue(*form, tr("Gegen Computer:"));
+  mDifference = addValue(*form, tr("Abweichung:"));
   mSetClock->setToolTip(tr("Stellt die Uhr der Steuerung auf die Uhrzeit dieses Computers"));
   mSetClock->setAutoDefault(false);
+  mSetClock->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   form->addRow({}, mSetClock);
   return box;
 }

@@ -25,7 +25,12 @@ public:
     mTold.append(QStringLiteral("? ") + text);
     return next() == u"Ja";
   }
-  void showMessage(QWidget*, const QString& text) override { mTold.append(text); }
+  void showMessage(QWidget*, const QString& text) override {
+    mTold.append(text);
+    if (mWhileTold) {
+      mWhileTold();
+    }
+  }
   QString chooseOpenFile(QWidget*, const QString&, const QString&, const QString&) override { return next(); }
   QString chooseSaveFile(QWidget*, const QString&, const QString& suggestion, const QString&) override {
     mSuggestion = suggestion;
@@ -35,6 +40,7 @@ public:
   QStringList mAnswers;
   QStringList mTold;
   QString mSuggestion;
+  std::function<void()> mWhileTold;
 
 private:
   QString next() { return mAnswers.isEmpty() ? QString() : mAnswers.takeFirst(); }

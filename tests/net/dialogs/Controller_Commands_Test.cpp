@@ -166,6 +166,20 @@ private slots:
     QVERIFY(rig.mQuestions.mTold.isEmpty());
   }
 
+  /// The link's reading waits for the rest of a message and runs the event loop meanwhile.
+  void boxesWaitUntilNothingIsBeingDelivered() {
+    Commands_Rig rig;
+    QVERIFY(rig.goOnline());
+    std::optional<bool> isReading;
+    rig.mQuestions.mWhileTold = [&] { isReading = rig.mLink.client().isReading(); };
+    rig.mCommands->storePersistentValues();
+    QVERIFY(rig.isHeard(Persistent_Store));
+    rig.mPeer.sendRaw(Network_Frame::pack(Persistent_Stored, {}) +
+                      Network_Frame::pack(Persistent_Taken, "1").first(40));
+    QVERIFY(QTest::qWaitFor([&] { return isReading.has_value(); }));
+    QVERIFY(!*isReading);
+  }
+
   void triedAgainItSucceeds() {
     Commands_Rig rig;
     QVERIFY(rig.goOnline());
