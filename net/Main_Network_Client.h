@@ -66,6 +66,9 @@ public:
   bool sendValue(const Group_Address& address, double value);
 
   [[nodiscard]] bool isConnected() const { return mConnected; }
+  /// What came is being delivered, also while the event loop runs meanwhile: a box that opens now would keep everything
+  /// behind it waiting until it closes.
+  [[nodiscard]] bool isReading() const { return mReading || mInSocket > 0; }
   /// From a connect call until a disconnect.
   [[nodiscard]] bool isWanted() const { return mWanted; }
   /// The record in use, or last used.
