@@ -26,7 +26,7 @@ Address_Value_Menu::Address_Value_Menu(Project_Session& session, Keys keys, QWid
       })) {
   setIcon(Theme::icon(QStringLiteral("number_white")));
   setToolTipsVisible(true);
-  connect(this, &QMenu::aboutToShow, this, &Address_Value_Menu::update);
+  connect(this, &QMenu::aboutToShow, this, &Address_Value_Menu::updateEntries);
   connect(&session, &Project_Session::valueServiceChanged, this, &Address_Value_Menu::onServiceChanged);
   onServiceChanged();
 }
@@ -37,7 +37,7 @@ void Address_Value_Menu::onServiceChanged() {
   }
 }
 
-void Address_Value_Menu::update() {
+void Address_Value_Menu::updateEntries() {
   mKeys = mKeysOf();
   const Value_Service* const service = mSession.valueService();
   const bool isOnline = service && service->isOnline();

@@ -26,7 +26,7 @@ signals:
   void refused(const QString& text);
 
 private:
-  void update();
+  void updateEntries();
   void onServiceChanged();
   void onRead();
   void onSend();
