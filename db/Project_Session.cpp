@@ -38,6 +38,11 @@ void Project_Session::onAddressesChanged() {
   Binding_Refresh::all(mDatabase);
 }
 
+void Project_Session::setValueService(Value_Service* service) {
+  mValueService = service;
+  emit valueServiceChanged();
+}
+
 bool Project_Session::fail(const QString& text) {
   mLastError = text;
   return false;

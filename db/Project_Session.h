@@ -9,10 +9,12 @@
 #include "db/Page_Undo.h"
 #include "db/ProjectDatabase.h"
 #include "db/Single_Record_Undo.h"
+#include "db/Value_Service.h"
 #include "db/Working_Copy.h"
 
 #include <QDateTime>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <optional>
@@ -37,6 +39,9 @@ public:
   /// What the controller last told of the project's addresses; forgotten with the project.
   [[nodiscard]] Address_Values& values() { return mValues; }
   [[nodiscard]] const Address_Values& values() const { return mValues; }
+  /// Who reads and sends these values; null while nobody can. Forgotten when it goes.
+  [[nodiscard]] Value_Service* valueService() const { return mValueService; }
+  void setValueService(Value_Service* service);
   [[nodiscard]] bool isModified() const { return isOpen() && mHistory.isModified(); }
 
   /// Closes what is open, copies the file to a working copy and loads that, converting an older layout. On failure
@@ -89,6 +94,7 @@ signals:
   void opened();
   void closed();
   void pathChanged();
+  void valueServiceChanged();
 
 private:
   void onAddressChanged(const QUuid& key);
@@ -120,4 +126,5 @@ private:
   std::optional<History::State>
       mWorkingState; ///< what the working file holds; none when that is no state of the history
   QString mLastError;
+  QPointer<Value_Service> mValueService;
 };

@@ -178,7 +178,8 @@ bool Main_Network_Client::sendValue(const Group_Address& address, double value) 
     return false;
   }
   mSession.values().set(group->mKey,
-                        {*payload, wanted, QDateTime::currentMSecsSinceEpoch(), tr("Studio"), !mConnected});
+                        {*payload, Datapoint_Codec::decode(*type, *payload), QDateTime::currentMSecsSinceEpoch(),
+                         tr("Studio"), !mConnected});
   return sendTelegram(DB_Address_Network_Telegram::to(address, DB_Address_Network_Telegram::Write, *payload));
 }
 
