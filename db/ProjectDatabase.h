@@ -73,6 +73,12 @@ public:
   bool ressourceDeleteAll();
   /// In the order of the table.
   bool ressourceList(QStringList& names);
+  struct Resource_Size {
+    QString mName;
+    qint64 mBytes = 0;
+  };
+  /// The same with the sizes, without reading the files.
+  bool ressourceSizes(std::vector<Resource_Size>& sizes);
 
   /// The first element of that name in the order of pages and elements, or null. Compared exactly.
   [[nodiscard]] DB_Widget* findWidgetByName(const QString& name) const;
@@ -119,6 +125,12 @@ public:
   };
   /// The eight of them, in the order in which they are read and written.
   [[nodiscard]] std::array<Single, 8> singles();
+  /// DATA texts of the children whose parent is missing: they are kept and written again.
+  [[nodiscard]] const std::vector<QByteArray>& orphans(DB_Table table) const {
+    return mOrphans[static_cast<size_t>(table)];
+  }
+  /// Makes those of the 24 tables that the file lacks.
+  static void createTables(DB_Sqlite& database);
 
 signals:
   /// A resource was written or deleted: the file differs from what was last saved.
@@ -137,7 +149,6 @@ private:
   [[nodiscard]] std::vector<qint64> resourceRows(bool& isWhole);
   void noteForeignObjects();
   void configure();
-  static void createTables(DB_Sqlite& database);
   [[nodiscard]] bool needsRebuild() const;
   bool rebuild();
   bool makeSound() { return !needsRebuild() || rebuild(); }
@@ -171,7 +182,7 @@ private:
   void tellDeleted();
 
   DB_Load_Report mReport;
-  /// DATA texts of children whose parent is missing, by table: kept and written again.
+  /// By table.
   std::array<std::vector<QByteArray>, DB_Tables::cCount> mOrphans;
   /// What stands in the tables of the open file; none where that is not known.
   using Known_Rows = std::array<std::optional<DB_Table_Writer::Content>, DB_Tables::cCount>;

@@ -270,19 +270,30 @@ bool ProjectDatabase::ressourceDeleteAll() {
 }
 
 bool ProjectDatabase::ressourceList(QStringList& names) {
+  std::vector<Resource_Size> sizes;
+  const bool isOk = ressourceSizes(sizes);
   names.clear();
+  for (const Resource_Size& resource : sizes) {
+    names.append(resource.mName);
+  }
+  return isOk;
+}
+
+bool ProjectDatabase::ressourceSizes(std::vector<Resource_Size>& sizes) {
+  sizes.clear();
   if (!requireOpen()) {
     return false;
   }
   // Without the order the engine walks the index of the names.
-  DB_Statement select = mDatabase.prepare("SELECT FILENAME FROM " + quoted(DB_Table::Resources) + " ORDER BY rowid");
+  DB_Statement select =
+      mDatabase.prepare("SELECT FILENAME,length(DATA) FROM " + quoted(DB_Table::Resources) + " ORDER BY rowid");
   if (!select.isValid()) {
     return fail(mDatabase.errorText());
   }
   for (;;) {
     const DB_Statement::Step step = select.step();
     if (step == DB_Statement::Step::Row) {
-      names.append(QString::fromUtf8(select.text(0)));
+      sizes.push_back({QString::fromUtf8(select.text(0)), select.number(1)});
     } else {
       return step == DB_Statement::Step::Done || fail(mDatabase.errorText());
     }

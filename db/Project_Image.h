@@ -18,7 +18,8 @@ class ProjectDatabase;
 ///     1  length   u32   little-endian
 ///     5  content        the row's DATA text (UTF-8, in clear); of a resource its name, a zero byte, the file
 ///
-/// Rows keep the order of the project. Pure; reading checks lengths before it takes memory.
+/// Rows keep the order of the project. The tables that the studio only creates are in no image. Pure; reading checks
+/// lengths before it takes memory.
 class Project_Image {
 public:
   struct Row {
@@ -40,6 +41,8 @@ public:
 
   /// Makes a project file of a whole image, replacing one of that name at the end only. False with a German error.
   [[nodiscard]] bool writeFile(const QString& path, QString* error = nullptr) const;
+  /// The same from bytes, such as a controller sends.
+  [[nodiscard]] static bool writeFile(QByteArrayView bytes, const QString& path, QString* error = nullptr);
 
   std::vector<Row> mRows;
 };

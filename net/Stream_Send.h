@@ -1,6 +1,8 @@
 #pragma once
 
 #include "net/Controller_Exchange.h"
+#include "net/Paced_Sender.h"
+#include "net/Stream_Out.h"
 
 #include <QByteArray>
 
@@ -24,10 +26,11 @@ public:
 protected:
   void begin() override;
   bool take(quint32 command, QByteArrayView payload) override;
+  void abort() override;
 
 private:
   What mWhat;
-  QByteArray mBytes;
-  qsizetype mSent = 0;
+  Stream_Out mStream;
+  Paced_Sender mSender;
   QString mReplyText;
 };
