@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/Project_Digests.h"
 #include "net/Network_Message.h"
 
 #include <QByteArray>
@@ -11,7 +12,7 @@
 /// The payload that carries one resource: 255 bytes of file name (UTF-8, cut there, filled with zero bytes), then the
 /// file. Pure.
 struct Resource_Message {
-  static constexpr qsizetype cNameField = 255;
+  static constexpr qsizetype cNameField = Project_Digests::cNameBytes;
   static constexpr qint64 cMostBytes = Network_Message::cMostPadded - cNameField - 1; ///< of a file
 
   QByteArray mName;

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QCryptographicHash>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+class ProjectDatabase;
+
+/// What tells two copies of a project apart without sending them: SHA-256 as 64 hexadecimal digits. Studio and
+/// controller reckon them alike.
+struct Project_Digests {
+  /// So many bytes of a resource's name travel, and are reckoned in.
+  static constexpr qsizetype cNameBytes = 255;
+
+  QString mProgram;   ///< of the bytes of the program's image
+  QString mRecords;   ///< of the records that a project write sends behind the project record
+  QString mResources; ///< empty without any
+  int mResourceCount = 0;
+
+  [[nodiscard]] static QString program(QByteArrayView image);
+  /// The DATA texts of connections, styles, module bus, mail, statistics and telegram monitor, in this order and
+  /// without the zero bytes with which they travel: these are reckoned in.
+  [[nodiscard]] static QString records(const QList<QByteArray>& texts);
+
+  /// Takes the resources in the order of the bytes of their names: the name, a zero byte, the file. Empty files are no
+  /// resources.
+  class Resources {
+  public:
+    void add(QByteArrayView name, QByteArrayView file);
+    [[nodiscard]] int count() const { return mCount; }
+    [[nodiscard]] QString digest() const;
+
+  private:
+    QCryptographicHash mHash{QCryptographicHash::Sha256};
+    int mCount = 0;
+  };
+
+  /// Of the open project as it is in memory. None with a German error when a resource cannot be read.
+  [[nodiscard]] static std::optional<Project_Digests> of(ProjectDatabase& database, QString* error = nullptr);
+};
