@@ -16,7 +16,8 @@ Project_Session::Project_Session(Session_State& state, QObject* parent)
       mWidgetPageUndo(mDatabase.mWidgetPages),
       mBlockUndo(mDatabase.mFbPages),
       mElementUndo(mDatabase.mWidgetPages),
-      mProjectUndo(mDatabase, DB_Table::Project) {
+      mProjectUndo(mDatabase, DB_Table::Project),
+      mConnectionsUndo(mDatabase, DB_Table::Connections) {
   connect(&mDatabase, &ProjectDatabase::resourcesChanged, &mHistory, &History::setChangedOutside);
   const Address_Tree& tree = mDatabase.mAddresses;
   connect(&tree, &Address_Tree::recordChanged, this, &Project_Session::onAddressChanged);

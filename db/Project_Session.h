@@ -81,6 +81,7 @@ public:
   [[nodiscard]] Undo_Adapter& blockUndo() { return mBlockUndo; }
   [[nodiscard]] Undo_Adapter& elementUndo() { return mElementUndo; }
   [[nodiscard]] Undo_Adapter& projectUndo() { return mProjectUndo; }
+  [[nodiscard]] Undo_Adapter& connectionsUndo() { return mConnectionsUndo; }
 
 signals:
   /// The records of the old project are still there; views let go of them.
@@ -112,6 +113,7 @@ private:
   FB_Page_Undo mBlockUndo;
   Child_Undo<DB_Widget_Page> mElementUndo;
   Single_Record_Undo mProjectUndo;
+  Single_Record_Undo mConnectionsUndo;
   Working_Copy mWorkingCopy;
   QString mPath;
   File_State mFileState; ///< of the project file when its content was last read or written

@@ -73,6 +73,9 @@ void Controller_Link::setState(State state) {
 
 void Controller_Link::onConnect(bool isConnected) {
   if (isConnected) {
+    if (mState != State::Dialling) {
+      return; // somebody else dialled: a test of a connection does not log on
+    }
     setState(State::LoggingOn);
     mLogOnTimer.start();
     DB_Log_On logOn;
