@@ -10,6 +10,7 @@
 #include "net/dialogs/Controller_File.h"
 #include "net/dialogs/Dev_BackupController_Dlg.h"
 #include "net/dialogs/Dev_Clock_Dlg.h"
+#include "net/dialogs/Dev_Compare_Project_Dlg.h"
 #include "net/dialogs/Dev_Controller_Dlg.h"
 #include "net/dialogs/Dev_Restore_Backup_Dlg.h"
 #include "net/dialogs/Dev_Write_Persistent_Project_Dlg.h"
@@ -33,7 +34,7 @@ Controller_Commands::~Controller_Commands() {
 }
 
 bool Controller_Commands::isBusy() const {
-  return (mRunner && mRunner->isBusy()) || mDialog;
+  return (mRunner && mRunner->isBusy()) || (mDialog && mDialog->isVisible());
 }
 
 void Controller_Commands::closeAll() {
@@ -105,6 +106,32 @@ void Controller_Commands::storeProject(const QString& path, const QByteArray& by
   } else {
     tell(error);
   }
+}
+
+void Controller_Commands::compare() {
+  if (!isReady()) {
+    return;
+  }
+  const Exchange_Runner::Request request{
+      tr("Die Projekte werden verglichen…"), Controller_Command::Compare, {}, Controller_Command::Compare_Reply};
+  mRunner->request(tr("Projektvergleich"), request, [this](Controller_Request& compared) {
+    showComparison(compared.replyRecord<DB_Controller_Project>());
+  });
+}
+
+void Controller_Commands::showComparison(const DB_Controller_Project& controller) {
+  QString error;
+  ProjectDatabase& database = mAccess.mSession.database();
+  const std::optional<Project_Digests> digests = Project_Digests::of(database, &error);
+  if (!digests) {
+    tell(error);
+    return;
+  }
+  auto* const dialog = new Dev_Compare_Project_Dlg(Project_Comparison(database.mProject, *digests, controller),
+                                                   mAccess.mSession.state(), &mWindow);
+  connect(dialog, &QDialog::accepted, this,
+          [this] { QTimer::singleShot(0, this, &Controller_Commands::downloadProject); });
+  openDialog(dialog);
 }
 
 void Controller_Commands::backup() {

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QString>
 
+class DB_Controller_Project;
 class Exchange_Runner;
 class QDialog;
 
@@ -58,6 +59,7 @@ private:
   [[nodiscard]] bool ask(const QString& text);
   void tell(const QString& text);
   void openDialog(QDialog* dialog);
+  void showComparison(const DB_Controller_Project& controller);
   void storeProject(const QString& path, const QByteArray& bytes);
 
   Controller_Boxes mBoxes;

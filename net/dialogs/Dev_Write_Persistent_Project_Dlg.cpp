@@ -28,10 +28,22 @@ QString Dev_Write_Persistent_Project_Dlg::question() {
   return tr("Das Projekt an der Steuerung wird durch das lokale Projekt ersetzt.");
 }
 
-void Dev_Write_Persistent_Project_Dlg::onSucceeded() {
+bool Dev_Write_Persistent_Project_Dlg::tell(const QString& text) {
   const QPointer<QDialog> self(this);
-  mAccess.mQuestions.showMessage(isVisible() ? this : parentWidget(), tr("Projekt erfolgreich gespeichert"));
-  if (self) {
+  mAccess.mQuestions.showMessage(isVisible() ? this : parentWidget(), text);
+  return self;
+}
+
+void Dev_Write_Persistent_Project_Dlg::onSucceeded() {
+  if (tell(tr("Projekt erfolgreich gespeichert"))) {
     accept();
+  }
+}
+
+/// Too late to keep the old project there: that must be known.
+void Dev_Write_Persistent_Project_Dlg::onCancelled() {
+  const bool hasStarted = static_cast<Project_Transfer*>(exchange())->hasStarted();
+  if (!hasStarted || tell(tr("Das Projekt läuft auf der Steuerung. Die Übertragung der Ressourcen ist abgebrochen."))) {
+    QDialog::reject();
   }
 }

@@ -21,7 +21,11 @@ public:
 
 protected:
   void onSucceeded() override;
+  void onCancelled() override;
 
 private:
+  /// False when the dialog has gone meanwhile.
+  [[nodiscard]] bool tell(const QString& text);
+
   Controller_Access mAccess;
 };

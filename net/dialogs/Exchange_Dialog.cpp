@@ -109,7 +109,7 @@ void Exchange_Dialog::onFinished(Controller_Exchange::End end) {
     onSucceeded();
     return;
   case Controller_Exchange::End::Cancelled:
-    QDialog::reject();
+    onCancelled();
     return;
   default:
     mText->setText(mExchange->errorText());

@@ -37,6 +37,8 @@ public:
 protected:
   /// The exchange has ended with success.
   virtual void onSucceeded() { accept(); }
+  /// It has ended because the user wanted it so.
+  virtual void onCancelled() { QDialog::reject(); }
 
 private:
   void onProgress(const QString& label, int value, int maximum);
