@@ -3,7 +3,7 @@
 #include <algorithm>
 
 const Simulator_Commands::Row* Simulator_Commands::find(quint32 command) {
-  for (const std::span<const Row> rows : {linkRows(), projectRows(), backupRows(), serviceRows()}) {
+  for (const std::span<const Row> rows : {linkRows(), projectRows(), backupRows(), serviceRows(), scriptRows()}) {
     const auto row = std::ranges::find(rows, command, &Row::mCommand);
     if (row != rows.end()) {
       return &*row;

@@ -35,5 +35,6 @@ struct Row {
 [[nodiscard]] std::span<const Row> projectRows();
 [[nodiscard]] std::span<const Row> backupRows();
 [[nodiscard]] std::span<const Row> serviceRows();
+[[nodiscard]] std::span<const Row> scriptRows();
 
 } // namespace Simulator_Commands

@@ -6,6 +6,7 @@
 
 #include <QNetworkProxy>
 #include <QTcpSocket>
+#include <QtEndian>
 
 #include <utility>
 
@@ -13,13 +14,23 @@ Simulator_Server::Simulator_Server(const Simulator_Options& options, QObject* pa
     : QObject(parent),
       mController(options),
       mCycle(mController),
-      mDiscovery(mController) {
+      mDiscovery(mController),
+      mScripts(mController) {
   for (const QString& fault : options.mFaults) {
     mFaults.add(fault);
   }
   mListener.setProxy(QNetworkProxy::NoProxy);
   connect(&mListener, &QTcpServer::newConnection, this, &Simulator_Server::onNewConnection);
   connect(&mController, &Simulator_Controller::told, this, &Simulator_Server::tell);
+  connect(&mScripts, &Simulator_Scripts::wrote, this, [this](const QUuid& block, const QString& line) {
+    QByteArray time(sizeof(qint64), '\0');
+    qToLittleEndian(mController.now(), time.data());
+    tellWatching(block, Controller_Command::Script_Console, time + line.toUtf8());
+  });
+  connect(&mScripts, &Simulator_Scripts::watched, this,
+          [this](const QUuid& block, const QString& name, const QString& value) {
+            tellWatching(block, Controller_Command::Script_Variable, name.toUtf8() + '\0' + value.toUtf8());
+          });
   mRestarting.setSingleShot(true);
   mRestarting.setInterval(options.mRestartMs);
   connect(&mRestarting, &QTimer::timeout, this, [this] {
@@ -123,6 +134,14 @@ void Simulator_Server::tell(const DB_Address_Network_Telegram& telegram) {
   for (Simulator_Session* const session : std::as_const(mSessions)) {
     if (session->isLoggedOn()) {
       session->send(Controller_Command::Telegram, bytes);
+    }
+  }
+}
+
+void Simulator_Server::tellWatching(const QUuid& block, quint32 command, const QByteArray& payload) {
+  for (Simulator_Session* const session : std::as_const(mSessions)) {
+    if (session->isLoggedOn() && session->watches(block)) {
+      session->send(command, block.toRfc4122() + payload);
     }
   }
 }

@@ -4,6 +4,7 @@
 #include "simulator/Simulator_Cycle.h"
 #include "simulator/Simulator_Discovery.h"
 #include "simulator/Simulator_Faults.h"
+#include "simulator/Simulator_Scripts.h"
 
 #include <QList>
 #include <QObject>
@@ -46,6 +47,7 @@ public:
   /// The same, and takes new ones only when it is up again, with what is kept.
   void restart();
 
+  [[nodiscard]] Simulator_Scripts& scripts() { return mScripts; }
   /// Period of telegrams by itself, in milliseconds; 0 for none.
   void setCycle(int ms) { mCycle.setPeriod(ms); }
   /// Whether telegrams are logged, too.
@@ -66,6 +68,7 @@ signals:
   void logged(const QString& line) const;
 
 private:
+  void tellWatching(const QUuid& block, quint32 command, const QByteArray& payload);
   void onNewConnection();
   void onClosed(Simulator_Session* session);
 
@@ -76,6 +79,7 @@ private:
   Simulator_Session* mWriter = nullptr;
   Simulator_Cycle mCycle;
   Simulator_Discovery mDiscovery;
+  Simulator_Scripts mScripts;
   QTimer mRestarting;
   bool mIsLoggingAll = true;
   quint16 mPort = 0;

@@ -5,9 +5,12 @@
 #include "simulator/Simulator_Project.h"
 #include "simulator/Simulator_Wire.h"
 
+#include <QDeadlineTimer>
+#include <QHash>
 #include <QObject>
 #include <QSet>
 #include <QString>
+#include <QUuid>
 
 class QTcpSocket;
 class Simulator_Server;
@@ -49,6 +52,14 @@ public:
   /// Persistent values that are coming in.
   [[nodiscard]] Byte_Stream& values() { return mValues; }
 
+  /// The script's messages go to this connection, too, for so long.
+  static constexpr int cWatchMs = 10'000;
+  void watch(const QUuid& block) { mWatched.insert(block, QDeadlineTimer(cWatchMs)); }
+  [[nodiscard]] bool watches(const QUuid& block) const {
+    const auto it = mWatched.constFind(block);
+    return it != mWatched.cend() && !it->hasExpired();
+  }
+
 signals:
   void closed(Simulator_Session* session);
 
@@ -61,5 +72,6 @@ private:
   Simulator_Frame_Reader mReader;
   Staging mStaging;
   Byte_Stream mValues;
+  QHash<QUuid, QDeadlineTimer> mWatched;
   bool mIsLoggedOn = false;
 };
