@@ -17,12 +17,20 @@ QString tr(const char* text) {
   return QCoreApplication::translate("Action_Table", text);
 }
 
+constexpr char cOnlineIcon[] = ":/icons/control_online.png";
+
+bool hasLinkText(const Action_Row& row, const Action_State& state) {
+  return row.mEffect == Action_Effect::Link && !state.mLinkText.isEmpty();
+}
+
 QString stepTip(const Action_Row& row, const QString& step) {
   return step.isEmpty() ? tr(row.mTip) : Action_Table::text(row) + QStringLiteral(": ") + step;
 }
 
 bool isMet(When when, const Action_State& state) {
   switch (when) {
+  case When::Online:
+    return state.mIsOnline;
   case When::Undo:
     return state.mCanUndo;
   case When::Redo:
@@ -67,6 +75,8 @@ QString reason(When when) {
     return tr("Es gibt keinen zurückgenommenen Schritt.");
   case When::Page:
     return tr("Es wird keine Seite gezeigt.");
+  case When::Online:
+    return tr("Keine Verbindung zur Steuerung");
   case When::Pages:
     return tr("Es ist keine weitere Seite geöffnet.");
   case When::Logic:
@@ -141,16 +151,19 @@ QString Action_Table::barTitle(Action_Bar bar) {
   return {};
 }
 
-QString Action_Table::iconName(const Action_Row& row) {
-  return QFileInfo(QString::fromLatin1(row.mIcon)).completeBaseName();
+QString Action_Table::iconName(const Action_Row& row, const Action_State& state) {
+  const char* const icon = row.mEffect == Action_Effect::Link && state.mIsOnline ? cOnlineIcon : row.mIcon;
+  return QFileInfo(QString::fromLatin1(icon)).completeBaseName();
 }
 
 QString Action_Table::text(const Action_Row& row) {
   return tr(row.mText);
 }
 
-QString Action_Table::menuText(const Action_Row& row) {
-  return Access_Key::mark(text(row), row.mAccessKey);
+QString Action_Table::menuText(const Action_Row& row, const Action_State& state) {
+  // What stands behind the tab is no text for access keys: a name may hold the letter, and "&" stands for itself.
+  const QString shown = Access_Key::mark(text(row), row.mAccessKey);
+  return hasLinkText(row, state) ? shown + u'\n' + QString(state.mLinkText).replace(u'&', QStringLiteral("&&")) : shown;
 }
 
 QString Action_Table::barText(const Action_Row& row) {
@@ -168,13 +181,20 @@ QString Action_Table::statusTip(const Action_Row& row, const Action_State& state
   case When::Redo:
     return stepTip(row, state.mRedoText);
   default:
-    return tr(row.mTip);
+    break;
   }
+  if (row.mEffect == Action_Effect::Link && state.mIsLinkWanted) {
+    return tr("Trennt die Verbindung zur Steuerung");
+  }
+  return tr(row.mTip);
 }
 
 QString Action_Table::toolTip(const Action_Row& row, const Action_State& state) {
   if (*row.mToolTip) {
     return tr(row.mToolTip);
+  }
+  if (hasLinkText(row, state)) {
+    return text(row) + u'\n' + state.mLinkText;
   }
   const QString tip = statusTip(row, state);
   const QKeySequence keys(QString::fromLatin1(row.mKeys), QKeySequence::PortableText);

@@ -36,8 +36,9 @@ enum class Action_When {
   Editable, ///< a project is open and may be edited
   Undo,
   Redo,
-  Page,  ///< a page is shown in a tab
-  Pages, ///< there is more than one tab
+  Page,   ///< a page is shown in a tab
+  Pages,  ///< there is more than one tab
+  Online, ///< the link to the controller stands
   // Of the logic page that is shown; those behind the first two only while it may be edited.
   Logic, ///< there is one
   Block, ///< a block is selected
@@ -66,16 +67,18 @@ enum class Action_Check {
 
 /// What an action that can be used changes.
 enum class Action_Effect {
-  None,    ///< it cannot be used yet
-  Project, ///< which project is open, what it holds or whether it is saved
-  View,    ///< what the window shows, or who has the keyboard focus
-  Edit,    ///< text, selection or clipboard of who has the keyboard focus
-  Dialog,  ///< a window opens
-  Menu,    ///< a submenu opens
-  Mode,    ///< the operating mode
-  Zoom,    ///< of the page that is shown
-  Setting, ///< a setting of the studio
-  Window,  ///< the window closes
+  None,       ///< it cannot be used yet
+  Project,    ///< which project is open, what it holds or whether it is saved
+  View,       ///< what the window shows, or who has the keyboard focus
+  Edit,       ///< text, selection or clipboard of who has the keyboard focus
+  Dialog,     ///< a window opens
+  Menu,       ///< a submenu opens
+  Mode,       ///< the operating mode
+  Zoom,       ///< of the page that is shown
+  Setting,    ///< a setting of the studio
+  Window,     ///< the window closes
+  Link,       ///< the link to the controller
+  Controller, ///< what the controller holds or does
 };
 
 /// One command of the main window.
@@ -115,6 +118,9 @@ struct Action_State {
   bool mAreValuesShown = false;
   bool mIsOrderShown = false;
   bool mKeepsOutputs = false; ///< copied blocks keep the bindings of their outputs
+  bool mIsLinkWanted = false; ///< from dialling until the link is ended
+  bool mIsOnline = false;     ///< the link to the controller stands
+  QString mLinkText;          ///< how it stands, with the connection's name
   // Of what has the keyboard focus.
   bool mCanCut = false;
   bool mCanCopy = false;
@@ -133,10 +139,10 @@ namespace Action_Table {
 [[nodiscard]] QString menuTitle(Action_Menu menu); ///< of the menus of the menu bar
 [[nodiscard]] QString barTitle(Action_Bar bar);
 /// As the theme knows it.
-[[nodiscard]] QString iconName(const Action_Row& row);
+[[nodiscard]] QString iconName(const Action_Row& row, const Action_State& state = {});
 [[nodiscard]] QString text(const Action_Row& row);
-/// With "&" before the access key.
-[[nodiscard]] QString menuText(const Action_Row& row);
+/// With "&" before the access key; "Verbinden" with how the link stands behind its key.
+[[nodiscard]] QString menuText(const Action_Row& row, const Action_State& state = {});
 [[nodiscard]] QString barText(const Action_Row& row);
 /// For the status line; undo and redo name their step. Tells the reason when the action is disabled.
 [[nodiscard]] QString statusTip(const Action_Row& row, const Action_State& state);

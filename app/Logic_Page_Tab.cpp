@@ -1,7 +1,9 @@
 #include "app/Logic_Page_Tab.h"
 
+#include "db/Project_Session.h"
 #include "fb/FB_Page.h"
 #include "fb/FB_Page_Parent_ScrollView.h"
+#include "fb/FB_Session_Values.h"
 
 #include <QVBoxLayout>
 
@@ -12,6 +14,9 @@ Logic_Page_Tab::Logic_Page_Tab(Project_Session& session, App_Settings& settings,
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(new FB_Page_Parent_ScrollView(mCanvas));
   setFocusProxy(mCanvas);
+  mCanvas->setValueSource(
+      [&session](const DB_Address_Binding& binding) { return FB_Session_Values::of(session, binding); });
+  connect(&session.values(), &Address_Values::changed, mCanvas, qOverload<const QSet<QUuid>&>(&FB_Page::valuesChanged));
 }
 
 QUuid Logic_Page_Tab::page() const {

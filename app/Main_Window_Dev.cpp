@@ -4,6 +4,7 @@
 #include "app/Address_Exchange.h"
 #include "app/Autosave.h"
 #include "app/Command_Palette.h"
+#include "app/Dev_Settings_Dlg.h"
 #include "app/Edit_Target.h"
 #include "app/Geo_Position_Dlg.h"
 #include "app/Language_Menu.h"
@@ -12,7 +13,6 @@
 #include "app/Project_Lifecycle.h"
 #include "app/Project_Overview.h"
 #include "app/Recent_Projects_Menu.h"
-#include "app/Settings_Dlg.h"
 #include "app/Start_Page.h"
 #include "app/Window_Actions.h"
 #include "app/Window_Dialogs.h"
@@ -401,7 +401,7 @@ void Main_Window_Dev::onControlPlay() {
 }
 
 void Main_Window_Dev::onExtrasSettingsDev() {
-  Settings_Dlg(mSettings, this).exec();
+  Dev_Settings_Dlg(mSettings, this).exec();
 }
 
 void Main_Window_Dev::onSelectLanguage(QAction* action) {

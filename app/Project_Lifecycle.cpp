@@ -109,7 +109,9 @@ bool Project_Lifecycle::create(const QString& path) {
   if (!isReplacingAccepted(path) || !isOverwritingAccepted(path)) {
     return false;
   }
-  if (!mSession.create(path, {})) {
+  New_Project::Options options;
+  options.mConnectionName = mSettings.text(Setting::AppDefaultConnection);
+  if (!mSession.create(path, options)) {
     mDialogs.showMessage(tr("Fehler beim Speichern der Datei") + u'\n' + mSession.lastError());
     return false;
   }

@@ -36,7 +36,7 @@ Window_Actions::Window_Actions(QMainWindow& window) : QObject(&window) {
     action->setObjectName(QString::fromLatin1(row.mSlot));
     action->setText(Action_Table::menuText(row));
     action->setIconText(Action_Table::barText(row));
-    action->setIcon(Theme::icon(Action_Table::iconName(row)));
+    showIcon(*action, Action_Table::iconName(row));
     action->setShortcut(QKeySequence(QString::fromLatin1(row.mKeys), QKeySequence::PortableText));
     if (Action_Table::isOfFocus(row)) {
       // Only told here: who has the focus takes these keys itself, and two takers would leave both without effect.
@@ -89,10 +89,20 @@ void Window_Actions::addTo(QMainWindow& window, const Action_Row& row, QAction* 
   }
 }
 
+void Window_Actions::showIcon(QAction& action, const QString& name) {
+  if (mIconNames.value(&action) != name) {
+    mIconNames.insert(&action, name);
+    action.setIcon(Theme::icon(name));
+  }
+}
+
 void Window_Actions::update(const Action_State& state) {
   for (const Action_Row& row : Action_Table::rows()) {
     QAction* const action = mActions.value(QString::fromLatin1(row.mSlot));
     action->setEnabled(Action_Table::whyDisabled(row, state).isEmpty());
+    action->setText(Action_Table::menuText(row, state));
+    action->setIconText(Action_Table::barText(row)); // else it would follow the text
+    showIcon(*action, Action_Table::iconName(row, state));
     action->setStatusTip(Action_Table::statusTip(row, state));
     action->setToolTip(Action_Table::toolTip(row, state));
     action->setChecked(Action_Table::isChecked(row, state));

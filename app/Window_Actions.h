@@ -35,8 +35,10 @@ private:
   [[nodiscard]] QMenu* makeSubmenu(QMainWindow& window, const Action_Row& row);
   [[nodiscard]] QMenu* menuOf(QMainWindow& window, Action_Menu id);
   void addTo(QMainWindow& window, const Action_Row& row, QAction* action);
+  void showIcon(QAction& action, const QString& name);
 
   QHash<QString, QAction*> mActions;
   QHash<Action_Menu, QMenu*> mMenus;
   QHash<Action_Menu, int> mLastGroups;
+  QHash<const QAction*, QString> mIconNames; ///< as they are shown
 };

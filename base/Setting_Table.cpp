@@ -47,11 +47,13 @@ constexpr Setting_Row cRows[] = {
 
     {Setting::AppDefaultConnection, "mAppDefaultConnection", Group::Controller, Kind::Text, 0, 0, 0, u'N',
      QT_TRANSLATE_NOOP("Setting_Table", "Name der Verbindung neuer Projekte"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Verbindung, mit der ein Projekt ohne eigene beginnt"), "", "", cWithLink},
+     QT_TRANSLATE_NOOP("Setting_Table", "Verbindung, mit der ein neues Projekt beginnt; leer für \"Steuerung\"")},
+    {Setting::DiscoveryAddresses, "mDiscoveryAddresses", Group::Controller, Kind::Text, 0, 0, 0, u'c',
+     QT_TRANSLATE_NOOP("Setting_Table", "Adressen für die Suche nach Steuerungen"),
+     QT_TRANSLATE_NOOP("Setting_Table", "IPv4-Adressen, durch Komma getrennt; leer für alle Netze dieses Rechners")},
     {Setting::AskBeforeWriteBootProject, "mAskBeforeWriteBootProject", Group::Controller, Kind::Switch, 1, 0, 1, u'V',
      QT_TRANSLATE_NOOP("Setting_Table", "Vor dem Erzeugen des Bootprojekts fragen"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Fragt, bevor das Projekt permanent auf der Steuerung gespeichert wird"), "", "",
-     cWithLink},
+     QT_TRANSLATE_NOOP("Setting_Table", "Fragt, bevor das Projekt permanent auf der Steuerung gespeichert wird")},
 
     {Setting::McpPort, "mMcpPort", Group::Assistant, Kind::Number, 0, 0, 65535, u'P',
      QT_TRANSLATE_NOOP("Setting_Table", "MCP-Server Port (0 = deaktiviert, Neustart nötig)"),

@@ -15,6 +15,7 @@ enum class Setting {
   ShowHsBlocks,
   LanguageUsr,
   AppDefaultConnection,
+  DiscoveryAddresses,
   AskBeforeWriteBootProject,
   McpPort,
   McpDebug,

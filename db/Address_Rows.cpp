@@ -2,6 +2,7 @@
 
 #include "base/Text_Order.h"
 #include "db/Address_Type_Text.h"
+#include "db/Address_Value_Text.h"
 #include "db/ProjectDatabase.h"
 
 #include <QCoreApplication>
@@ -11,6 +12,8 @@
 #include <array>
 #include <bitset>
 #include <charconv>
+#include <limits>
+#include <tuple>
 #include <type_traits>
 
 namespace {
@@ -206,11 +209,34 @@ private:
         return sortBy(list, [](const Group& group) { return !group.mActive; });
       case cOrigin:
         return sortBy(list, [this](const Group& group) { return mCollator.sortKey(group.mOrigin); });
+      case cValue:
+        return sortBy(list, [this](const Group& group) { return valueKey(group); });
+      case cTime:
+        return sortBy(list, [this](const Group& group) {
+          const Address_Value* const value = mRows.mValues.find(group.mKey);
+          return value ? value->mTime : std::numeric_limits<qint64>::max();
+        });
+      case cSource:
+        return sortBy(list, [this](const Group& group) {
+          const Address_Value* const value = mRows.mValues.find(group.mKey);
+          return mCollator.sortKey(value ? value->mSource : QString());
+        });
       default:
         break;
       }
     }
     sortBy(list, [this](const Group& group) { return mCollator.sortKey(ownText(group, mRows.mOrder.mColumn)); });
+  }
+
+  /// Numbers before texts, and what is not known last.
+  [[nodiscard]] std::tuple<int, double, QString> valueKey(const DB_Address_Sub_Group& group) const {
+    const Address_Value* const value = mRows.mValues.find(group.mKey);
+    if (!value) {
+      return {2, 0, {}};
+    }
+    const std::optional<double> number = value->mValue ? value->mValue->number() : std::nullopt;
+    return number ? std::tuple(0, *number, QString())
+                  : std::tuple(1, 0.0, Address_Value_Text::text(group.mDpt, *value));
   }
 
   template <class Group, class Key_Of>
@@ -315,6 +341,10 @@ QString Address_Rows::text(const Row& row, int column) const {
       return subOf(row).mDpt.toString();
     case cOrigin:
       return subOf(row).mOrigin;
+    case cValue:
+    case cTime:
+    case cSource:
+      return valueText(subOf(row), column);
     default:
       return ownText(subOf(row), column);
     }
@@ -335,6 +365,20 @@ QString Address_Rows::text(const Row& row, int column) const {
   }
   }
   return {};
+}
+
+QString Address_Rows::valueText(const DB_Address_Sub_Group& group, int column) const {
+  const Address_Value* const value = mValues.find(group.mKey);
+  if (!value) {
+    return {};
+  }
+  return column == cValue  ? Address_Value_Text::text(group.mDpt, *value)
+         : column == cTime ? Address_Value_Text::time(*value)
+                           : value->mSource;
+}
+
+const Address_Value* Address_Rows::valueOf(const Row& row) const {
+  return row.mKind == Kind::Sub ? mValues.find(subOf(row).mKey) : nullptr;
 }
 
 const Address_Use& Address_Rows::useOf(const Row& row) const {

@@ -2,6 +2,7 @@
 
 #include "db/Address_Tree.h"
 #include "db/Address_Usage.h"
+#include "db/Address_Values.h"
 
 #include <QHash>
 #include <QString>
@@ -12,9 +13,13 @@
 
 /// The rows of the address tree as a view shows them: main groups with their middle groups with their addresses, and
 /// behind them the branch of internal variables, each with its uses; filtered by words, and every level sorted by one
-/// column. A row stays where it is in memory until the rows are built anew.
+/// column, by live values as they are when the rows are built. A row stays where it is in memory until the rows are
+/// built anew.
 class Address_Rows {
 public:
+  /// Outlives the rows.
+  explicit Address_Rows(const Address_Values& values) : mValues(values) {}
+
   enum class Kind { Main, Middle, Sub, Variables, Variable, Use };
 
   enum Column {
@@ -27,6 +32,9 @@ public:
     cWrite,
     cActive,
     cOrigin, ///< of an import: how the address stood there
+    cValue,  ///< the last that is known; this and what follows is live
+    cTime,
+    cSource,
     cColumnCount,
   };
 
@@ -64,14 +72,19 @@ public:
   /// Of a row of that kind.
   [[nodiscard]] const Address_Use& useOf(const Row& row) const;
 
+  /// The live value of an address; null for other rows, and while none is known.
+  [[nodiscard]] const Address_Value* valueOf(const Row& row) const;
+
   /// What a cell says; flags are no texts.
   [[nodiscard]] QString text(const Row& row, int column) const;
 
 private:
   class Builder;
 
+  [[nodiscard]] QString valueText(const DB_Address_Sub_Group& group, int column) const;
   [[nodiscard]] const Row* find(const std::vector<Row>& rows, int number, const DB_Data_Base* record) const;
 
+  const Address_Values& mValues;
   const ProjectDatabase* mDatabase = nullptr;
   const Address_Usage* mUsage = nullptr;
   Address_Usage::Type_Name mBlockType;

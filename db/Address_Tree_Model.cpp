@@ -3,6 +3,7 @@
 #include "base/Session_State.h"
 #include "db/Address_Clipboard.h"
 #include "db/Address_Type_Text.h"
+#include "db/Address_Value_Text.h"
 #include "db/Model_Roles.h"
 #include "db/Project_Session.h"
 #include "db/Variable_Edits.h"
@@ -41,6 +42,9 @@ const std::array<Column_Row, Address_Rows::cColumnCount> cColumns{{
     {QT_TRANSLATE_NOOP("Address_Tree_Model", "Schreiben"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Die Steuerung darf den Wert auf den Bus schreiben"), Field::Write, &DB_Address_Sub_Group::mWrite},
     {QT_TRANSLATE_NOOP("Address_Tree_Model", "Aktiv"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Die Steuerung verwendet die Adresse"), Field::Active, &DB_Address_Sub_Group::mActive},
     {QT_TRANSLATE_NOOP("Address_Tree_Model", "Herkunft"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Wie die Adresse und ihre Bereiche in einem Import hießen, wo es hier anders steht"), {}},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Wert"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Der letzte Wert, der von der Steuerung kam oder an sie gesendet wurde. Sortiert wird nach dem Stand beim Anklicken."), {}},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Zeit"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Wann der Wert kam. Sortiert wird nach dem Stand beim Anklicken."), {}},
+    {QT_TRANSLATE_NOOP("Address_Tree_Model", "Quelle"), QT_TRANSLATE_NOOP("Address_Tree_Model", "Wer den Wert gesendet hat: physikalische Adresse, Steuerung oder Studio. Sortiert wird nach dem Stand beim Anklicken."), {}},
 }};
 // clang-format on
 
@@ -52,7 +56,8 @@ const Column_Row& columnOf(int column) {
 
 Address_Tree_Model::Address_Tree_Model(Project_Session& session, QObject* parent)
     : QAbstractItemModel(parent),
-      mSession(session) {
+      mSession(session),
+      mRows(session.values()) {
   const ProjectDatabase& database = session.database();
   const Address_Tree& tree = database.mAddresses;
   connect(&tree, &Address_Tree::structureAboutToChange, this, &Address_Tree_Model::onStructureAboutToChange);
@@ -231,6 +236,11 @@ QString Address_Tree_Model::toolTip(const Row& row, int column) const {
   if (sub && column == Address_Rows::cType) {
     return Address_Type_Text::toolTip(sub->mDpt, sub->mDptGuessed, sub->mDptRaw);
   }
+  if (sub && column >= Address_Rows::cValue) {
+    const Address_Value* const value = mRows.valueOf(row);
+    return value ? Address_Value_Text::toolTip(sub->mDpt, *value)
+                 : tr("Es ist noch kein Wert bekannt. Werte kommen, sobald die Steuerung verbunden ist.");
+  }
   return columnOf(column).mFlag ? tr(columnOf(column).mTip) : mRows.text(row, column);
 }
 
@@ -262,10 +272,23 @@ QVariant Address_Tree_Model::data(const QModelIndex& index, int role) const {
     return Model_Roles::toolTip(toolTip(*row, index.column()));
   case Qt::CheckStateRole:
     return checkState(*row, index.column());
+  case Model_Roles::cIsStale: {
+    const Address_Value* const value = index.column() >= Address_Rows::cValue ? mRows.valueOf(*row) : nullptr;
+    return value && value->mIsStale;
+  }
   case Model_Roles::cIconName:
     return index.column() == Address_Rows::cAddress ? icons[static_cast<size_t>(row->mKind)] : QVariant();
   default:
     return {};
+  }
+}
+
+void Address_Tree_Model::tellValues(const QSet<QUuid>& changed, const QModelIndexList& seen) {
+  for (const QModelIndex& index : seen) {
+    if (changed.contains(keyOf(index))) {
+      emit dataChanged(index.siblingAtColumn(Address_Rows::cValue), index.siblingAtColumn(Address_Rows::cSource),
+                       {Qt::DisplayRole, Qt::ToolTipRole, Model_Roles::cIsStale});
+    }
   }
 }
 

@@ -4,6 +4,7 @@
 #include "db/Address_Rows.h"
 
 #include <QAbstractItemModel>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
@@ -62,6 +63,10 @@ public:
 
   /// What the uses call a block without a name of its own.
   void setBlockTypeName(const Address_Usage::Type_Name& name) { mRows.setBlockTypeName(name); }
+
+  /// Of these rows those whose live values changed are told to have changed. Values come by the thousand, so who shows
+  /// the model asks for the rows that are seen; order and filter stay as they are.
+  void tellValues(const QSet<QUuid>& changed, const QModelIndexList& seen);
 
   /// Why that text may not stand in the cell (German); empty when it may.
   [[nodiscard]] QString whyNot(const QModelIndex& index, const QString& text) const;

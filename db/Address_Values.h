@@ -41,6 +41,8 @@ public:
   void setAllStale();
   void remove(const QUuid& key);
   void clear();
+  /// Of all that are known.
+  [[nodiscard]] QList<QUuid> keys() const { return mValues.keys(); }
 
 signals:
   /// Those that came, changed or went since it was last told.

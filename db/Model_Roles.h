@@ -25,6 +25,9 @@ inline constexpr int cIdentity = Qt::UserRole + 2;
 /// Which parts of the cell's text were searched for: a `QList<Text_Search::Match>`.
 inline constexpr int cMatches = Qt::UserRole + 3;
 
+/// Whether what the cell says may be out of date; the view draws it paler.
+inline constexpr int cIsStale = Qt::UserRole + 4;
+
 /// For the tool tip role: the text as it is. A tool tip would take what looks like mark-up for it.
 [[nodiscard]] inline QVariant toolTip(const QString& text) {
   return text.isEmpty() ? QVariant() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());

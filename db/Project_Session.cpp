@@ -16,7 +16,8 @@ Project_Session::Project_Session(Session_State& state, QObject* parent)
       mWidgetPageUndo(mDatabase.mWidgetPages),
       mBlockUndo(mDatabase.mFbPages),
       mElementUndo(mDatabase.mWidgetPages),
-      mProjectUndo(mDatabase, DB_Table::Project) {
+      mProjectUndo(mDatabase, DB_Table::Project),
+      mConnectionsUndo(mDatabase, DB_Table::Connections) {
   connect(&mDatabase, &ProjectDatabase::resourcesChanged, &mHistory, &History::setChangedOutside);
   const Address_Tree& tree = mDatabase.mAddresses;
   connect(&tree, &Address_Tree::recordChanged, this, &Project_Session::onAddressChanged);
@@ -35,6 +36,11 @@ void Project_Session::onAddressChanged(const QUuid& key) {
 
 void Project_Session::onAddressesChanged() {
   Binding_Refresh::all(mDatabase);
+}
+
+void Project_Session::setValueService(Value_Service* service) {
+  mValueService = service;
+  emit valueServiceChanged();
 }
 
 bool Project_Session::fail(const QString& text) {

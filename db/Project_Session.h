@@ -9,10 +9,12 @@
 #include "db/Page_Undo.h"
 #include "db/ProjectDatabase.h"
 #include "db/Single_Record_Undo.h"
+#include "db/Value_Service.h"
 #include "db/Working_Copy.h"
 
 #include <QDateTime>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <optional>
@@ -37,6 +39,9 @@ public:
   /// What the controller last told of the project's addresses; forgotten with the project.
   [[nodiscard]] Address_Values& values() { return mValues; }
   [[nodiscard]] const Address_Values& values() const { return mValues; }
+  /// Who reads and sends these values; null while nobody can. Forgotten when it goes.
+  [[nodiscard]] Value_Service* valueService() const { return mValueService; }
+  void setValueService(Value_Service* service);
   [[nodiscard]] bool isModified() const { return isOpen() && mHistory.isModified(); }
 
   /// Closes what is open, copies the file to a working copy and loads that, converting an older layout. On failure
@@ -81,6 +86,7 @@ public:
   [[nodiscard]] Undo_Adapter& blockUndo() { return mBlockUndo; }
   [[nodiscard]] Undo_Adapter& elementUndo() { return mElementUndo; }
   [[nodiscard]] Undo_Adapter& projectUndo() { return mProjectUndo; }
+  [[nodiscard]] Undo_Adapter& connectionsUndo() { return mConnectionsUndo; }
 
 signals:
   /// The records of the old project are still there; views let go of them.
@@ -88,6 +94,7 @@ signals:
   void opened();
   void closed();
   void pathChanged();
+  void valueServiceChanged();
 
 private:
   void onAddressChanged(const QUuid& key);
@@ -112,10 +119,12 @@ private:
   FB_Page_Undo mBlockUndo;
   Child_Undo<DB_Widget_Page> mElementUndo;
   Single_Record_Undo mProjectUndo;
+  Single_Record_Undo mConnectionsUndo;
   Working_Copy mWorkingCopy;
   QString mPath;
   File_State mFileState; ///< of the project file when its content was last read or written
   std::optional<History::State>
       mWorkingState; ///< what the working file holds; none when that is no state of the history
   QString mLastError;
+  QPointer<Value_Service> mValueService;
 };

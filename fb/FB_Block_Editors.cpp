@@ -68,11 +68,52 @@ FB_Block_Editor* FB_Block_Editors::open(const QUuid& block) {
     editor = row->mMake(mSession, mSettings, block, mWindows);
     connect(editor, &FB_Block_Editor::helpRequested, this, &FB_Block_Editors::helpRequested);
     connect(editor, &FB_Block_Editor::statusText, this, &FB_Block_Editors::statusText);
+    if (FB_Lua_Script_Editor* const ofScript = script(block)) {
+      connectScript(*ofScript);
+    }
   }
   editor->show();
   editor->raise();
   editor->activateWindow();
   return editor;
+}
+
+void FB_Block_Editors::connectScript(FB_Lua_Script_Editor& editor) {
+  connect(&editor, &FB_Lua_Script_Editor::runWanted, this, &FB_Block_Editors::runWanted);
+  connect(&editor, &FB_Lua_Script_Editor::keepAliveWanted, this, &FB_Block_Editors::keepAliveWanted);
+  editor.setConnected(mIsConnected);
+}
+
+FB_Lua_Script_Editor* FB_Block_Editors::script(const QUuid& block) const {
+  return qobject_cast<FB_Lua_Script_Editor*>(mOpen.value(block).data());
+}
+
+void FB_Block_Editors::setConnected(bool isConnected) {
+  mIsConnected = isConnected;
+  const auto blocks = mOpen.keys();
+  for (const QUuid& block : blocks) {
+    if (FB_Lua_Script_Editor* const editor = script(block)) {
+      editor->setConnected(isConnected);
+    }
+  }
+}
+
+void FB_Block_Editors::showRun(const QUuid& block, const QString& error) {
+  if (FB_Lua_Script_Editor* const editor = script(block)) {
+    editor->showRun(error);
+  }
+}
+
+void FB_Block_Editors::addTrace(const QUuid& block, const QDateTime& time, const QString& text) {
+  if (FB_Lua_Script_Editor* const editor = script(block)) {
+    editor->addTrace(time, text);
+  }
+}
+
+void FB_Block_Editors::setVariable(const QUuid& block, const QString& name, const QString& value) {
+  if (FB_Lua_Script_Editor* const editor = script(block)) {
+    editor->setVariable(name, value);
+  }
 }
 
 bool FB_Block_Editors::finishAll() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fb/FB_Live_Value.h"
 #include "fb/FB_Texts.h"
 #include "fb/model/FB_Pin_Ref.h"
 
@@ -30,8 +31,8 @@ public:
   [[nodiscard]] virtual bool isDebugToolTip() const = 0;
   /// Whether the values at the pins are shown ("Anzeige IO").
   [[nodiscard]] virtual bool isShowingValues() const = 0;
-  /// The value of what is bound, ready to be shown; empty when none is known.
-  [[nodiscard]] virtual QString valueOf(const DB_Address_Binding& binding) const = 0;
+  /// The value of what is bound.
+  [[nodiscard]] virtual FB_Live_Value valueOf(const DB_Address_Binding& binding) const = 0;
   /// Names of the other pages on which the pin's binding is used too; empty for none: "Erdgeschoss", "Technik, Außen".
   [[nodiscard]] virtual QString linkedPages(const FB_Pin_Ref& pin) const = 0;
 
@@ -54,6 +55,8 @@ public:
   virtual bool generateVariables(FB_Base& /*block*/) { return false; }
   /// The window in which the block is edited shall open.
   virtual void openBlockEditor(FB_Base& block) = 0;
+  /// Sends a value, as it would be typed, to what is bound, and tells what came of it. Only a page does it.
+  virtual void sendValue(const DB_Address_Binding& /*binding*/, const QString& /*typed*/) {}
 
   /// What the blocks of the page draw their texts with.
   [[nodiscard]] FB_Texts& texts() { return mTexts; }

@@ -5,7 +5,10 @@
 #include "fb/model/FB_Geometry.h"
 
 #include <QLocale>
+#include <QMouseEvent>
 #include <QPainter>
+
+#include <cmath>
 
 namespace {
 
@@ -18,6 +21,24 @@ constexpr int cFirstValue = 1; ///< parameter of the first output's value
 
 void FB_Debug_SetValue::valuesChanged() {
   update();
+}
+
+int FB_Debug_SetValue::rowAt(double y) const {
+  for (int i = 0; i < static_cast<int>(record().mOutputs.size()); ++i) {
+    if (std::abs(y - FB_Geometry::pin(type(), FB_Side::Output, i, width(), grid()).y()) <= grid() / 2) {
+      return i;
+    }
+  }
+  return -1;
+}
+
+void FB_Debug_SetValue::mousePressEvent(QMouseEvent* event) {
+  const int row = event->button() == Qt::LeftButton && host().isOperatingMode() ? rowAt(event->position().y()) : -1;
+  if (row < 0) {
+    FB_Base::mousePressEvent(event);
+    return;
+  }
+  host().sendValue(record().mOutputs[static_cast<size_t>(row)].mBinding, record().mParams.value(cFirstValue + row));
 }
 
 QString FB_Debug_SetValue::preset(int output) const {
@@ -40,7 +61,7 @@ void FB_Debug_SetValue::paintContent(QPainter& painter) const {
     painter.setPen(block.color(Theme::Role::SecondaryText));
     block.drawText({padding, top, nameWidth, grid()}, Qt::AlignLeft | Qt::AlignVCenter,
                    record().mOutputs[i].mShortName);
-    const QString value = host().valueOf(record().mOutputs[i].mBinding).simplified();
+    const QString value = host().valueOf(record().mOutputs[i].mBinding).mText.simplified();
     painter.setPen(block.color(value.isEmpty() ? Theme::Role::SecondaryText : Theme::Role::Text));
     block.drawText({padding + nameWidth, top, width - nameWidth, grid()}, Qt::AlignRight | Qt::AlignVCenter,
                    value.isEmpty() ? preset(i) : value);

@@ -22,15 +22,15 @@ void FB_Debug_ShowValue::valuesChanged() {
 
 QString FB_Debug_ShowValue::bodyText() const {
   const std::vector<DB_FB_Pin>& inputs = record().mInputs;
-  const QString value = inputs.empty() ? QString() : host().valueOf(inputs.front().mBinding).simplified();
-  if (value.isEmpty()) {
+  const FB_Live_Value value = inputs.empty() ? FB_Live_Value() : host().valueOf(inputs.front().mBinding);
+  if (value.mText.isEmpty()) {
     return QStringLiteral("–");
   }
-  const QLocale locale;
-  bool isNumber = false;
-  const double number = locale.toDouble(value, &isNumber);
-  const bool isReal = isNumber && value.contains(locale.decimalPoint());
   const int decimals = std::clamp(record().mParams.value(cDecimals).toInt(), 0, cMostDecimals);
-  const QString shown = isReal ? locale.toString(number, 'f', decimals) : value;
-  return (shown + u' ' + record().mParams.value(cUnit)).simplified();
+  const QString unit = record().mParams.value(cUnit);
+  // Without a unit of its own it shows that of the datapoint type.
+  const QString shown = !value.mNumber   ? value.mText + u' ' + unit
+                        : unit.isEmpty() ? QLocale().toString(*value.mNumber, 'f', decimals) + value.mUnit
+                                         : QLocale().toString(*value.mNumber, 'f', decimals) + u' ' + unit;
+  return (value.mIsStale ? tr("%1 (veraltet)").arg(shown.simplified()) : shown).simplified();
 }

@@ -120,6 +120,9 @@ void FB_Page::onSettingChanged() {
 void FB_Page::rebuildConnections() {
   hover({});
   mBlocks.rebuildWires();
+  if (mShowsValues) {
+    lightWires();
+  }
 }
 
 void FB_Page::setModified() {

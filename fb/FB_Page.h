@@ -69,11 +69,14 @@ public:
   void viewChanged();
   void showExecutionOrder(bool isShown);
   [[nodiscard]] bool isShowingExecutionOrder() const { return mShowsOrder; }
-  using Value_Source = std::function<QString(const DB_Address_Binding&)>;
+  using Value_Source = std::function<FB_Live_Value(const DB_Address_Binding&)>;
   void setValueSource(Value_Source source);
+  /// At the pins, and by the colours of the wires.
   void showValues(bool isShown);
-  /// There are new values.
+  /// All values may be others.
   void valuesChanged();
+  /// There are new values of these addresses and variables: only what shows them is drawn anew.
+  void valuesChanged(const QSet<QUuid>& keys);
 
   // The selection.
   [[nodiscard]] QList<QUuid> selectedBlocks() const;
@@ -143,7 +146,7 @@ public:
   [[nodiscard]] double zoom() const override { return mTenths / 10.0; }
   [[nodiscard]] bool isDebugToolTip() const override;
   [[nodiscard]] bool isShowingValues() const override { return mShowsValues; }
-  [[nodiscard]] QString valueOf(const DB_Address_Binding& binding) const override;
+  [[nodiscard]] FB_Live_Value valueOf(const DB_Address_Binding& binding) const override;
   [[nodiscard]] QString linkedPages(const FB_Pin_Ref& pin) const override;
   [[nodiscard]] double labelRoom(const FB_Pin_Ref& pin) const override;
   void blockPressed(FB_Base& block, const FB_Pin_Ref* pin, QMouseEvent& event) override;
@@ -155,6 +158,7 @@ public:
   void blockSelected(FB_Base& block) override;
   bool generateVariables(FB_Base& block) override;
   void openBlockEditor(FB_Base& block) override;
+  void sendValue(const DB_Address_Binding& binding, const QString& typed) override;
 
 signals:
   /// Also when a block of the selection came or went.
@@ -224,6 +228,9 @@ private:
   void openPageMenu(const QPoint& screen);
   void openBlockMenu(FB_Base& block, const FB_Pin_Ref* pin, const QPoint& screen);
   void paintLabels(QPainter& painter, const QRectF& region, int index) const;
+  /// The wires look as the values say.
+  void lightWires();
+  [[nodiscard]] FB_Wires::Light lightOf(int wire) const;
   void addAlignment(QMenu& menu);
   void addUses(QMenu& menu, const FB_Base& block, const FB_Pin_Ref* pin);
   void addVariable(QMenu& menu, const DB_Address_Binding& binding);

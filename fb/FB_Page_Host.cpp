@@ -30,8 +30,8 @@ double FB_Page::labelRoom(const FB_Pin_Ref& pin) const {
   return pin.mSide == FB_Side::Input ? std::min(room, mBlocks.pinPoint(pin).x()) : room;
 }
 
-QString FB_Page::valueOf(const DB_Address_Binding& binding) const {
-  return mValues ? mValues(binding) : QString();
+FB_Live_Value FB_Page::valueOf(const DB_Address_Binding& binding) const {
+  return mValues ? mValues(binding) : FB_Live_Value();
 }
 
 void FB_Page::blockPressed(FB_Base& block, const FB_Pin_Ref* pin, QMouseEvent& event) {

@@ -165,25 +165,9 @@ void FB_Page::showExecutionOrder(bool isShown) {
   mOverlay->place();
 }
 
-void FB_Page::setValueSource(Value_Source source) {
-  mValues = std::move(source);
-  valuesChanged();
-}
-
-void FB_Page::showValues(bool isShown) {
-  mShowsValues = isShown;
-  valuesChanged();
-}
-
-void FB_Page::valuesChanged() {
-  for (int i = 0; i < mBlocks.count(); ++i) {
-    mBlocks.at(i).valuesChanged();
-  }
-  update();
-}
-
 void FB_Page::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  lightWires(); // what came while it was hidden
   viewChanged();
 }
 

@@ -65,8 +65,8 @@ QRectF FB_Pin_Labels::rect(const FB_Base& block) {
   return rect;
 }
 
-QString FB_Pin_Labels::valueText(const DB_Address_Binding& binding) const {
-  const QString value = mHost.valueOf(binding).simplified();
+QString FB_Pin_Labels::valueText(const FB_Live_Value& live) {
+  const QString value = live.mText.simplified();
   return value.isEmpty() ? QStringLiteral("–") : value;
 }
 
@@ -74,7 +74,7 @@ double FB_Pin_Labels::valueColumn(FB_Side side) const {
   double widest = 0;
   for (const DB_FB_Pin& pin : pinsOf(mBlock, side)) {
     if (mHost.isShowingValues() && pin.mBinding.mKind != DB_Address_Binding::Kind::None) {
-      const double width = mTexts.width(valueText(pin.mBinding)) + 2 * cGap * mGrid;
+      const double width = mTexts.width(valueText(mHost.valueOf(pin.mBinding))) + 2 * cGap * mGrid;
       widest = std::max(widest, std::clamp(width, cLeastValueWidth * mGrid, cValueWidth * mGrid));
     }
   }
@@ -99,7 +99,9 @@ FB_Pin_Labels::Row FB_Pin_Labels::rowOf(FB_Side side, int index, double column) 
   Row row;
   if (column > 0) {
     // All as wide as the widest: the name of the row below would stand on a narrower one.
-    row.mValue = place(valueText(binding), column, -cValueHeight / 2, cValueHeight);
+    const FB_Live_Value live = mHost.valueOf(binding);
+    row.mValue = place(valueText(live), column, -cValueHeight / 2, cValueHeight);
+    row.mIsStale = live.mIsStale;
   }
   const bool isVariable = binding.mKind == DB_Address_Binding::Kind::Internal;
   const QString pages = mHost.linkedPages(ref);
@@ -141,10 +143,10 @@ void FB_Pin_Labels::paint(QPainter& painter) const {
   visit(part.top(), part.bottom(), [&](const FB_Pin_Ref& pin, const DB_Address_Binding& binding, const Row& row) {
     const Qt::Alignment alignment = (pin.mSide == FB_Side::Input ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
     if (!row.mValue.mRect.isNull()) {
-      painter.setPen(QPen(Theme::color(Role::Border), 1));
+      painter.setPen(QPen(Theme::color(Role::Border), 1, row.mIsStale ? Qt::DashLine : Qt::SolidLine));
       painter.setBrush(Theme::color(Role::Input));
       painter.drawRect(row.mValue.mRect);
-      painter.setPen(Theme::color(Role::Text));
+      painter.setPen(Theme::color(row.mIsStale ? Role::SecondaryText : Role::Text));
       mTexts.draw(painter, row.mValue.mRect.adjusted(padding, 0, -padding, 0), Qt::AlignCenter, row.mValue.mText);
     }
     painter.fillRect(row.mName.mRect, ground); // wires cross it

@@ -11,6 +11,7 @@ class FB_Block_Host;
 class FB_Texts;
 class QPainter;
 struct DB_Address_Binding;
+struct FB_Live_Value;
 
 /// What stands beside the pins of a block, outside of it: from the pin outwards the value that is shown, the bound
 /// address or variable above the wire, and the mark of the pages to which the binding leads. Coordinates of the canvas.
@@ -34,10 +35,11 @@ private:
     Label mValue;
     Label mName;
     Label mLink;
+    bool mIsStale = false; ///< the value
   };
   /// `column` is the width that the values of that side take, 0 when none are shown.
   [[nodiscard]] Row rowOf(FB_Side side, int index, double column) const;
-  [[nodiscard]] QString valueText(const DB_Address_Binding& binding) const;
+  [[nodiscard]] static QString valueText(const FB_Live_Value& live);
   [[nodiscard]] double valueColumn(FB_Side side) const;
   /// Calls `onRow` with the reference and row of each pin that is bound and may be seen between these heights of the
   /// canvas; ends when that returns true.

@@ -20,6 +20,7 @@ constexpr double cLong = 1500;    // px; of a longer curve only the seen parts a
 constexpr double cNetExtra = 1;   // px that the net under the mouse is wider
 constexpr int cNetBrighter = 135; // per cent
 constexpr int cAsItIs = 100;      // per cent
+constexpr double cDash = 5;       // px, and as much between, of what is out of date
 
 } // namespace
 
@@ -48,12 +49,14 @@ void FB_Wires::rebuild(const DB_FB_Page& page) {
     const DB_FB_Control& to = page.mChildren.at(entry.mTarget);
     const DB_Address_Binding& binding = from.mOutputs[static_cast<size_t>(entry.mOutput)].mBinding;
     const int index = count();
-    mWires.push_back({entry, !from.mDisplay || !to.mDisplay, binding.mKind == DB_Address_Binding::Kind::GroupAddress});
+    mWires.push_back(
+        {entry, !from.mDisplay || !to.mDisplay, binding.mKind == DB_Address_Binding::Kind::GroupAddress, binding.mKey});
     const QPointF source = pinOf(entry.mSource, FB_Side::Output, entry.mOutput);
     mCourses.push_back({source, pinOf(entry.mTarget, FB_Side::Input, entry.mInput), entry.mNet, {}, {}});
     mBlocks[static_cast<size_t>(entry.mSource)].mWires.push_back(index);
     mBlocks[static_cast<size_t>(entry.mTarget)].mWires.push_back(index);
   }
+  mLights.assign(entries.size(), {});
   mRouter = FB_Wire_Router(std::move(rects));
   forgetCourses();
 }
@@ -222,6 +225,32 @@ bool FB_Wires::isSeen(int index, const QRectF& region) const {
          box.bottom() >= region.top();
 }
 
+bool FB_Wires::setLight(int index, const Light& light) {
+  return std::exchange(mLights[static_cast<size_t>(index)], light) != light;
+}
+
+QRectF FB_Wires::rect(int index) const {
+  const QRectF& box = mBoxes[static_cast<size_t>(index)];
+  const double margin = std::max(1.0, std::round(mScale)) + cNetExtra + 1;
+  return QRectF(box.topLeft() * mScale, box.size() * mScale).adjusted(-margin, -margin, margin, margin);
+}
+
+bool FB_Wires::isAlike(int a, int b) const {
+  return at(a).mIsAddress == at(b).mIsAddress && mLights[static_cast<size_t>(a)] == mLights[static_cast<size_t>(b)];
+}
+
+QPen FB_Wires::penOf(int index, double width, int lightness) const {
+  const Light& light = mLights[static_cast<size_t>(index)];
+  const Theme::Role role = light.mIsOn            ? (*light.mIsOn ? Theme::Role::WireTrue : Theme::Role::WireFalse)
+                           : at(index).mIsAddress ? Theme::Role::WireAddress
+                                                  : Theme::Role::WireVariable;
+  QPen pen(Theme::color(role).lighter(lightness), width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+  if (light.mIsStale) {
+    pen.setDashPattern({cDash / width, cDash / width});
+  }
+  return pen;
+}
+
 void FB_Wires::paint(QPainter& painter, const QRectF& region, const QSet<int>& net) const {
   std::vector<int> shown;
   std::vector<int> lit;                                   // above all others
@@ -254,13 +283,12 @@ void FB_Wires::paint(QPainter& painter, const QRectF& region, const QSet<int>& n
     // A straight line of an odd width is sharp in the middle of the pixels, one of an even width between them.
     const double shift = mStyle == Style::Orthogonal && std::fmod(penWidth, 2) == 1 ? 0.5 : 0;
     painter.setTransform(QTransform::fromTranslate(shift, shift) * onPixels);
-    std::optional<bool> isAddressPen;
+    int last = -1; // whose pen is set
     for (const int wire : wires) {
-      if (isAddressPen != at(wire).mIsAddress) {
-        isAddressPen = at(wire).mIsAddress;
-        const QColor color = Theme::color(*isAddressPen ? Theme::Role::WireAddress : Theme::Role::WireVariable);
-        painter.setPen(QPen(color.lighter(lightness), penWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+      if (last < 0 || !isAlike(last, wire)) {
+        painter.setPen(penOf(wire, penWidth, lightness));
       }
+      last = wire;
       // One path of them all would take ten times as long.
       painter.drawPath(isLong(wire) ? zoomedCurveOf(wire).partsIn(wide) : path(wire));
     }

@@ -5,9 +5,12 @@
 #include "fb/model/FB_Wire_Router.h"
 
 #include <QList>
+#include <QPen>
 #include <QSet>
+#include <QUuid>
 
 #include <array>
+#include <optional>
 
 class QPainter;
 
@@ -22,6 +25,14 @@ public:
     FB_Connections::Entry mEntry; ///< indexes in the page's children, and of the pins
     bool mIsHidden = false;       ///< neither drawn nor hit: one of the blocks is not displayed
     bool mIsAddress = false;      ///< carries a group address, else an internal variable
+    QUuid mKey;                   ///< of that
+  };
+
+  /// What a wire shows of its live value: on and off by the colour, what is out of date by dashes.
+  struct Light {
+    std::optional<bool> mIsOn;
+    bool mIsStale = false;
+    friend bool operator==(const Light&, const Light&) = default;
   };
 
   /// Connections, positions and sizes anew. Keeps no reference to the page.
@@ -34,6 +45,10 @@ public:
 
   [[nodiscard]] int count() const { return static_cast<int>(mWires.size()); }
   [[nodiscard]] const Wire& at(int index) const { return mWires[static_cast<size_t>(index)]; }
+  /// True when it looks other than before. Building the wires anew puts all lights out.
+  bool setLight(int index, const Light& light);
+  /// Around all that is drawn of the wire; pixels of the zoomed page.
+  [[nodiscard]] QRectF rect(int index) const;
   /// In pixels of the zoomed page; valid until the next change.
   [[nodiscard]] const QPainterPath& path(int index) const;
   /// The topmost wire (the last) at a point of the zoomed page, -1 for none: within half a pen of 8 × zoom, at least 8.
@@ -74,6 +89,8 @@ private:
   [[nodiscard]] FB_Wire_Shape::Curve curveOf(int index) const;
   [[nodiscard]] FB_Wire_Shape::Curve zoomedCurveOf(int index) const;
   [[nodiscard]] const FB_Wire_Router::Route& route(int index) const;
+  [[nodiscard]] bool isAlike(int a, int b) const;
+  [[nodiscard]] QPen penOf(int index, double width, int lightness) const;
   void forgetCourse(int index);
   void forgetCourses();
   /// The wire, as far as it is known, in a part of the unzoomed page.
@@ -83,6 +100,7 @@ private:
   Style mStyle = Style::Curved;
   double mScale = 1;
   std::vector<Wire> mWires;
+  std::vector<Light> mLights; ///< of the wires
   std::vector<Block> mBlocks;
   FB_Wire_Router mRouter;
   mutable std::vector<Course> mCourses; ///< of the wires

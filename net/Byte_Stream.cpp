@@ -1,17 +1,14 @@
 #include "net/Byte_Stream.h"
 
+#include "net/Sha256.h"
+
 #include <QCoreApplication>
-#include <QCryptographicHash>
 
 #include <algorithm>
 
 namespace {
 
 constexpr qsizetype cSha256Digits = 64;
-
-QString digestOf(QByteArrayView bytes) {
-  return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
-}
 
 bool fail(QString* error, const char* german) {
   if (error) {
@@ -31,7 +28,7 @@ void DB_Stream_Begin::fields(DB_Fields& fields) {
 DB_Stream_Begin Byte_Stream::announce(QByteArrayView bytes, const QString& name) {
   DB_Stream_Begin begin;
   begin.mSize = bytes.size();
-  begin.mSha256 = digestOf(bytes);
+  begin.mSha256 = Sha256::hexOf(bytes);
   begin.mName = name;
   return begin;
 }
@@ -53,7 +50,7 @@ bool Byte_Stream::begin(QByteArrayView announcement, QString* error) {
     return fail(error, QT_TRANSLATE_NOOP("Byte_Stream", "Die Ankündigung der Daten ist nicht lesbar."));
   }
   mIsBegun = true;
-  if (isComplete() && mAnnounced.mSha256 != digestOf({})) {
+  if (isComplete() && mAnnounced.mSha256 != Sha256::hexOf({})) {
     return fail(error, QT_TRANSLATE_NOOP("Byte_Stream", "Die Daten kamen nicht unversehrt an (Prüfsumme)."));
   }
   return true;
@@ -64,7 +61,7 @@ bool Byte_Stream::take(QByteArrayView chunk, QString* error) {
     return fail(error, QT_TRANSLATE_NOOP("Byte_Stream", "Es kamen mehr Daten, als angekündigt waren."));
   }
   mBytes.append(chunk);
-  if (isComplete() && mAnnounced.mSha256 != digestOf(mBytes)) {
+  if (isComplete() && mAnnounced.mSha256 != Sha256::hexOf(mBytes)) {
     return fail(error, QT_TRANSLATE_NOOP("Byte_Stream", "Die Daten kamen nicht unversehrt an (Prüfsumme)."));
   }
   return true;

@@ -3,11 +3,17 @@
 #include "net/Controller_Command.h"
 #include "net/Controller_Records.h"
 
+namespace {
+
+constexpr int cAgainMs = 10;
+
+} // namespace
+
 Controller_Exchange::Controller_Exchange(Main_Network_Client& client, QObject* parent)
     : QObject(parent),
       mClient(client) {
   mTimer.setSingleShot(true);
-  connect(&mTimer, &QTimer::timeout, this, [this] { finish(End::NoAnswer, tr("Keine Antwort der Steuerung")); });
+  connect(&mTimer, &QTimer::timeout, this, &Controller_Exchange::onTimeout);
   connect(&mClient, qOverload<Network_Message*, uchar*>(&Main_Network_Client::onProcessNetworkRead), this,
           &Controller_Exchange::onNetworkRead);
   connect(&mClient, &Main_Network_Client::onProcessNetworkConnect, this, &Controller_Exchange::onNetworkConnect);
@@ -40,7 +46,9 @@ bool Controller_Exchange::send(quint32 command) {
 }
 
 bool Controller_Exchange::send(quint32 command, QByteArrayView payload) {
+  mSent.insert(command);
   if (isRunning() && mClient.sendMessage(command, static_cast<quint32>(payload.size()), payload.data())) {
+    mToWrite = mClient.bytesToWrite();
     return true;
   }
   finish(End::NoLink, tr("Keine Verbindung zur Steuerung"));
@@ -54,7 +62,17 @@ bool Controller_Exchange::sendText(quint32 command, const QString& text) {
 }
 
 void Controller_Exchange::restartTimeout() {
+  mToWrite = mClient.bytesToWrite();
   mTimer.start(mTimeoutMs);
+}
+
+void Controller_Exchange::onTimeout() {
+  // Much that is sent over a slow way takes longer than an answer may.
+  if (mClient.bytesToWrite() < mToWrite) {
+    restartTimeout();
+    return;
+  }
+  finish(End::NoAnswer, tr("Keine Antwort der Steuerung"));
 }
 
 QString Controller_Exchange::text(QByteArrayView payload) {
@@ -73,9 +91,16 @@ void Controller_Exchange::finish(End end, const QString& text) {
   if (end != End::Done) {
     abort();
   }
-  // Never inside a delivery of the link: who hears it may open a box.
-  QMetaObject::invokeMethod(
-      this, [this] { emit finished(mEnd); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &Controller_Exchange::tellEnd, Qt::QueuedConnection);
+}
+
+/// Never inside a delivery of the link, which runs the event loop now and then: who hears it may open a box.
+void Controller_Exchange::tellEnd() {
+  if (mClient.isReading()) {
+    QTimer::singleShot(cAgainMs, this, &Controller_Exchange::tellEnd);
+    return;
+  }
+  emit finished(mEnd);
 }
 
 void Controller_Exchange::onNetworkRead(Network_Message* message, uchar* data) {
@@ -87,7 +112,9 @@ void Controller_Exchange::onNetworkRead(Network_Message* message, uchar* data) {
     DB_Refusal refusal;
     refusal.setData(payload.toByteArray());
     refusal.fromData();
-    finish(End::Refused, refusal.mReason);
+    if (mSent.contains(static_cast<quint32>(refusal.mCommand))) {
+      finish(End::Refused, refusal.mReason);
+    }
     return;
   }
   if (take(message->mCommand, payload) && isRunning() && mTimer.isActive()) {

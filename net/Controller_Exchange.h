@@ -4,6 +4,7 @@
 
 #include <QByteArrayView>
 #include <QObject>
+#include <QSet>
 #include <QString>
 #include <QTimer>
 
@@ -11,8 +12,9 @@
 ///
 /// It ends with success, with the user's `cancel`, with the controller's refusal, without link at once with "Keine
 /// Verbindung zur Steuerung", with a lost link the same, and with "Keine Antwort der Steuerung" when no reply that
-/// belongs to it has come for `timeoutMs`. The end is told from the event loop, never inside a delivery of the link, so
-/// who hears it may open a box. An exchange runs once; make a new one to try again.
+/// belongs to it has come for `timeoutMs` and nothing more of what is sent went out. The end is told from the event
+/// loop, never inside a delivery of the link, so who hears it may open a box. An exchange runs once; make a new one to
+/// try again.
 class Controller_Exchange : public QObject {
   Q_OBJECT
 
@@ -36,9 +38,10 @@ public:
   [[nodiscard]] QString errorText() const { return mErrorText; }
 
 signals:
-  /// What is being done, and how far it is: `value` of `maximum`, 0 of 0 when that is not known.
+  /// What is being done, and how far it is: `value` of `maximum`, 0 of 0 when that is not known. Who hears it may
+  /// cancel the exchange, but deletes it only later.
   void progress(const QString& label, int value, int maximum);
-  /// Once. The exchange may be deleted now.
+  /// Once. The exchange may be deleted in it.
   void finished(Controller_Exchange::End end);
 
 protected:
@@ -63,13 +66,17 @@ protected:
 
 private:
   enum class State { Idle, Running, Finished };
+  void onTimeout();
   void finish(End end, const QString& text);
+  void tellEnd();
   void onNetworkRead(Network_Message* message, uchar* data);
   void onNetworkConnect(bool isConnected);
 
   Main_Network_Client& mClient;
   QTimer mTimer;
   int mTimeoutMs = cTimeoutMs;
+  qint64 mToWrite = 0; ///< what the link had not sent when the timeout began
+  QSet<quint32> mSent; ///< commands; a refusal of another one is not for this exchange
   State mState = State::Idle;
   End mEnd = End::Done;
   QString mErrorText;

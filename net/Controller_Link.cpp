@@ -4,6 +4,8 @@
 #include "net/Controller_Command.h"
 #include "net/Controller_Records.h"
 
+#include <QPointer>
+
 namespace {
 
 constexpr int cRelayKind = 1;
@@ -21,6 +23,8 @@ Controller_Link::Controller_Link(Project_Session& session, QObject* parent)
   connect(mClient, &Main_Network_Client::onProcessNetworkConnect, this, &Controller_Link::onConnect);
   connect(mClient, qOverload<Network_Message*, uchar*>(&Main_Network_Client::onProcessNetworkRead), this,
           &Controller_Link::onRead);
+  // Queued: the client itself may be deleted by who hears of it.
+  connect(mClient->socket(), &QAbstractSocket::errorOccurred, this, &Controller_Link::onError, Qt::QueuedConnection);
 }
 
 bool Controller_Link::connectToSelected(QString* error) {
@@ -37,18 +41,58 @@ bool Controller_Link::connectToSelected(QString* error) {
 }
 
 void Controller_Link::connectTo(const DB_Connections::ITEM& connection) {
-  mIsEnding = true;
-  mClient->disconnectFromController();
-  mIsEnding = false;
+  // A copy, as who hears that the old link is down may change the project's connections.
+  const DB_Connections::ITEM copy = connection;
+  const QPointer<Controller_Link> self(this);
+  end();
+  if (!self) {
+    return;
+  }
+  mFailedAttempts = 0;
+  mLastDialError.clear();
+  const quint64 turn = mTurn;
   setState(State::Dialling);
-  mClient->connectToController(&connection);
+  if (self && mTurn == turn) {
+    mClient->connectToController(&copy);
+  }
 }
 
 void Controller_Link::disconnectLink() {
+  const QPointer<Controller_Link> self(this);
+  end();
+  if (self) {
+    setState(State::Offline);
+  }
+}
+
+void Controller_Link::lend() {
+  const QPointer<Controller_Link> self(this);
+  disconnectLink();
+  if (self) {
+    mIsLent = true;
+  }
+}
+
+void Controller_Link::end() {
+  const QPointer<Controller_Link> self(this);
+  ++mTurn;
+  mIsLent = false;
   mIsEnding = true;
   mClient->disconnectFromController();
-  mIsEnding = false;
-  setState(State::Offline);
+  if (self) {
+    mIsEnding = false;
+  }
+}
+
+void Controller_Link::queue(const std::function<void()>& what) {
+  QMetaObject::invokeMethod(
+      this,
+      [this, what, turn = mTurn] {
+        if (mTurn == turn) {
+          what();
+        }
+      },
+      Qt::QueuedConnection);
 }
 
 QString Controller_Link::connectionText() const {
@@ -72,34 +116,65 @@ void Controller_Link::setState(State state) {
 }
 
 void Controller_Link::onConnect(bool isConnected) {
-  if (isConnected) {
-    setState(State::LoggingOn);
-    mLogOnTimer.start();
-    DB_Log_On logOn;
-    logOn.mUser = mClient->connection().mUser;
-    logOn.mPassword = mClient->connection().mPassword;
-    const QByteArray data = logOn.toData();
-    mClient->sendMessage(mClient->connection().mKind == cRelayKind ? Controller_Command::Relay_Log_On
-                                                                   : Controller_Command::Log_On,
-                         static_cast<quint32>(data.size()), data.constData());
+  if (mIsLent) {
     return;
   }
-  // A new dial begins with a false, and while it is wanted the watchdog goes on dialling.
-  if (mIsEnding || mState == State::Dialling || mState == State::Offline) {
+  if (isConnected) {
+    if (!mClient->isRelayService()) {
+      logOn();
+    }
+    return;
+  }
+  if (mIsEnding || mState == State::Offline) {
+    return;
+  }
+  if (mState == State::Dialling) {
+    // Every dial begins with this. Nobody goes on dialling only when somebody has ended the client beside the link.
+    queue([this] {
+      if (mState == State::Dialling && !mClient->isWanted()) {
+        setState(State::Offline);
+      }
+    });
     return;
   }
   const bool wasOnline = isOnline();
+  const QPointer<Controller_Link> self(this);
+  const quint64 turn = mTurn;
   setState(State::Offline);
-  QMetaObject::invokeMethod(
-      this,
-      [this, wasOnline] {
-        if (wasOnline) {
-          emit lost();
-        } else {
-          emit refused(tr("Die Steuerung hat die Verbindung bei der Anmeldung beendet."));
-        }
-      },
-      Qt::QueuedConnection);
+  if (!self || mTurn != turn) {
+    return;
+  }
+  queue([this, wasOnline] {
+    if (wasOnline) {
+      emit lost();
+    } else {
+      emit refused(tr("Die Steuerung hat die Verbindung bei der Anmeldung beendet."));
+    }
+  });
+}
+
+void Controller_Link::logOn() {
+  const QPointer<Controller_Link> self(this);
+  setState(State::LoggingOn);
+  if (!self || mState != State::LoggingOn) {
+    return;
+  }
+  mLogOnTimer.start();
+  DB_Log_On logOn;
+  logOn.mUser = mClient->connection().mUser;
+  logOn.mPassword = mClient->connection().mPassword;
+  const QByteArray data = logOn.toData();
+  mClient->sendMessage(mClient->connection().mKind == cRelayKind ? Controller_Command::Relay_Log_On
+                                                                 : Controller_Command::Log_On,
+                       static_cast<quint32>(data.size()), data.constData());
+}
+
+void Controller_Link::onError() {
+  const QString text = mClient->lastErrorText();
+  if (mState == State::Dialling && !text.isEmpty()) {
+    mLastDialError = text;
+    emit dialFailed(text, ++mFailedAttempts);
+  }
 }
 
 void Controller_Link::onRead(Network_Message* message, uchar* data) {
@@ -121,13 +196,13 @@ void Controller_Link::onRead(Network_Message* message, uchar* data) {
 
 void Controller_Link::refuse(const QString& text) {
   // Queued: the link must not be taken down inside its own delivery, and who hears it may open a box.
-  QMetaObject::invokeMethod(
-      this,
-      [this, text] {
-        if (mState == State::LoggingOn) {
-          disconnectLink();
-          emit refused(text);
-        }
-      },
-      Qt::QueuedConnection);
+  queue([this, text] {
+    if (mState == State::LoggingOn) {
+      const QPointer<Controller_Link> self(this);
+      disconnectLink();
+      if (self) {
+        emit refused(text);
+      }
+    }
+  });
 }

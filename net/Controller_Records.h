@@ -46,6 +46,7 @@ public:
     QString mDescription;
     QString mProjectName;
     qint64 mSize = 0; ///< bytes
+    friend bool operator==(const Backup&, const Backup&) = default;
     void fields(DB_Fields& fields);
   };
   void fields(DB_Fields& fields) override;

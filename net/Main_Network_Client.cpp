@@ -2,14 +2,13 @@
 
 #include "base/Datapoint_Codec.h"
 #include "base/Datapoint_Types.h"
+#include "db/Connection_Address.h"
 #include "db/Connection_Defaults.h"
 #include "db/Project_Session.h"
 #include "net/Controller_Command.h"
-#include "net/Network_Cipher.h"
+#include "net/Main_Network_Client_Guards.h"
 #include "net/Network_Frame.h"
-#include "net/Telegram_Batch.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QNetworkProxy>
 #include <QTcpSocket>
@@ -20,14 +19,6 @@
 namespace {
 
 constexpr int cRelayKind = 1;
-constexpr int cWaitSliceMs = 50;
-constexpr int cLongestWaitMs = 499;
-constexpr int cYieldMs = 150;
-constexpr int cTelegramsWithoutYield = 150;
-
-bool decipher(QByteArray& bytes) {
-  return Network_Cipher::decipher({bytes.data(), static_cast<std::size_t>(bytes.size())});
-}
 
 } // namespace
 
@@ -35,10 +26,17 @@ Main_Network_Client::Main_Network_Client(Project_Session& session, QObject* pare
     : QObject(parent),
       mSession(session),
       mSocket(new QTcpSocket(this)),
-      mWatchdog(new QTimer(this)) {
+      mWatchdog(new QTimer(this)),
+      mGoOn(new QTimer(this)),
+      mRelayHost(Connection_Defaults::relayHost()) {
   QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
   mWatchdog->setInterval(cRedialMs);
+  // A timer, as an event of our own would be served again and again before any timer.
+  mGoOn->setInterval(0);
+  mGoOn->setSingleShot(true);
+  mSocket->setReadBufferSize(cReadBuffer);
   connect(mWatchdog, &QTimer::timeout, this, &Main_Network_Client::onTimeout);
+  connect(mGoOn, &QTimer::timeout, this, &Main_Network_Client::onSocketConnectionReadyRead);
   connect(mSocket, &QTcpSocket::errorOccurred, this, &Main_Network_Client::onSocketConnectionError);
   connect(mSocket, &QTcpSocket::connected, this, &Main_Network_Client::onSocketConnectionOk);
   connect(mSocket, &QTcpSocket::disconnected, this, &Main_Network_Client::onSocketConnectionClosed);
@@ -47,74 +45,101 @@ Main_Network_Client::Main_Network_Client(Project_Session& session, QObject* pare
 
 Main_Network_Client::~Main_Network_Client() {
   mSocket->disconnect(this);
+  if (mInSocket > 0) {
+    // The socket goes on with its work when the slot returns.
+    mSocket->setParent(nullptr);
+    mSocket->abort();
+    mSocket->deleteLater();
+  }
+}
+
+Main_Network_Client::Target Main_Network_Client::targetOf(const DB_Connections::ITEM& connection) const {
+  Target target{connection, {}, cControllerPort, false};
+  if (connection.mKind == cRelayKind) {
+    if (connection.mRelayHost.isEmpty()) {
+      target.mConnection->mRelayHost = mRelayHost;
+    }
+    target.mHost = target.mConnection->mRelayHost;
+    target.mPort = mRelayPort;
+    return target;
+  }
+  const auto address = Connection_Address::parse(Connection_Address::normalised(connection.mAddress), cControllerPort);
+  target.mHost = address.mHost;
+  target.mPort = address.mPort;
+  return target;
 }
 
 bool Main_Network_Client::connectToController(const DB_Connections::ITEM* connection) {
-  // The record may be the client's own.
-  const std::optional<DB_Connections::ITEM> copy = connection ? std::optional(*connection) : std::nullopt;
-  disconnectFromController();
-  if (!copy) {
+  if (!connection) {
+    disconnectFromController();
     return false;
   }
-  mConnection = *copy;
-  if (mConnection.mKind == cRelayKind) {
-    if (mConnection.mRelayHost.isEmpty()) {
-      mConnection.mRelayHost = Connection_Defaults::relayHost();
-    }
-    dial(mConnection.mRelayHost, cRelayPort);
-    return true;
-  }
-  QString host = mConnection.mAddress.trimmed();
-  quint16 port = cControllerPort;
-  const QStringList parts = host.split(u':');
-  if (parts.size() == 2) {
-    host = parts.at(0);
-    port = static_cast<quint16>(parts.at(1).toUInt());
-  }
-  dial(host, port);
-  return true;
+  // A copy, as the record may be the client's own, or one that a receiver changes while the old link is taken down.
+  return redial(targetOf(*connection));
 }
 
 bool Main_Network_Client::connectToRelay(const DB_Connections::ITEM* connection) {
-  const std::optional<DB_Connections::ITEM> copy = connection ? std::optional(*connection) : std::nullopt;
-  disconnectFromController();
-  if (!copy) {
+  if (!connection) {
+    disconnectFromController();
     return false;
   }
-  mConnection = *copy;
-  dial(Connection_Defaults::relayHost(), cRelayPort);
-  return true;
+  return redial({*connection, mRelayHost, mRelayPort, true});
 }
 
 bool Main_Network_Client::connectToRelayServer() {
+  return redial({std::nullopt, mRelayHost, mRelayPort, true});
+}
+
+void Main_Network_Client::setRelay(const QString& host, quint16 port) {
+  mRelayHost = host;
+  mRelayPort = port;
+}
+
+bool Main_Network_Client::redial(Target target) {
+  // Who hears that the old link is down may dial in that very moment: the last one wins, and dials once.
+  const bool isUnderWay = mNext.has_value();
+  mNext = std::move(target);
+  if (isUnderWay) {
+    return true;
+  }
+  const QPointer<Main_Network_Client> self(this);
   disconnectFromController();
-  mConnection = {};
-  dial(Connection_Defaults::relayHost(), cRelayPort);
+  if (!self) {
+    return false;
+  }
+  dial(*std::exchange(mNext, std::nullopt));
   return true;
 }
 
-void Main_Network_Client::dial(const QString& host, quint16 port) {
-  mHost = host;
-  mPort = port;
-  mSocket->connectToHost(host, port, QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
+void Main_Network_Client::dial(const Target& target) {
+  mHasRecord = target.mConnection.has_value();
+  mConnection = target.mConnection.value_or(DB_Connections::ITEM());
+  mIsRelayService = target.mIsRelayService;
+  mHost = target.mHost;
+  mPort = target.mPort;
   mWanted = true;
   mWatchdog->start();
+  mSocket->connectToHost(mHost, mPort, QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
 }
 
 void Main_Network_Client::disconnectFromController() {
+  const QPointer<Main_Network_Client> self(this);
   mWatchdog->stop();
   mWanted = false;
   mSocket->abort();
+  if (!self || mWanted) {
+    // Who heard of the end has dialled anew.
+    return;
+  }
   mSocket->close();
   onSocketConnectionClosed();
-  mPending = {};
 }
 
 bool Main_Network_Client::reconnectIfLost() {
   if (mSocket->state() != QAbstractSocket::UnconnectedState || !mWanted) {
     return false;
   }
-  return connectToController(&mConnection);
+  return mHasRecord ? connectToController(&mConnection) : connectToRelayServer();
 }
 
 bool Main_Network_Client::sendMessage(quint32 command, quint32 length, const void* data) {
@@ -152,13 +177,39 @@ bool Main_Network_Client::sendValue(const Group_Address& address, double value) 
   if (!payload) {
     return false;
   }
-  mSession.values().set(group->mKey,
-                        {*payload, wanted, QDateTime::currentMSecsSinceEpoch(), tr("Studio"), !mConnected});
+  mSession.values().set(group->mKey, {*payload, Datapoint_Codec::decode(*type, *payload),
+                                      QDateTime::currentMSecsSinceEpoch(), tr("Studio"), !mConnected});
   return sendTelegram(DB_Address_Network_Telegram::to(address, DB_Address_Network_Telegram::Write, *payload));
 }
 
 qint64 Main_Network_Client::bytesToWrite() const {
   return mSocket->bytesToWrite();
+}
+
+qint64 Main_Network_Client::bytesToRead() const {
+  return mSocket->bytesAvailable();
+}
+
+const QAbstractSocket* Main_Network_Client::socket() const {
+  return mSocket;
+}
+
+QString Main_Network_Client::lastErrorText() const {
+  if (!mWanted || mSocket->state() != QAbstractSocket::UnconnectedState) {
+    return {};
+  }
+  switch (mSocket->error()) {
+  case QAbstractSocket::ConnectionRefusedError:
+    return tr("%1 nimmt auf Port %2 keine Verbindung an.").arg(mHost, QString::number(mPort));
+  case QAbstractSocket::HostNotFoundError:
+    return tr("Der Name \"%1\" ist im Netz nicht bekannt.").arg(mHost);
+  case QAbstractSocket::SocketTimeoutError:
+    return tr("%1 antwortet nicht.").arg(mHost);
+  case QAbstractSocket::NetworkError:
+    return tr("%1 ist im Netz nicht erreichbar.").arg(mHost);
+  default:
+    return tr("%1 ist nicht erreichbar: %2").arg(mHost, mSocket->errorString());
+  }
 }
 
 void Main_Network_Client::onSocketConnectionError(QAbstractSocket::SocketError) {
@@ -170,88 +221,35 @@ void Main_Network_Client::onTimeout() {
 }
 
 void Main_Network_Client::onSocketConnectionOk() {
+  const In_Socket inSocket(this);
   mSocket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
   mConnected = true;
   emit onProcessNetworkConnect(true, mConnection);
 }
 
 void Main_Network_Client::onSocketConnectionClosed() {
-  mPending = {};
-  mConnected = false;
-  emit onProcessNetworkConnect(false, mConnection);
+  const In_Socket inSocket(this);
   if (mWanted) {
+    // The peer closed the link; what it sent before counts.
+    const Same_Link link(this);
+    read(Reading::WholeRest);
+    if (link.isGone()) {
+      return;
+    }
+  }
+  ++mLinkCount;
+  mGoOn->stop();
+  mReading = false;
+  mReader.clear();
+  mConnected = false;
+  const Same_Link link(this);
+  emit onProcessNetworkConnect(false, mConnection);
+  if (!link.isGone() && mWanted) {
     disconnectFromController();
   }
 }
 
 void Main_Network_Client::onSocketConnectionReadyRead() {
-  if (mReading) {
-    return;
-  }
-  mReading = true;
-  int waited = 0;
-  for (;;) {
-    if (mPending.mMagic == 0) {
-      if (mSocket->bytesAvailable() < Network_Message::cSize) {
-        break;
-      }
-      const std::optional<Network_Message> header = Network_Frame::header(mSocket->read(Network_Message::cSize));
-      if (!header) {
-        mSocket->readAll();
-        break;
-      }
-      if (header->mPaddedLength == 0) {
-        Network_Message message = *header;
-        emit onProcessNetworkRead(&message, nullptr);
-        continue;
-      }
-      mPending = *header;
-    }
-    if (mSocket->bytesAvailable() < mPending.mPaddedLength) {
-      if (waited > cLongestWaitMs) {
-        break;
-      }
-      QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers, cWaitSliceMs);
-      if (mSocket->bytesAvailable() < mPending.mPaddedLength) {
-        break;
-      }
-      waited += cWaitSliceMs;
-      continue;
-    }
-    Network_Message message = std::exchange(mPending, {});
-    QByteArray payload = mSocket->read(message.mPaddedLength);
-    if (!decipher(payload)) {
-      break;
-    }
-    const auto deliver = [this](const DB_Address_Network_Telegram& telegram) {
-      if (!telegram.isAddressed()) {
-        return;
-      }
-      emit onProcessNetworkRead(telegram);
-      if (mDelivered++ > cTelegramsWithoutYield) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers, cYieldMs);
-        mDelivered = 0;
-      }
-    };
-    if (message.mCommand == Controller_Command::Telegram) {
-      if (message.mDataLength >= DB_Address_Network_Telegram::cHead) {
-        deliver(DB_Address_Network_Telegram::fromBytes(
-            QByteArrayView(payload).first(std::min<qsizetype>(payload.size(), message.mDataLength))));
-      }
-    } else if (message.mCommand == Controller_Command::Telegram_Batch) {
-      DB_Address_Network_Telegram telegram;
-      qsizetype offset = 0;
-      while (const qsizetype taken = Telegram_Batch::decode(payload, message.mDataLength, offset,
-                                                            DB_Address_Network_Telegram::cMostData, telegram)) {
-        offset += taken;
-        telegram.mKind = DB_Address_Network_Telegram::cKindRuntime;
-        telegram.mIsValid = 1;
-        deliver(telegram);
-      }
-    } else {
-      emit onProcessNetworkRead(&message, reinterpret_cast<uchar*>(payload.data()));
-    }
-    waited = 0;
-  }
-  mReading = false;
+  const In_Socket inSocket(this);
+  read(Reading::Timely);
 }

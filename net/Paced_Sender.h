@@ -23,8 +23,6 @@ public:
 
   void start(Send_Next next);
   void stop();
-  /// No message is left; the last ones may still wait in the socket.
-  [[nodiscard]] bool isExhausted() const { return mIsExhausted; }
 
 signals:
   /// Bytes went out since the last time.
@@ -36,6 +34,6 @@ private:
   Main_Network_Client& mClient;
   QTimer mTimer;
   Send_Next mNext;
-  bool mIsExhausted = false;
-  qint64 mWaiting = 0; ///< bytes in the socket when it was looked at last
+  bool mIsExhausted = false; ///< no message is left; the last ones may still wait in the socket
+  qint64 mWaiting = 0;       ///< bytes in the socket when it was looked at last
 };

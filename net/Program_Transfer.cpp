@@ -79,7 +79,7 @@ bool Program_Transfer::take(quint32 command, QByteArrayView payload) {
     }
     return true;
   }
-  if (mStep == Step::Staging && command == Controller_Command::Program_Staged && mSender.isExhausted()) {
+  if (mStep == Step::Staging && command == Controller_Command::Program_Staged && mProgram->isSent()) {
     mSender.stop();
     mWasSent = true;
     if (!mOptions.mStart) {

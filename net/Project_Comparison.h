@@ -1,7 +1,7 @@
 #pragma once
 
-#include "db/Project_Digests.h"
 #include "net/Controller_Records.h"
+#include "net/Project_Digests.h"
 
 #include <QString>
 

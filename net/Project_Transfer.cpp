@@ -143,7 +143,7 @@ void Project_Transfer::startController() {
 }
 
 bool Project_Transfer::take(quint32 command, QByteArrayView payload) {
-  if (mStep == Step::Staging && command == Controller_Command::Program_Staged && mSender.isExhausted()) {
+  if (mStep == Step::Staging && command == Controller_Command::Program_Staged && mProgram->isSent()) {
     mSender.stop();
     mStep = Step::Writing;
     later(&Project_Transfer::stopController);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "db/Project_Digests.h"
 #include "net/Network_Message.h"
+#include "net/Project_Digests.h"
 
 #include <QByteArray>
 #include <QByteArrayView>

@@ -26,6 +26,10 @@ bool Stream_Out::sendNext(const Send& send) {
   return false;
 }
 
+bool Stream_Out::isSent() const {
+  return mCommands.mEnd == 0 ? mAt == At::Data && mSent == mBytes.size() : mAt == At::End;
+}
+
 int Stream_Out::percent(qint64 waiting) const {
   constexpr qint64 cWhole = 100;
   if (mBytes.isEmpty()) {

@@ -20,6 +20,8 @@ public:
 
   /// Sends the next message; false when none is left, or `send` failed.
   bool sendNext(const Send& send);
+  /// The link has taken all of it.
+  [[nodiscard]] bool isSent() const;
   /// Of the bytes, while so many of what was sent still wait in the socket: 0..100.
   [[nodiscard]] int percent(qint64 waiting) const;
   [[nodiscard]] const DB_Stream_Begin& announced() const { return mAnnounced; }

@@ -27,7 +27,7 @@ void Stream_Send::begin() {
 }
 
 bool Stream_Send::take(quint32 command, QByteArrayView payload) {
-  if (command != mWhat.mReply || !mSender.isExhausted()) {
+  if (command != mWhat.mReply || !mStream.isSent()) {
     return false;
   }
   mReplyText = text(payload);

@@ -1,14 +1,25 @@
 #include "ui/Address_Cell_Delegate.h"
 
 #include "db/Address_Tree_Model.h"
+#include "db/Model_Roles.h"
 #include "ui/Checked_Line_Edit.h"
 #include "ui/Datapoint_Edit.h"
+#include "ui/Theme.h"
 
 #include <QKeyEvent>
 
 Address_Cell_Delegate::Address_Cell_Delegate(Address_Tree_Model& model, QObject* parent)
     : Named_Icon_Delegate(parent),
       mModel(model) {}
+
+/// Live values that may be out of date; the time beside them says it in a word.
+void Address_Cell_Delegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+  Named_Icon_Delegate::initStyleOption(option, index);
+  if (index.column() >= Address_Rows::cValue && index.data(Model_Roles::cIsStale).toBool()) {
+    option->font.setItalic(true);
+    option->palette.setColor(QPalette::Text, Theme::color(Theme::Role::SecondaryText));
+  }
+}
 
 QWidget* Address_Cell_Delegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                              const QModelIndex& index) const {

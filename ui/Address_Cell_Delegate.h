@@ -19,6 +19,7 @@ public:
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
 protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -3,6 +3,7 @@
 #include "db/Address_Tree_Model.h"
 #include "db/Project_Session.h"
 #include "ui/Address_Cell_Delegate.h"
+#include "ui/Address_Value_Menu.h"
 #include "ui/Drag_Label.h"
 #include "ui/Theme.h"
 
@@ -13,6 +14,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 namespace {
@@ -56,6 +58,7 @@ Address_Tree_View::Address_Tree_View(Project_Session& session, Address_Tree_Mode
   connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, &Address_Tree_View::onAboutToBeReset);
   connect(&model, &Address_Tree_Model::renumbered, this, &Address_Tree_View::showKey, Qt::QueuedConnection);
   connect(&model, &QAbstractItemModel::dataChanged, this, &Address_Tree_View::restoreOrder, Qt::QueuedConnection);
+  connect(&session.values(), &Address_Values::changed, this, &Address_Tree_View::onValuesChanged);
   connect(&session, &Project_Session::opened, this, [this] { updateCommands(); });
   connect(&session, &Project_Session::closed, this, [this] { updateCommands(); });
   // Connected after the base class did, so that the tree is laid out anew already.
@@ -82,6 +85,11 @@ void Address_Tree_View::addCommands() {
   addAction(lastSeparator);
   mSet = makeSetMenu()->menuAction();
   addAction(mSet);
+  mValueMenu = new Address_Value_Menu(
+      mSession, [this] { return selectedAddresses(); }, this);
+  connect(mValueMenu, &Address_Value_Menu::info, this, &Address_Tree_View::info);
+  connect(mValueMenu, &Address_Value_Menu::refused, this, &Address_Tree_View::refused);
+  addAction(mValueMenu->menuAction());
 }
 
 QMenu* Address_Tree_View::makeSetMenu() {
@@ -299,6 +307,44 @@ void Address_Tree_View::onHeaderMenu(const QPoint& at) {
     connect(action, &QAction::toggled, this, [this, column](bool isOn) { setColumnHidden(column, !isOn); });
   }
   menu.exec(header()->mapToGlobal(at));
+}
+
+/// Only what is seen is told, however many came.
+void Address_Tree_View::onValuesChanged(const QSet<QUuid>& keys) {
+  if (!isVisible()) {
+    return;
+  }
+  QModelIndexList seen;
+  const int bottom = viewport()->height();
+  for (QModelIndex index = indexAt({0, 0}); index.isValid() && visualRect(index).top() < bottom;
+       index = indexBelow(index)) {
+    seen.append(index);
+  }
+  mModel.tellValues(keys, seen);
+}
+
+QList<QUuid> Address_Tree_View::selectedAddresses() const {
+  QList<QUuid> keys;
+  QSet<QUuid> known; // an address may be selected itself and with its group
+  const std::function<void(const QModelIndex&)> add = [&](const QModelIndex& index) {
+    if (mModel.kindOf(index) == Kind::Sub) {
+      const QUuid key = mModel.keyOf(index);
+      if (!known.contains(key)) {
+        known.insert(key);
+        keys.append(key);
+      }
+    } else if (mModel.kindOf(index) < Kind::Sub) {
+      for (int row = 0; row < mModel.rowCount(index); ++row) {
+        add(mModel.index(row, 0, index));
+      }
+    }
+  };
+  for (const QItemSelectionRange& range : selectedRanges()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) {
+      add(mModel.index(row, 0, range.parent()));
+    }
+  }
+  return keys;
 }
 
 void Address_Tree_View::onAboutToBeReset() {

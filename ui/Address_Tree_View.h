@@ -12,6 +12,7 @@
 #include <vector>
 
 class Address_Tree_Model;
+class Address_Value_Menu;
 class Project_Session;
 class QMenu;
 struct Edit_Result;
@@ -67,6 +68,9 @@ private:
   void onAboutToBeReset();
   void onReset();
   void onActivated(const QModelIndex& index);
+  void onValuesChanged(const QSet<QUuid>& keys);
+  /// The addresses of the selected rows and, of selected groups, those below that pass the filter.
+  [[nodiscard]] QList<QUuid> selectedAddresses() const;
   void onHeaderMenu(const QPoint& at);
 
   /// What the commands work on: selected groups and addresses without variables and uses.
@@ -97,7 +101,8 @@ private:
   QAction* mPaste = nullptr;
   QAction* mDelete = nullptr;
   QAction* mSet = nullptr; ///< the menu with a field for all selected
-  QSet<QUuid> mExpanded;   ///< without a filter
+  Address_Value_Menu* mValueMenu = nullptr;
+  QSet<QUuid> mExpanded; ///< without a filter
   QList<QUuid> mSelected;
   QUuid mCurrent;
   bool mWasFiltered = false;

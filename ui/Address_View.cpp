@@ -149,6 +149,12 @@ void Address_View::setUpColumns() {
     header->resizeSection(column, header->fontMetrics().horizontalAdvance(title) + icon + 4 * cGap);
   }
   header->hideSection(Address_Rows::cOrigin);
+  // What is live stands beside the names.
+  const int sample = header->fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + 4 * cGap;
+  for (const int column : {Address_Rows::cValue, Address_Rows::cTime, Address_Rows::cSource}) {
+    header->resizeSection(column, qMax(sample, header->sectionSize(column)));
+    header->moveSection(header->visualIndex(column), column - Address_Rows::cValue + Address_Rows::cDescription);
+  }
 }
 
 void Address_View::showAddress(const QUuid& key) {

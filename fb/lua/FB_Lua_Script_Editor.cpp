@@ -107,7 +107,14 @@ bool FB_Lua_Script_Editor::isUnsaved() const {
 }
 
 void FB_Lua_Script_Editor::onSave() {
-  if (save(true)) {
+  if (!save(true)) {
+    return;
+  }
+  if (mIsConnected) {
+    emit statusText(tr("Script gespeichert. Die Steuerung übernimmt es …"));
+    emit runWanted(block(), script());
+    onDebugKeepAlive();
+  } else {
     emit statusText(tr("Script gespeichert. Ausgeführt wird es, sobald eine Verbindung zur Steuerung besteht."));
   }
 }

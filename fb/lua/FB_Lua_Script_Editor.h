@@ -30,8 +30,11 @@ public:
   void follow() override;
 
   [[nodiscard]] QString script() const;
-  /// The running script's values come, or come no longer: the editor keeps the controller telling them.
+  /// The running script's values come, or come no longer: the editor keeps the controller telling them, and a saved
+  /// script is run.
   void setConnected(bool isConnected);
+  /// The controller runs the script, or says why it does not (German).
+  void showRun(const QString& error);
   /// A line of the running script's console. `time` is the controller's.
   void addTrace(const QDateTime& time, const QString& text);
   void setVariable(const QString& name, const QString& value);
@@ -52,6 +55,8 @@ public slots:
 signals:
   /// While it is connected, again and again: the controller is to go on telling this block's values.
   void keepAliveWanted(const QUuid& block);
+  /// While it is connected: the script that was just saved is to run.
+  void runWanted(const QUuid& block, const QString& script);
 
 private:
   void buildToolBar();
@@ -81,6 +86,7 @@ private:
   QPushButton* mCommands = nullptr;
   QString mStored;      ///< the project's script as it was last seen
   bool mIsGone = false; ///< the block, when this was told last
+  bool mIsConnected = false;
   FB_Lua_Check::Result mCheck;
   QTimer mCheckTimer;
   QTimer mKeepAlive;

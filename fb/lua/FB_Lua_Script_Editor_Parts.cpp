@@ -126,10 +126,24 @@ void FB_Lua_Script_Editor::setConnected(bool isConnected) {
       isConnected ? tr("Noch nichts empfangen.") : tr("Werte kommen mit der Verbindung zur Steuerung.");
   mConsole->setHint(hint + u'\n' + tr("sys_debug_print schreibt hierher."));
   mVariables->setHint(hint + u'\n' + tr("sys_debug_watch zeigt hier einen Wert."));
+  if (mIsConnected == isConnected) {
+    return;
+  }
+  mIsConnected = isConnected;
   if (isConnected) {
     mKeepAlive.start();
+    onDebugKeepAlive();
   } else {
     mKeepAlive.stop();
+  }
+}
+
+void FB_Lua_Script_Editor::showRun(const QString& error) {
+  if (error.isEmpty()) {
+    mNotice->showText({});
+    emit statusText(tr("Die Steuerung führt das Script von \"%1\" aus.").arg(blockName()));
+  } else {
+    mNotice->showText(tr("Die Steuerung führt das Script nicht aus: %1").arg(error));
   }
 }
 

@@ -10,6 +10,7 @@
 #include "fb/model/FB_Variables.h"
 #include "fb/properties/FB_Binding_Delegate.h"
 #include "fb/properties/FB_Dev_Properties_Address_Tree.h"
+#include "ui/Address_Value_Menu.h"
 #include "ui/Empty_Hint.h"
 #include "ui/Filter_Edit.h"
 #include "ui/Theme.h"
@@ -65,7 +66,11 @@ FB_Dev_Properties_Address::FB_Dev_Properties_Address(Project_Session& session, A
       mFilter(new Filter_Edit(0)),
       mTree(new TreeWidgetIO(session)),
       mDelegate(new FB_Binding_Delegate(
-          [this] { return FB_Binding_Search(std::as_const(mSession).database(), mWatch->usage()); }, mTree)) {
+          [this] { return FB_Binding_Search(std::as_const(mSession).database(), mWatch->usage()); }, mTree)),
+      mValueMenu(new Address_Value_Menu(
+          session, [this] { return mValueKeys; }, this)) {
+  connect(mValueMenu, &Address_Value_Menu::info, this, &FB_Dev_Properties_Address::statusText);
+  connect(mValueMenu, &Address_Value_Menu::refused, this, &FB_Dev_Properties_Address::statusText);
   mFilter->setAccessibleName(tr("Suchen"));
   mFilter->setToolTip(tr("Zeigt die Ein- und Ausgänge, in deren Zeile jedes Wort vorkommt. Escape leert das Feld."));
   setUpTree(settings);

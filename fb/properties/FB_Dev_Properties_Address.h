@@ -9,6 +9,7 @@
 #include <QWidget>
 
 class Address_Usage_Watch;
+class Address_Value_Menu;
 class App_Settings;
 class DB_FB_Control;
 class Empty_Hint;
@@ -75,6 +76,8 @@ private:
   void pick(const FB_Pin_Ref& pin);
   void unbind(const QList<FB_Pin_Ref>& pins);
   [[nodiscard]] QList<FB_Pin_Ref> selectedPins() const;
+  /// The group addresses that they are bound to.
+  [[nodiscard]] QList<QUuid> addressesOf(const QList<FB_Pin_Ref>& pins) const;
   void finish(const Edit_Result& result);
 
   Project_Session& mSession;
@@ -86,6 +89,8 @@ private:
   Filter_Edit* mFilter;
   TreeWidgetIO* mTree;
   FB_Binding_Delegate* mDelegate;
+  Address_Value_Menu* mValueMenu;
+  QList<QUuid> mValueKeys; ///< that the menu works on
   QHash<FB_Pin_Ref, QTreeWidgetItem*> mRows;
   QHash<QUuid, QTreeWidgetItem*> mBranches; ///< of several blocks
   bool mIsWidthChosen = false;              ///< by the user, of the pins

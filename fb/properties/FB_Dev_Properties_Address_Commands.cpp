@@ -9,6 +9,7 @@
 #include "fb/properties/FB_Address_Picker.h"
 #include "fb/properties/FB_Dev_Properties_Address.h"
 #include "fb/properties/FB_Dev_Properties_Address_Tree.h"
+#include "ui/Address_Value_Menu.h"
 #include "ui/Theme.h"
 
 #include <QMenu>
@@ -44,6 +45,17 @@ QList<FB_Pin_Ref> FB_Dev_Properties_Address::selectedPins() const {
     }
   }
   return pins;
+}
+
+QList<QUuid> FB_Dev_Properties_Address::addressesOf(const QList<FB_Pin_Ref>& pins) const {
+  QList<QUuid> keys;
+  for (const FB_Pin_Ref& pin : pins) {
+    const DB_Address_Binding* const binding = bindingOf(pin);
+    if (binding && binding->mKind == DB_Address_Binding::Kind::GroupAddress && !keys.contains(binding->mKey)) {
+      keys.append(binding->mKey);
+    }
+  }
+  return keys;
 }
 
 /// A refusal is told in the status bar; the cells show what is true in either case.
@@ -177,10 +189,8 @@ void FB_Dev_Properties_Address::onTree_customContextMenuRequested(const QPoint& 
   auto* const menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->setToolTipsVisible(true);
-  QAction* const send = menu->addAction(Theme::icon(QStringLiteral("number_white")), tr("Wert senden/lesen"));
-  send->setEnabled(false);
-  send->setToolTip(tr("Werte lassen sich erst mit einer Verbindung zur Steuerung senden und lesen."));
-  send->setStatusTip(send->toolTip());
+  mValueKeys = addressesOf(pins);
+  menu->addMenu(mValueMenu);
   menu->addSeparator();
   menu->addAction(Theme::icon(QStringLiteral("search-white")), tr("Adresse auswählen…"), this,
                   [this, pin] { pick(*pin); })

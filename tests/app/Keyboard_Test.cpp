@@ -1,10 +1,10 @@
 #include "app/About_Dlg.h"
 #include "app/Command_Palette.h"
+#include "app/Dev_Settings_Dlg.h"
 #include "app/Geo_Position_Dlg.h"
 #include "app/Main_Window_Dev.h"
 #include "app/Page_Tabs.h"
 #include "app/Project_List.h"
-#include "app/Settings_Dlg.h"
 #include "app/Start_Page.h"
 #include "base/Access_Key.h"
 #include "base/App_Settings.h"
@@ -178,7 +178,7 @@ private slots:
           makeProject();
           main->findChild<Page_Tabs*>()->showPage(rig.mSession.database().mFbPages.pages().at(0).mGuid);
         },
-        [&] { dialog = std::make_unique<Settings_Dlg>(rig.mSettings, nullptr); },
+        [&] { dialog = std::make_unique<Dev_Settings_Dlg>(rig.mSettings, nullptr); },
         [&] { dialog = std::make_unique<Geo_Position_Dlg>(1, 2, nullptr); },
         [&] { dialog = std::make_unique<Address_Import_Dialog>(rig.mSession, rig.mSettings, rig.folder(), nullptr); },
         [&] { dialog = std::make_unique<Address_Search_Dialog>(rig.mSession, rig.mSettings, nullptr); },

@@ -533,6 +533,16 @@ private slots:
     QVERIFY(mRig->close() && QFile::remove(Demo_Project::defaultPath()));
   }
 
+  void newProjectsBeginWithTheConnectionOfTheSettings() {
+    mRig->mSettings.setText(Setting::AppDefaultConnection, u"Werkstatt"_s);
+    mRig->mDialogs.mAnswers = {mRig->path(u"Neu.zpro"_s)};
+    QVERIFY(mRig->newProject());
+    const DB_Connections& connections = mRig->mSession.database().mConnections;
+    QCOMPARE(connections.mItems.size(), 1U);
+    QCOMPARE(connections.mItems.front().mName, u"Werkstatt"_s);
+    QCOMPARE(connections.mSelected, 0);
+  }
+
   void unknownBlocksBecomeCommentsBeforeTheEditorsAreBuilt() {
     mRig->haus();
     auto made = std::make_unique<DB_FB_Control>();

@@ -1,4 +1,3 @@
-#include "db/Project_Digests.h"
 #include "db/Project_Image.h"
 #include "tests/db/Project_Dump.h"
 #include "tests/db/Project_Sample.h"
@@ -118,34 +117,6 @@ private slots:
     QString error;
     QVERIFY(!Project_Image::writeFile(row(DB_Table::Project, cItem), mFolder->filePath("fehlt/a.zpro"), &error));
     QVERIFY(error.contains("fehlt/a.zpro"));
-  }
-
-  /// Each digest tells of its own part only, and saving changes none.
-  void digests() {
-    ProjectDatabase store;
-    QVERIFY(store.openProject(mPath, true));
-    fill(store);
-    const Project_Digests first = *Project_Digests::of(store);
-    QVERIFY(store.recordWriteAll(true));
-    const auto changed = [&store, &first] {
-      const Project_Digests now = *Project_Digests::of(store);
-      return QList<bool>{now.mProgram != first.mProgram, now.mRecords != first.mRecords,
-                         now.mResources != first.mResources};
-    };
-    QCOMPARE(changed(), (QList<bool>{false, false, false}));
-    QVERIFY(first.mResources.isEmpty());
-    QVERIFY(store.ressourceWriteRaw("b", "2") && store.ressourceWriteRaw("a", "1"));
-    QCOMPARE(changed(), (QList<bool>{false, false, true}));
-    QCOMPARE(Project_Digests::of(store)->mResources, Project_Digests::program(QByteArray("a\0"
-                                                                                         "1b\0"
-                                                                                         "2",
-                                                                                         6)));
-    QVERIFY(store.ressourceDeleteAll());
-    const QString server = std::exchange(store.mMail.mServer, "anderer");
-    QCOMPARE(changed(), (QList<bool>{false, true, false}));
-    store.mMail.mServer = server;
-    store.mGenerator.mOrientation += 1;
-    QCOMPARE(changed(), (QList<bool>{true, false, false}));
   }
 
 private:

@@ -29,7 +29,7 @@ public:
   [[nodiscard]] double zoom() const override { return mZoom; }
   [[nodiscard]] bool isDebugToolTip() const override { return mIsDebug; }
   [[nodiscard]] bool isShowingValues() const override { return false; }
-  [[nodiscard]] QString valueOf(const DB_Address_Binding&) const override { return {}; }
+  [[nodiscard]] FB_Live_Value valueOf(const DB_Address_Binding&) const override { return {}; }
   [[nodiscard]] QString linkedPages(const FB_Pin_Ref& pin) const override {
     return pin == mLinked ? QStringLiteral("Außen") : QString();
   }

@@ -17,7 +17,7 @@ public:
   [[nodiscard]] double zoom() const override { return 1; }
   [[nodiscard]] bool isDebugToolTip() const override { return false; }
   [[nodiscard]] bool isShowingValues() const override { return false; }
-  [[nodiscard]] QString valueOf(const DB_Address_Binding&) const override { return {}; }
+  [[nodiscard]] FB_Live_Value valueOf(const DB_Address_Binding&) const override { return {}; }
   [[nodiscard]] QString linkedPages(const FB_Pin_Ref&) const override { return {}; }
   void blockPressed(FB_Base&, const FB_Pin_Ref*, QMouseEvent&) override {}
   void blockMoved(FB_Base&, QMouseEvent&) override {}

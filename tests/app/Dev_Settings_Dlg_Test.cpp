@@ -1,4 +1,4 @@
-#include "app/Settings_Dlg.h"
+#include "app/Dev_Settings_Dlg.h"
 #include "base/Access_Key.h"
 #include "base/App_Settings.h"
 
@@ -11,14 +11,14 @@
 
 using namespace Qt::StringLiterals;
 
-class Settings_Dlg_Test : public QObject {
+class Dev_Settings_Dlg_Test : public QObject {
   Q_OBJECT
 
 private slots:
   void everySettingHasItsField() {
     QTemporaryDir folder;
     App_Settings settings(folder.filePath(u"a.ini"_s));
-    Settings_Dlg dialog(settings, nullptr);
+    Dev_Settings_Dlg dialog(settings, nullptr);
     QSet<QChar> keys;
     for (const Setting_Row& row : Setting_Table::rows()) {
       QString name = QString::fromLatin1(row.mKey);
@@ -46,7 +46,7 @@ private slots:
     QTemporaryDir folder;
     App_Settings settings(folder.filePath(u"a.ini"_s));
     for (const bool isAccepted : {false, true}) {
-      Settings_Dlg dialog(settings, nullptr);
+      Dev_Settings_Dlg dialog(settings, nullptr);
       dialog.findChild<QCheckBox*>(u"checkBox_AutosaveProject"_s)->setChecked(false);
       dialog.findChild<QSpinBox*>(u"spinBox_McpPort"_s)->setValue(65535);
       dialog.findChild<QComboBox*>(u"comboBox_McpDebug"_s)->setCurrentIndex(1);
@@ -58,5 +58,5 @@ private slots:
   }
 };
 
-QTEST_MAIN(Settings_Dlg_Test)
-#include "Settings_Dlg_Test.moc"
+QTEST_MAIN(Dev_Settings_Dlg_Test)
+#include "Dev_Settings_Dlg_Test.moc"

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "net/Sha256.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
-#include <QCryptographicHash>
 #include <QList>
 #include <QString>
 
@@ -21,7 +22,7 @@ struct Project_Digests {
   QString mResources; ///< empty without any
   int mResourceCount = 0;
 
-  [[nodiscard]] static QString program(QByteArrayView image);
+  [[nodiscard]] static QString program(QByteArrayView image) { return Sha256::hexOf(image); }
   /// The DATA texts of connections, styles, module bus, mail, statistics and telegram monitor, in this order and
   /// without the zero bytes with which they travel: these are reckoned in.
   [[nodiscard]] static QString records(const QList<QByteArray>& texts);
@@ -32,10 +33,11 @@ struct Project_Digests {
   public:
     void add(QByteArrayView name, QByteArrayView file);
     [[nodiscard]] int count() const { return mCount; }
-    [[nodiscard]] QString digest() const;
+    /// Once, behind the last one; empty without any.
+    [[nodiscard]] QString digest() { return mCount == 0 ? QString() : mHash.hex(); }
 
   private:
-    QCryptographicHash mHash{QCryptographicHash::Sha256};
+    Sha256 mHash;
     int mCount = 0;
   };
 

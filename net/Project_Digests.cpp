@@ -1,4 +1,4 @@
-#include "db/Project_Digests.h"
+#include "net/Project_Digests.h"
 
 #include "db/ProjectDatabase.h"
 #include "db/Project_Image.h"
@@ -7,41 +7,23 @@
 
 #include <algorithm>
 
-namespace {
-
-QString hexOf(const QCryptographicHash& hash) {
-  return QString::fromLatin1(hash.result().toHex());
-}
-
-} // namespace
-
-QString Project_Digests::program(QByteArrayView image) {
-  QCryptographicHash hash(QCryptographicHash::Sha256);
-  hash.addData(image);
-  return hexOf(hash);
-}
-
 QString Project_Digests::records(const QList<QByteArray>& texts) {
-  QCryptographicHash hash(QCryptographicHash::Sha256);
+  Sha256 hash;
   for (const QByteArray& text : texts) {
-    hash.addData(text);
-    hash.addData(QByteArrayView("\0", 1));
+    hash.add(text);
+    hash.add(QByteArrayView("\0", 1));
   }
-  return hexOf(hash);
+  return hash.hex();
 }
 
 void Project_Digests::Resources::add(QByteArrayView name, QByteArrayView file) {
   if (file.isEmpty()) {
     return;
   }
-  mHash.addData(name);
-  mHash.addData(QByteArrayView("\0", 1));
-  mHash.addData(file);
+  mHash.add(name);
+  mHash.add(QByteArrayView("\0", 1));
+  mHash.add(file);
   ++mCount;
-}
-
-QString Project_Digests::Resources::digest() const {
-  return mCount == 0 ? QString() : hexOf(mHash);
 }
 
 std::optional<Project_Digests> Project_Digests::of(ProjectDatabase& database, QString* error) {

@@ -1,4 +1,4 @@
-#include "app/Settings_Dlg.h"
+#include "app/Dev_Settings_Dlg.h"
 
 #include "base/Access_Key.h"
 #include "base/App_Settings.h"
@@ -49,7 +49,7 @@ QLabel* makeNote(const QString& text) {
 
 } // namespace
 
-Settings_Dlg::Settings_Dlg(App_Settings& settings, QWidget* parent) : QDialog(parent), mSettings(settings) {
+Dev_Settings_Dlg::Dev_Settings_Dlg(App_Settings& settings, QWidget* parent) : QDialog(parent), mSettings(settings) {
   setWindowTitle(tr("Einstellungen"));
   auto* const layout = new QVBoxLayout(this);
   layout->setSpacing(cGroupGap);
@@ -61,12 +61,12 @@ Settings_Dlg::Settings_Dlg(App_Settings& settings, QWidget* parent) : QDialog(pa
   auto* const buttons = new QDialogButtonBox;
   buttons->addButton(tr("&Übernehmen"), QDialogButtonBox::AcceptRole)->setDefault(true);
   buttons->addButton(tr("&Abbrechen"), QDialogButtonBox::RejectRole);
-  connect(buttons, &QDialogButtonBox::accepted, this, &Settings_Dlg::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &Settings_Dlg::reject);
+  connect(buttons, &QDialogButtonBox::accepted, this, &Dev_Settings_Dlg::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &Dev_Settings_Dlg::reject);
   layout->addWidget(buttons);
 }
 
-QWidget* Settings_Dlg::makeGroup(Setting_Group group) {
+QWidget* Dev_Settings_Dlg::makeGroup(Setting_Group group) {
   auto* const box = new QGroupBox(Setting_Table::groupTitle(group));
   auto* const form = new QFormLayout(box);
   form->setSpacing(cGap);
@@ -86,7 +86,7 @@ QWidget* Settings_Dlg::makeGroup(Setting_Group group) {
   return box;
 }
 
-void Settings_Dlg::addField(QFormLayout& form, const Setting_Row& row) {
+void Dev_Settings_Dlg::addField(QFormLayout& form, const Setting_Row& row) {
   QWidget* const editor = makeEditor(row);
   const QString reason = Setting_Table::text(row.mUnread);
   const QString tip = Setting_Table::text(row.mTip);
@@ -105,7 +105,7 @@ void Settings_Dlg::addField(QFormLayout& form, const Setting_Row& row) {
   form.addRow(label, editor);
 }
 
-QWidget* Settings_Dlg::makeEditor(const Setting_Row& row) {
+QWidget* Dev_Settings_Dlg::makeEditor(const Setting_Row& row) {
   const int value = mSettings.value(row.mSetting);
   switch (row.mKind) {
   case Setting_Row::Kind::Switch: {
@@ -142,7 +142,7 @@ QWidget* Settings_Dlg::makeEditor(const Setting_Row& row) {
   return box;
 }
 
-void Settings_Dlg::accept() {
+void Dev_Settings_Dlg::accept() {
   for (const std::function<void()>& store : mStores) {
     store();
   }

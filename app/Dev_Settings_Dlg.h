@@ -12,12 +12,12 @@ class QFormLayout;
 
 /// The settings of the studio, made from the setting table: shown in groups, taken over with "Übernehmen". What nothing
 /// reads yet is disabled and says why.
-class Settings_Dlg : public QDialog {
+class Dev_Settings_Dlg : public QDialog {
   Q_OBJECT
 
 public:
   /// The settings outlive the dialog.
-  Settings_Dlg(App_Settings& settings, QWidget* parent);
+  Dev_Settings_Dlg(App_Settings& settings, QWidget* parent);
 
   void accept() override;
 
