@@ -1,11 +1,21 @@
+#include "db/Project_Image.h"
 #include "net/Controller_Command.h"
 #include "net/Controller_Records.h"
 #include "net/Controller_Request.h"
+#include "net/DB_Discovery_Answer.h"
+#include "net/Network_Frame.h"
+#include "net/Project_Transfer.h"
+#include "simulator/Simulator_Discovery.h"
+#include "simulator/Simulator_Frame_Reader.h"
 #include "tests/simulator/Simulator_Rig.h"
 
+#include <QNetworkDatagram>
+#include <QTcpSocket>
+#include <QUdpSocket>
 #include <QtTest>
 
-using Telegram = DB_Address_Network_Telegram;
+using namespace Controller_Command;
+using Group_Telegram = DB_Address_Network_Telegram;
 
 class Simulator_Server_Test : public QObject {
   Q_OBJECT
@@ -35,19 +45,204 @@ private slots:
     Controller_Link other(rig.mSession);
     other.connectTo(rig.connection());
     QTRY_VERIFY(other.isOnline());
-    QList<Telegram> heard;
+    QList<Group_Telegram> heard;
     for (Main_Network_Client* const client : {&rig.client(), &other.client()}) {
-      connect(client, qOverload<Telegram>(&Main_Network_Client::onProcessNetworkRead), this,
-              [&heard](const Telegram& telegram) { heard.append(telegram); });
+      connect(client, qOverload<Group_Telegram>(&Main_Network_Client::onProcessNetworkRead), this,
+              [&heard](const Group_Telegram& telegram) { heard.append(telegram); });
     }
-    rig.client().sendTelegram(Telegram::to({1, 2, 3}, Telegram::Write, QByteArray(1, '\1')));
+    rig.client().sendTelegram(Group_Telegram::to({1, 2, 3}, Group_Telegram::Write, QByteArray(1, '\1')));
     QTRY_COMPARE(heard.size(), 2);
     QCOMPARE(heard.first().address(), Group_Address(1, 2, 3));
     QVERIFY(heard.first().mSourceArea != 0);
-    other.client().sendTelegram(Telegram::to({1, 2, 3}, Telegram::Read, {}));
+    other.client().sendTelegram(Group_Telegram::to({1, 2, 3}, Group_Telegram::Read, {}));
     QTRY_COMPARE(heard.size(), 3);
-    QCOMPARE(heard.last().mService, quint32(Telegram::Response));
+    QCOMPARE(heard.last().mService, quint32(Group_Telegram::Response));
     QCOMPARE(heard.last().mData, QByteArray(1, '\1'));
+  }
+
+  /// A project arrives, comes back equal, and is kept over a restart; so are values that were stored, and only those.
+  void projectAndRestart() {
+    const QTemporaryDir folder;
+    Simulator_Options options;
+    options.mFolder = folder.filePath(QStringLiteral("data"));
+    Simulator_Rig rig(options);
+    DB_Address_Sub_Group* const light = rig.addAddress({1, 2, 3}, QStringLiteral("Licht"));
+    light->mDpt = {1, 1};
+    QVERIFY(rig.mSession.database().ressourceWriteRaw(QStringLiteral("plan.png"), "PNG"));
+    QVERIFY(rig.goOnline());
+    for (int generation = 1; generation <= 2; ++generation) {
+      Project_Transfer write(rig.client(), rig.mSession, {});
+      write.start();
+      QTRY_VERIFY(write.isFinished());
+      QCOMPARE(write.errorText(), QString());
+      QCOMPARE(write.generation(), generation);
+    }
+    QCOMPARE(rig.controller().values().value({1, 2, 3}), QByteArray(1, '\0'));
+    QCOMPARE(rig.controller().project().image(), Project_Image::whole(rig.mSession.database())->toBytes());
+
+    rig.controller().writeValue({1, 2, 3}, QByteArray(1, '\1'));
+    QCOMPARE(ask(rig, Persistent_Store, {}, Persistent_Stored), QByteArray());
+    rig.controller().writeValue({1, 2, 3}, QByteArray(1, '\0'));
+    QCOMPARE(ask(rig, Restart, {}, Restarting), QByteArray());
+    QTRY_VERIFY(!rig.mLink.isOnline());
+    QTRY_VERIFY(rig.goOnline());
+    QCOMPARE(rig.controller().values().value({1, 2, 3}), QByteArray(1, '\1'));
+    QCOMPARE(rig.controller().project().header().mGeneration, 2);
+    // Another process would find the same.
+    Simulator_Controller again(rig.controller().options());
+    QCOMPARE(again.project().image(), rig.controller().project().image());
+  }
+
+  void abandonedWrite_data() {
+    QTest::addColumn<QList<int>>("commands");
+    QTest::addColumn<QString>("refusal");
+    const QString nothing = QStringLiteral("Es wird kein Projekt übertragen.");
+    QTest::newRow("start without begin") << QList<int>{15} << nothing;
+    QTest::newRow("record without begin") << QList<int>{103} << nothing;
+    QTest::newRow("no records") << QList<int>{14, 15} << QStringLiteral("Das übertragene Projekt ist unvollständig.");
+    QTest::newRow("aborted") << QList<int>{14, 7009, 15} << nothing;
+    QTest::newRow("program without stream")
+        << QList<int>{7002} << QStringLiteral("Das Programm ist nicht vollständig angekommen.");
+    QTest::newRow("start of no program") << QList<int>{7004} << QStringLiteral("Es ist kein Programm übertragen.");
+    QTest::newRow("unknown command") << QList<int>{4711}
+                                     << QStringLiteral("Die Steuerung kennt den Befehl 4711 nicht.");
+    QTest::newRow("no such backup") << QList<int>{1348} << QStringLiteral("Diese Sicherung gibt es nicht.");
+  }
+
+  /// What cannot be done is refused, and the controller runs on.
+  void abandonedWrite() {
+    QFETCH(QList<int>, commands);
+    QFETCH(QString, refusal);
+    Simulator_Rig rig;
+    QVERIFY(rig.goOnline());
+    for (const int command : commands.first(commands.size() - 1)) {
+      rig.client().sendCommand(static_cast<quint32>(command));
+    }
+    Controller_Request request(rig.client(), static_cast<quint32>(commands.last()), {}, 1, {});
+    request.start();
+    QTRY_VERIFY(request.isFinished());
+    QCOMPARE(request.errorText(), refusal);
+    QVERIFY(!rig.controller().isStopped());
+  }
+
+  void lostLinkInWrite() {
+    Simulator_Rig rig;
+    QVERIFY(rig.goOnline());
+    rig.client().sendCommand(Project_Begin);
+    QTRY_VERIFY(rig.controller().isStopped());
+    rig.mLink.disconnectLink();
+    QTRY_VERIFY(!rig.controller().isStopped());
+  }
+
+  void beforeLogOn() {
+    Simulator_Rig rig;
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress::LocalHost, rig.mServer.port());
+    socket.write(Network_Frame::pack(Information, {}) + Network_Frame::pack(Connection_Check, "127.0.0.1"));
+    Simulator_Frame_Reader reader;
+    QList<quint32> commands;
+    QTRY_VERIFY(([&] {
+      reader.append(socket.readAll());
+      while (const auto message = reader.next()) {
+        commands.append(message->mCommand);
+      }
+      return commands.size() == 2;
+    }()));
+    QCOMPARE(commands, QList<quint32>({Refused, Connection_Check_Reply}));
+    socket.write(Network_Frame::pack(Network_Message::make(Log_On, 1'000'000), {}));
+    QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
+  }
+
+  void backups() {
+    Simulator_Rig rig;
+    QVERIFY(rig.goOnline());
+    rig.controller().writeValue({1, 2, 3}, "a");
+    DB_Backup_List made;
+    made.setData(ask(rig, Backup_Make, "vorher", Backup_Made));
+    QCOMPARE(made.mBackups.size(), std::size_t(1));
+    const QByteArray id = made.mBackups.front().mId.toUtf8();
+    rig.controller().writeValue({1, 2, 3}, "b");
+    QCOMPARE(ask(rig, Backup_Restore, id + "#project", Backup_Restored), QByteArray());
+    QCOMPARE(rig.controller().values().count(), 0); // the project of then knew no addresses
+    QCOMPARE(ask(rig, Backup_Delete, id, Backup_Deleted), QByteArray());
+    DB_Backup_List left;
+    left.setData(ask(rig, Backup_List, {}, Backup_List_Reply));
+    QVERIFY(left.mBackups.empty());
+  }
+
+  void scripts_data() {
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QString>("line");
+    const auto row = [](const char* name, const char* script, const char* error, const char* line) {
+      QTest::newRow(name) << QByteArray(script) << QString::fromUtf8(error) << QString::fromUtf8(line);
+    };
+    row("prints", "function onCreate() sys_debug_print('a: ', 1 + 1) end", "", "a: 2");
+    row("callback", "function onTimerEvent100ms() sys_debug_print('tick') end", "", "tick");
+    row("values", "sys_set_value('1/2/3', 1, true) sys_debug_print(sys_get_value('1/2/3'))", "", "1");
+    row("alias", "sys_alias('E1','Taster') sys_set_value('E1', 7) sys_debug_print(sys_get_value('Taster'))", "", "7");
+    row("global", "function onGlobalChanged(id, v) sys_debug_print(id, v) end sys_set_global_value('a','b')", "", "ab");
+    row("missing function", "sys_send_mail('a','b','c','')", "", "Diese Funktion hat der Simulator nicht.");
+    row("syntax", "if", "Zeile 1", "");
+    row("endless", "while true do end", "rechnet zu lange", "");
+    row("endless and catching", "while true do pcall(function() while true do end end) end", "rechnet zu lange", "");
+    row("memory", "s = 'x' while true do s = s .. s end", "not enough memory", "");
+    row("no files", "io.open('/etc/passwd')", "global 'io'", "");
+    row("no bytecode", "load('\\27Lua')", "global 'load'", "");
+    row("error in callback", "function onTimerEvent100ms() error('x') end", "", "Das Script ist angehalten");
+  }
+
+  void scripts() {
+    QFETCH(QByteArray, script);
+    QFETCH(QString, error);
+    QFETCH(QString, line);
+    Simulator_Rig rig;
+    QVERIFY(rig.goOnline());
+    QString written;
+    const QByteArray guid = QUuid::createUuid().toRfc4122();
+    connect(&rig.client(), qOverload<Network_Message*, uchar*>(&Main_Network_Client::onProcessNetworkRead), &rig.mLink,
+            [&written](const Network_Message* message, const uchar* data) {
+              if (message->mCommand == Script_Console) {
+                written += QString::fromUtf8(QByteArrayView(data, message->mDataLength).sliced(24));
+              }
+            });
+    Controller_Request request(rig.client(), Script_Run, guid + script, Script_Run_Reply, {});
+    request.start();
+    QTRY_VERIFY(request.isFinished());
+    QVERIFY2(request.reply().startsWith(guid), qPrintable(request.errorText()));
+    const QString told = QString::fromUtf8(request.reply().sliced(guid.size()));
+    QVERIFY2(error.isEmpty() ? told.isEmpty() : told.contains(error), qPrintable(told));
+    QTRY_VERIFY2(written.contains(line), qPrintable(written));
+  }
+
+  void search() {
+    Simulator_Options options;
+    options.mDiscoveryPort = 0;
+    Simulator_Controller controller(options);
+    Simulator_Discovery discovery(controller);
+    QVERIFY(discovery.listen(4711));
+    QUdpSocket studio;
+    QVERIFY(studio.bind(QHostAddress(QHostAddress::AnyIPv4), discovery.port(),
+                        QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint));
+    studio.writeDatagram(DB_Discovery_Answer::cSearch.toByteArray(), QHostAddress(QStringLiteral("127.255.255.255")),
+                         discovery.port());
+    std::optional<DB_Discovery_Answer> answer;
+    QTRY_VERIFY(([&] {
+      while (studio.hasPendingDatagrams()) {
+        answer = DB_Discovery_Answer::parse(studio.receiveDatagram().data());
+      }
+      return answer.has_value();
+    }()));
+    QCOMPARE(answer->mPort, 4711);
+  }
+
+private:
+  /// The payload of the reply to a request.
+  static QByteArray ask(Simulator_Rig& rig, quint32 command, const QByteArray& payload, quint32 reply) {
+    Controller_Request request(rig.client(), command, payload, reply, {});
+    request.start();
+    const bool isFinished = QTest::qWaitFor([&] { return request.isFinished(); }, 3000);
+    return isFinished && request.errorText().isEmpty() ? request.reply() : request.errorText().toUtf8() + '?';
   }
 };
 
