@@ -136,7 +136,7 @@ void Main_Network_Client::disconnectFromController() {
 }
 
 bool Main_Network_Client::reconnectIfLost() {
-  if (mSocket->state() != QAbstractSocket::UnconnectedState || !mWanted) {
+  if (mSocket->state() != QAbstractSocket::UnconnectedState || !mWanted || mConnected) {
     return false;
   }
   return mHasRecord ? connectToController(&mConnection) : connectToRelayServer();
@@ -229,6 +229,11 @@ void Main_Network_Client::onSocketConnectionOk() {
 
 void Main_Network_Client::onSocketConnectionClosed() {
   const In_Socket inSocket(this);
+  if (mWanted && mReading) {
+    // Some event dispatchers serve sockets even when told not to. What has come is read first.
+    mIsClosing = true;
+    return;
+  }
   if (mWanted) {
     // The peer closed the link; what it sent before counts.
     const Same_Link link(this);
@@ -240,6 +245,7 @@ void Main_Network_Client::onSocketConnectionClosed() {
   ++mLinkCount;
   mGoOn->stop();
   mReading = false;
+  mIsClosing = false;
   mReader.clear();
   mConnected = false;
   const Same_Link link(this);

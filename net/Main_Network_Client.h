@@ -141,8 +141,9 @@ private:
   bool mWanted = false;
   bool mConnected = false;
   bool mReading = false;
-  int mInSocket = 0;      ///< signals of the socket that are being handled
-  quint64 mLinkCount = 0; ///< tells whether the link is still the one it was before others were called
+  bool mIsClosing = false; ///< the peer has closed the link while what it sent before was read
+  int mInSocket = 0;       ///< signals of the socket that are being handled
+  quint64 mLinkCount = 0;  ///< tells whether the link is still the one it was before others were called
   Message_Reader mReader;
   int mDelivered = 0; ///< telegrams since the last yield
 };

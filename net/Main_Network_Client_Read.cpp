@@ -64,12 +64,17 @@ void Main_Network_Client::read(Reading reading) {
     }
     payload.swap(mReader.payload());
     waitedMs = 0;
-    if (reading == Reading::Timely && pass.hasExpired(cPassMs)) {
+    if (reading == Reading::Timely && !mIsClosing && pass.hasExpired(cPassMs)) {
       mGoOn->start();
       break;
     }
   }
   mReading = false;
+  if (mIsClosing) {
+    mIsClosing = false;
+    onSocketConnectionClosed();
+    return;
+  }
   setReadLimit(std::max(cReadBuffer, mReader.pendingLength()));
 }
 
