@@ -16,7 +16,7 @@ namespace {
 
 constexpr int cGap = 8;
 constexpr int cAddress = 1;
-constexpr int cHintLines = 2;
+constexpr int cHintLines = 3;
 constexpr int cNameWidth = 180;
 constexpr int cAddressWidth = 150;
 constexpr int cSerialWidth = 120;

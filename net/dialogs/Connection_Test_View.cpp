@@ -28,6 +28,7 @@ Connection_Test_View::Connection_Test_View(Controller_Link& link, QWidget* paren
   mTitle->setWordWrap(true);
   mSteps->setAccessibleName(tr("Schritte des Tests"));
   mSteps->setWordWrap(true);
+  mSteps->setFocusPolicy(Qt::NoFocus);
   mSteps->setSelectionMode(QAbstractItemView::NoSelection);
   mProgress->setRange(0, 0);
   mProgress->setTextVisible(false);

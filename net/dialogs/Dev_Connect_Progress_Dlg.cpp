@@ -14,7 +14,7 @@
 namespace {
 constexpr int cGap = 8;
 constexpr int cWidth = 420;
-constexpr int cLines = 2;
+constexpr int cLines = 3;
 constexpr int cTickMs = 250;
 constexpr int cSecond = 1000;
 } // namespace

@@ -23,16 +23,17 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-#include <numeric>
+#include <algorithm>
 
 namespace {
 
 constexpr int cGap = 8;
 constexpr int cGroupGap = 12;
-constexpr QSize cSize(860, 420);
+constexpr QSize cSize(960, 440);
 constexpr int cNumberWidth = 72;
 constexpr int cNameWidth = 180;
-constexpr int cAddressWidth = 170;
+constexpr int cAddressWidth = 150;
+constexpr int cKindWidth = 140;
 const QString cGeometry = QStringLiteral("net:Dev_Select_Connection");
 
 } // namespace
@@ -109,6 +110,7 @@ QWidget* Dev_Select_Connection::makeList() {
   mList->header().resizeSection(Connection_List_Model::cNumber, cNumberWidth);
   mList->header().resizeSection(Connection_List_Model::cName, cNameWidth);
   mList->header().resizeSection(Connection_List_Model::cAddress, cAddressWidth);
+  mList->header().resizeSection(Connection_List_Model::cKind, cKindWidth);
   connect(mList, &Result_List::chosen, this, &Dev_Select_Connection::onEdit);
   connect(mList, &Result_List::selectionChanged, this, &Dev_Select_Connection::updateState);
   auto* const remove = new QShortcut(QKeySequence::Delete, &mList->view(), nullptr, nullptr, Qt::WidgetShortcut);

@@ -10,9 +10,12 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -52,6 +55,15 @@ Main_Connection_Edit::Main_Connection_Edit(Project_Session& session, Controller_
   layout->addWidget(makeButtons());
   for (Checked_Line_Edit* const field : mChecked) {
     connect(field, &Checked_Line_Edit::validityChanged, this, &Main_Connection_Edit::updateState);
+  }
+  // Both groups have their fields below each other.
+  int labelWidth = 0;
+  const QList<QLabel*> labels = findChildren<QLabel*>();
+  for (const QLabel* const label : labels) {
+    labelWidth = std::max(labelWidth, label->sizeHint().width());
+  }
+  for (QLabel* const label : labels) {
+    label->setMinimumWidth(labelWidth);
   }
   onKindChanged();
   mName->selectAll();

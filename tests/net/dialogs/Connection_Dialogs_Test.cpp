@@ -64,10 +64,11 @@ private slots:
     QTreeView& list = *dialog.findChild<QTreeView*>();
     QSet<QChar> keys;
     for (const QPushButton* const one : dialog.findChildren<QPushButton*>()) {
-      const QChar key = Access_Key::of(one->text());
-      QVERIFY2(one->text().startsWith(u"Steuerung suchen"_s) || (!key.isNull() && !keys.contains(key)),
-               qPrintable(one->text()));
-      keys.insert(key);
+      if (one->isVisible()) {
+        const QChar key = Access_Key::of(one->text());
+        QVERIFY2(!key.isNull() && !keys.contains(key), qPrintable(one->text()));
+        keys.insert(key);
+      }
     }
     QCOMPARE(list.model()->rowCount(), 1);
     button(dialog, u"Duplizieren"_s)->click();
