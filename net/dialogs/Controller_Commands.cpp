@@ -27,6 +27,8 @@ Controller_Commands::Controller_Commands(Project_Session& session, App_Settings&
       mAccess{link, session, settings, questions ? *questions : mBoxes},
       mWindow(window) {
   connect(&session, &Project_Session::aboutToClose, this, &Controller_Commands::closeAll);
+  // Its client is there until this is heard, so that what runs can still be cancelled.
+  connect(&link, &QObject::destroyed, this, &Controller_Commands::closeAll);
 }
 
 Controller_Commands::~Controller_Commands() {

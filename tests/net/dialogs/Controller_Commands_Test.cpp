@@ -227,6 +227,21 @@ private slots:
     QVERIFY(!rig.mCommands->isBusy());
   }
 
+  void deletingTheLinkEndsAll() {
+    Session_Rig session;
+    QVERIFY(session.create());
+    Commands_Rig rig;
+    auto link = std::make_unique<Controller_Link>(session.mSession);
+    Controller_Commands commands(session.mSession, rig.mSettings, *link, rig.mWindow, &rig.mQuestions);
+    link->connectTo(rig.mPeer.connection());
+    QVERIFY(QTest::qWaitFor([&] { return link->isOnline(); }));
+    rig.mSettings.setValue(Setting::AskBeforeWriteBootProject, 0);
+    commands.writeProject();
+    QVERIFY(rig.isHeard(Program_Begin));
+    link.reset();
+    QVERIFY(!commands.isBusy());
+  }
+
   void projectIsWrittenAndTold() {
     Commands_Rig rig;
     QVERIFY(rig.goOnline());

@@ -1,3 +1,4 @@
+#include "db/Project_Image.h"
 #include "net/Controller_Records.h"
 #include "net/dialogs/Dev_BackupController_Dlg.h"
 #include "net/dialogs/Dev_Clock_Dlg.h"
@@ -148,6 +149,29 @@ private slots:
     QVERIFY(isShown(dialog, u"Die Sicherung vom %1 ist wiederhergestellt."_s.arg(time(1'750'000'000))));
     QCOMPARE(rig.mPeer.last(Backup_Restore), Commands_Rig::text(sent));
     QVERIFY(rig.mQuestions.mTold.constFirst().contains(time(1'750'000'000)));
+  }
+
+  /// Opening what was loaded closes the project, and with it the dialog that is still telling of it.
+  void projectOfABackupIsOpened() {
+    Commands_Rig rig;
+    QVERIFY(rig.goOnline());
+    const auto image = Project_Image::whole(rig.mRig.mSession.database());
+    QVERIFY(image);
+    rig.mAnswers = {{Backup_List, {{Backup_List_Reply, backups().toData()}}},
+                    {Load, Commands_Rig::stream(Load_Begin, Load_Data, image->toBytes())}};
+    rig.mCommands->restoreBackup();
+    QDialog& dialog = *Commands_Rig::shown();
+    QVERIFY(selectFirst(dialog));
+    const QString path = rig.mRig.folder() + u"/alt.zpro"_s;
+    rig.mQuestions.mAnswers = {path};
+    bool isOpened = false;
+    connect(rig.mCommands.get(), &Controller_Commands::projectLoaded, this,
+            [&](const QString& loaded) { isOpened = rig.mRig.mSession.open(loaded); });
+    QVERIFY(press(dialog, u"Projekt laden…"_s));
+    QVERIFY(QTest::qWaitFor([&] { return isOpened; }));
+    QCOMPARE(rig.mPeer.last(Load), Commands_Rig::text(u"project#neu-2"_s));
+    QCOMPARE(rig.mRig.mSession.path(), path);
+    QVERIFY(!Commands_Rig::shown());
   }
 
   void informationNumberAndClock() {
