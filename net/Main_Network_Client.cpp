@@ -177,9 +177,8 @@ bool Main_Network_Client::sendValue(const Group_Address& address, double value) 
   if (!payload) {
     return false;
   }
-  mSession.values().set(group->mKey,
-                        {*payload, Datapoint_Codec::decode(*type, *payload), QDateTime::currentMSecsSinceEpoch(),
-                         tr("Studio"), !mConnected});
+  mSession.values().set(group->mKey, {*payload, Datapoint_Codec::decode(*type, *payload),
+                                      QDateTime::currentMSecsSinceEpoch(), tr("Studio"), !mConnected});
   return sendTelegram(DB_Address_Network_Telegram::to(address, DB_Address_Network_Telegram::Write, *payload));
 }
 
