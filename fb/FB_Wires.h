@@ -47,6 +47,7 @@ public:
   [[nodiscard]] const Wire& at(int index) const { return mWires[static_cast<size_t>(index)]; }
   /// True when it looks other than before. Building the wires anew puts all lights out.
   bool setLight(int index, const Light& light);
+  [[nodiscard]] const Light& light(int index) const { return mLights[static_cast<size_t>(index)]; }
   /// Around all that is drawn of the wire; pixels of the zoomed page.
   [[nodiscard]] QRectF rect(int index) const;
   /// In pixels of the zoomed page; valid until the next change.
