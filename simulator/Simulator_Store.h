@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+/// The stand-in's disk: named files in a folder, each at every moment whole, or in memory where there is no folder.
+/// Names are letters, digits, "-", "." only.
+class Simulator_Store {
+public:
+  /// Makes the folder; an empty name keeps everything in memory.
+  explicit Simulator_Store(QString folder = {});
+
+  [[nodiscard]] bool isUsable() const { return mIsUsable; }
+  /// Empty for a file that is not there.
+  [[nodiscard]] QByteArray read(const QString& name) const;
+  bool write(const QString& name, const QByteArray& bytes);
+  bool remove(const QString& name);
+  /// Those with this ending, in the order of their names.
+  [[nodiscard]] QStringList names(const QString& ending) const;
+
+private:
+  [[nodiscard]] QString path(const QString& name) const;
+
+  QString mFolder;
+  bool mIsUsable = true;
+  QHash<QString, QByteArray> mMemory;
+};
