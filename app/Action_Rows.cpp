@@ -13,8 +13,10 @@ using Effect = Action_Effect;
 // Why an action cannot be used yet.
 constexpr const char* cDesigner =
     QT_TRANSLATE_NOOP("Action_Table", "Noch nicht verfügbar: kommt mit dem Zeichnen der Visualisierung.");
-constexpr const char* cLink =
-    QT_TRANSLATE_NOOP("Action_Table", "Noch nicht verfügbar: kommt mit der Verbindung zur Steuerung.");
+constexpr const char* cRelay =
+    QT_TRANSLATE_NOOP("Action_Table", "Noch nicht verfügbar: kommt mit dem Vermittlungsdienst.");
+constexpr const char* cFirmware =
+    QT_TRANSLATE_NOOP("Action_Table", "Noch nicht verfügbar: kommt mit der Software der Steuerung.");
 constexpr const char* cSetup =
     QT_TRANSLATE_NOOP("Action_Table", "Noch nicht verfügbar: kommt mit den Einstellungen der Steuerung.");
 constexpr const char* cResources =
@@ -387,10 +389,10 @@ constexpr Action_Row cRows[] = {
     Row("onControllerSelectConnection", QT_TRANSLATE_NOOP("Action_Table", "Verbindungen"), u'V',
         ":/icons/dev_search_control.png",
         QT_TRANSLATE_NOOP("Action_Table", "Wählt die Steuerung, sucht und prüft Verbindungen"))
-        .in(Menu::Online, 0).bar(Bar::Online).missing(cLink),
+        .in(Menu::Online, 0).bar(Bar::Online).when(When::Open).changes(Effect::Dialog),
     Row("onControllerConnect", QT_TRANSLATE_NOOP("Action_Table", "Verbinden\tF11"), u'b', ":/icons/control_offline.png",
         QT_TRANSLATE_NOOP("Action_Table", "Verbindet mit der Steuerung oder trennt die Verbindung"))
-        .in(Menu::Online, 0).keys("F11").bar(Bar::Online).missing(cLink),
+        .in(Menu::Online, 0).keys("F11").bar(Bar::Online).when(When::Open).changes(Effect::Link),
     Row("onControlPlay", QT_TRANSLATE_NOOP("Action_Table", "Play"), u'P', ":/icons/hs_simulation-play-gray.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zwischen Bearbeitungsmodus und Bedienemodus umschalten"))
         .in(Menu::Online, 1).keys("F5").bar(Bar::Online).toolTip(cPlayTip).checks(Check::Operating).when(When::Open)
@@ -398,11 +400,15 @@ constexpr Action_Row cRows[] = {
     Row("onControllerSavePersistentProjectAsk", QT_TRANSLATE_NOOP("Action_Table", "Bootprojekt erzeugen"), u'e',
         ":/icons/save_project_to_control.png",
         QT_TRANSLATE_NOOP("Action_Table", "Projekt permanent auf Steuerung speichern"))
-        .in(Menu::Online, 2).bar(Bar::Online).toolTip(cBootTip).missing(cLink),
+        .in(Menu::Online, 2).bar(Bar::Online).toolTip(cBootTip).when(When::Online).changes(Effect::Dialog),
     Row("onControllerDownloadProject", QT_TRANSLATE_NOOP("Action_Table", "Projekt aus Steuerung laden"), u'l',
         ":/icons/load_project_from_control.png",
         QT_TRANSLATE_NOOP("Action_Table", "Liest das Projekt, das auf der Steuerung läuft"))
-        .in(Menu::Online, 2).bar(Bar::Online).missing(cLink),
+        .in(Menu::Online, 2).bar(Bar::Online).when(When::Online).changes(Effect::Dialog),
+    Row("onControllerCompareProject", QT_TRANSLATE_NOOP("Action_Table", "Projekt mit Steuerung vergleichen"), u'g',
+        ":/icons/compare_project_white.png",
+        QT_TRANSLATE_NOOP("Action_Table", "Zeigt, ob die Steuerung das geöffnete Projekt hat"))
+        .in(Menu::Online, 2).when(When::Online).changes(Effect::Dialog),
     Row("mMenuBackup", QT_TRANSLATE_NOOP("Action_Table", "Sicherung"), u'S', ":/icons/backup_controller_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Persistente Werte und ganze Steuerung sichern und zurückspielen"))
         .in(Menu::Online, 2).opens(Menu::Backup).when(When::Window),
@@ -411,38 +417,38 @@ constexpr Action_Row cRows[] = {
         .in(Menu::Online, 3).opens(Menu::Controller).when(When::Window),
     Row("onControllerTunnel", QT_TRANSLATE_NOOP("Action_Table", "Fernzugriff"), u'F', ":/icons/tunnel_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zugriff auf die Steuerung über den Vermittlungsdienst"))
-        .in(Menu::Online, 3).missing(cLink),
+        .in(Menu::Online, 3).missing(cRelay),
 
     // Online, Sicherung
     Row("onControllerSavePersistentValues", QT_TRANSLATE_NOOP("Action_Table", "Persistente Werte an Steuerung speichern"), u'W',
         ":/icons/file_save_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Die Steuerung schreibt ihre persistenten Werte fest"))
-        .in(Menu::Backup, 0).missing(cLink),
+        .in(Menu::Backup, 0).when(When::Online).changes(Effect::Controller),
     Row("onControllerDownloadPersistentValues", QT_TRANSLATE_NOOP("Action_Table", "Backup Persistente Werte aus Steuerung laden"), u'l',
         ":/icons/persistent_load_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Liest die persistenten Werte in eine Datei"))
-        .in(Menu::Backup, 0).missing(cLink),
+        .in(Menu::Backup, 0).when(When::Online).changes(Effect::Dialog),
     Row("onControllerUploadPersistentValues", QT_TRANSLATE_NOOP("Action_Table", "Backup Persistente Werte zur Steuerung übertragen"), u'z',
         ":/icons/persistent_send_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Schreibt persistente Werte aus einer Datei in die Steuerung"))
-        .in(Menu::Backup, 0).missing(cLink),
+        .in(Menu::Backup, 0).when(When::Online).changes(Effect::Dialog),
     Row("onControllerBackupController", QT_TRANSLATE_NOOP("Action_Table", "Backupsteuerung"), u'B',
         ":/icons/backup_controller_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Sichert Projekt und Werte der Steuerung"))
-        .in(Menu::Backup, 1).missing(cLink),
+        .in(Menu::Backup, 1).when(When::Online).changes(Effect::Dialog),
     Row("onControllerRestoreBackup", QT_TRANSLATE_NOOP("Action_Table", "Sicherung wiederherstellen..."), u'S',
         ":/icons/restore_backup_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Spielt eine Sicherung in die Steuerung zurück"))
-        .in(Menu::Backup, 1).missing(cLink),
+        .in(Menu::Backup, 1).when(When::Online).changes(Effect::Dialog),
 
     // Online, Steuerung
     Row("onControllerGetInformation", QT_TRANSLATE_NOOP("Action_Table", "Steuerungsinformationen"), u'i',
         ":/icons/controller_info_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Version, Lizenz und Zustand der Steuerung"))
-        .in(Menu::Controller, 0).missing(cLink),
+        .in(Menu::Controller, 0).when(When::Online).changes(Effect::Dialog),
     Row("onControllerSytemClock", QT_TRANSLATE_NOOP("Action_Table", "Uhrzeit"), u'U', ":/icons/clock_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Liest und stellt die Uhr der Steuerung"))
-        .in(Menu::Controller, 1).missing(cSetup),
+        .in(Menu::Controller, 1).when(When::Online).changes(Effect::Dialog),
     Row("onControllerPassword", QT_TRANSLATE_NOOP("Action_Table", "Passwort"), u'P', ":/icons/password_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Ändert das Passwort der Steuerung"))
         .in(Menu::Controller, 1).missing(cSetup),
@@ -456,14 +462,14 @@ constexpr Action_Row cRows[] = {
     Row("onControllerUpdateSoftware", QT_TRANSLATE_NOOP("Action_Table", "Software Update"), u'S',
         ":/icons/update_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Spielt eine neue Software in die Steuerung"))
-        .in(Menu::Controller, 2).missing(cLink),
+        .in(Menu::Controller, 2).missing(cFirmware),
     Row("onControllerReboot", QT_TRANSLATE_NOOP("Action_Table", "Neustart"), u'e', ":/icons/reboot_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Startet die Steuerung neu"))
-        .in(Menu::Controller, 2).missing(cLink),
+        .in(Menu::Controller, 2).when(When::Online).changes(Effect::Controller),
     Row("onControllerFactoryReset", QT_TRANSLATE_NOOP("Action_Table", "Projekt zurücksetzen"), u'z',
         ":/icons/factory_reset_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Löscht das Projekt auf der Steuerung"))
-        .in(Menu::Controller, 2).missing(cLink),
+        .in(Menu::Controller, 2).when(When::Online).changes(Effect::Controller),
 
     // Extras
     Row("onEdit_ODBC_Import", QT_TRANSLATE_NOOP("Action_Table", "Adressen ODBC Import (ESF/XML)"), u'A',
@@ -488,7 +494,7 @@ constexpr Action_Row cRows[] = {
         .in(Menu::Extras, 1).when(When::Open).changes(Effect::Dialog),
     Row("onExtrasVPN", QT_TRANSLATE_NOOP("Action_Table", "VPN Verknüpfung"), u'V', ":/icons/vpn_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Verbindet mit der Steuerung über ein virtuelles Netz"))
-        .in(Menu::Extras, 2).missing(cLink),
+        .in(Menu::Extras, 2).missing(cRelay),
     Row("mMenuLanguage", QT_TRANSLATE_NOOP("Action_Table", "Sprache des Studios"), u'S', ":/icons/language_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Sprache der Menüs und Texte; wirkt beim nächsten Start"))
         .in(Menu::Extras, 3).opens(Menu::Language).when(When::Window),

@@ -250,5 +250,8 @@ QString Action_Table::whyDisabled(const Action_Row& row, const Action_State& sta
   if (state.mIsOperating && (isEdit || (isEditOfFocus && !isMet(when, state)))) {
     return Session_State::operatingModeRefusal();
   }
+  if (when == When::Online && state.mIsOnline && state.mIsProgramOnItsWay) {
+    return tr("Das Programm wird gerade zur Steuerung übertragen.");
+  }
   return isMet(when, state) ? QString() : reason(when);
 }

@@ -117,10 +117,11 @@ struct Action_State {
   bool mIsGridShown = false;
   bool mAreValuesShown = false;
   bool mIsOrderShown = false;
-  bool mKeepsOutputs = false; ///< copied blocks keep the bindings of their outputs
-  bool mIsLinkWanted = false; ///< from dialling until the link is ended
-  bool mIsOnline = false;     ///< the link to the controller stands
-  QString mLinkText;          ///< how it stands, with the connection's name
+  bool mKeepsOutputs = false;      ///< copied blocks keep the bindings of their outputs
+  bool mIsLinkWanted = false;      ///< from dialling until the link is ended
+  bool mIsOnline = false;          ///< the link to the controller stands
+  bool mIsProgramOnItsWay = false; ///< to the controller
+  QString mLinkText;               ///< how it stands, with the connection's name
   // Of what has the keyboard focus.
   bool mCanCut = false;
   bool mCanCopy = false;

@@ -9,10 +9,11 @@
 
 Logic_Page_Tab::Logic_Page_Tab(Project_Session& session, App_Settings& settings, const QUuid& page, QWidget* parent)
     : QWidget(parent),
-      mCanvas(new FB_Page(session, settings, page)) {
+      mCanvas(new FB_Page(session, settings, page)),
+      mScroll(new FB_Page_Parent_ScrollView(mCanvas)) {
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(new FB_Page_Parent_ScrollView(mCanvas));
+  layout->addWidget(mScroll);
   setFocusProxy(mCanvas);
   mCanvas->setValueSource(
       [&session](const DB_Address_Binding& binding) { return FB_Session_Values::of(session, binding); });
@@ -25,6 +26,10 @@ QUuid Logic_Page_Tab::page() const {
 
 void Logic_Page_Tab::showChild(const QUuid& guid) {
   mCanvas->showBlock(guid);
+}
+
+void Logic_Page_Tab::setConnectedController(std::optional<int> number) {
+  mScroll->setConnectedController(number);
 }
 
 void Logic_Page_Tab::enter() {

@@ -9,6 +9,7 @@
 #include "app/Geo_Position_Dlg.h"
 #include "app/Language_Menu.h"
 #include "app/Page_Tabs.h"
+#include "app/Program_Play.h"
 #include "app/Project_Drop.h"
 #include "app/Project_Lifecycle.h"
 #include "app/Project_Overview.h"
@@ -16,6 +17,7 @@
 #include "app/Start_Page.h"
 #include "app/Window_Actions.h"
 #include "app/Window_Dialogs.h"
+#include "app/Window_Link.h"
 #include "base/App_Settings.h"
 #include "base/Session_State.h"
 #include "db/Project_Edits.h"
@@ -55,6 +57,7 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
       mExchange(new Address_Exchange(session, settings, *mDialogs, *this)),
       mPageCommands(new FB_Page_List_Commands(session, settings, this)),
       mEditors(new FB_Block_Editors(session, settings, this)),
+      mLink(new Window_Link({session, settings, *mDialogs, *mEditors, *this, isKiosk})),
       mEditTarget(new Edit_Target(*this)),
       mPalette(new Command_Palette(
           session, [this] { return actionState(); }, this)) {
@@ -70,6 +73,7 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
   makeModeMark();
   connectParts();
   connectPageCommands();
+  connectLink();
   connectProjectLists();
   connectPalette();
   makeAutosave();
@@ -83,6 +87,7 @@ Main_Window_Dev::~Main_Window_Dev() {
                                                                            &mState, mEditTarget, &pageTabs()}) {
     disconnect(sender, nullptr, this, nullptr);
   }
+  mLink->shutDown();
   delete takeCentralWidget();
 }
 
@@ -193,6 +198,10 @@ Action_State Main_Window_Dev::actionState() const {
   state.mKeepsOutputs = mSettings.isOn(Setting::FBCopyPasteKeepIO);
   state.mAreValuesShown = pageTabs().areValuesShown();
   state.mIsOrderShown = pageTabs().isOrderShown();
+  state.mIsLinkWanted = mLink->isWanted();
+  state.mIsOnline = mLink->isOnline();
+  state.mIsProgramOnItsWay = mLink->play().isRunning();
+  state.mLinkText = mLink->stateText();
   state.mCanCut = mEditTarget->can(Command::Cut);
   state.mCanCopy = mEditTarget->can(Command::Copy);
   state.mCanPaste = mEditTarget->can(Command::Paste);
@@ -395,11 +404,6 @@ void Main_Window_Dev::onShowVariables() {
   enterVariables();
 }
 
-void Main_Window_Dev::onControlPlay() {
-  mEditTarget->commit();
-  mState.setOperatingMode(!mState.operatingMode());
-}
-
 void Main_Window_Dev::onExtrasSettingsDev() {
   Dev_Settings_Dlg(mSettings, this).exec();
 }
@@ -418,7 +422,7 @@ void Main_Window_Dev::onShowAboutDlg() {
 }
 
 void Main_Window_Dev::closeEvent(QCloseEvent* event) {
-  if (!mLifecycle->mayQuit()) {
+  if (!mLink->mayEnd() || !mLifecycle->mayQuit()) {
     event->ignore();
     return;
   }

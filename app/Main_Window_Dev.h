@@ -10,6 +10,7 @@
 class Address_Exchange;
 class Address_Search_Dialog;
 class Command_Palette;
+class Dev_Select_Connection;
 class Edit_Target;
 class FB_Block_Editors;
 class FB_Help_Window;
@@ -25,6 +26,7 @@ class Result_Dialog;
 class Session_State;
 class Window_Actions;
 class Window_Dialogs;
+class Window_Link;
 
 /// The studio's one window: each command of the action table is a slot here, which passes it on to the part that does
 /// the work.
@@ -91,7 +93,21 @@ public slots:
   void onProgramAlign_Raster();
   void onEdit_MultipleUsedOutputs();
   void onControllerList();
+  void onControllerSelectConnection();
+  void onControllerConnect();
   void onControlPlay();
+  void onControllerSavePersistentProjectAsk();
+  void onControllerDownloadProject();
+  void onControllerCompareProject();
+  void onControllerSavePersistentValues();
+  void onControllerDownloadPersistentValues();
+  void onControllerUploadPersistentValues();
+  void onControllerBackupController();
+  void onControllerRestoreBackup();
+  void onControllerGetInformation();
+  void onControllerSytemClock();
+  void onControllerReboot();
+  void onControllerFactoryReset();
   void onExtrasSettingsDev();
   void onSelectLanguage(QAction* action);
   void onHelp_Context();
@@ -117,6 +133,7 @@ private:
   void onBuildEditors(int percent);
   void toggle(Setting setting);
   void connectPageCommands();
+  void connectLink();
   void connectLogicPage(FB_Page& page);
   void followSelection(FB_Page& page);
   void followStep(const std::vector<History::Applied>& records);
@@ -144,6 +161,7 @@ private:
   Address_Exchange* mExchange;
   FB_Page_List_Commands* mPageCommands;
   FB_Block_Editors* mEditors;
+  Window_Link* mLink;
   Edit_Target* mEditTarget;
   Command_Palette* mPalette;
   QLabel* mModeMark = nullptr;                     ///< seen while the operating mode is on
@@ -153,4 +171,5 @@ private:
   FB_Usages_Dialog* mUsages = nullptr;
   FB_Output_Check_Dialog* mOutputCheck = nullptr;
   FB_Help_Window* mHelp = nullptr;
+  Dev_Select_Connection* mConnections = nullptr;
 };

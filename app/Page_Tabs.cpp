@@ -97,6 +97,18 @@ void Page_Tabs::setOrderShown(bool isShown) {
   }
 }
 
+void Page_Tabs::setConnectedController(std::optional<int> number) {
+  if (mController == number) {
+    return;
+  }
+  mController = number;
+  for (int i = 0; i < count(); ++i) {
+    if (auto* const tab = qobject_cast<Logic_Page_Tab*>(widget(i))) {
+      tab->setConnectedController(number);
+    }
+  }
+}
+
 int Page_Tabs::indexOfPage(const QUuid& page) const {
   for (int i = 0; i < count(); ++i) {
     const Shown_Page* const view = viewAt(i);
@@ -119,6 +131,7 @@ QWidget* Page_Tabs::makeView(const QUuid& guid) {
   auto* const tab = new Logic_Page_Tab(mSession, mSettings, guid);
   tab->canvas().showValues(mAreValuesShown);
   tab->canvas().showExecutionOrder(mIsOrderShown);
+  tab->setConnectedController(mController);
   emit logicPageOpened(tab->canvas());
   return tab;
 }

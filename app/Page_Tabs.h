@@ -4,6 +4,7 @@
 #include <QUuid>
 
 #include <array>
+#include <optional>
 
 class App_Settings;
 class FB_Page;
@@ -34,6 +35,8 @@ public:
   /// On all logic pages: the values at the pins, and the order in which the blocks are executed.
   void setValuesShown(bool areShown);
   void setOrderShown(bool isShown);
+  /// Number of the controller to which the studio is connected; none while it is not. Pages tell when it is not theirs.
+  void setConnectedController(std::optional<int> number);
   [[nodiscard]] bool areValuesShown() const { return mAreValuesShown; }
   [[nodiscard]] bool isOrderShown() const { return mIsOrderShown; }
 
@@ -73,5 +76,6 @@ private:
   std::array<QUuid, 2> mLastOfKind; ///< logic, visualisation
   bool mAreValuesShown = false;
   bool mIsOrderShown = false;
+  std::optional<int> mController;
   int mPressed = -1; ///< the tab on which the middle mouse button went down
 };

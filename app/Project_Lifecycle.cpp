@@ -160,6 +160,7 @@ bool Project_Lifecycle::openDemo() {
     if (!opening.mIsAccepted || !load(path, std::move(opening))) {
       return false;
     }
+    Demo_Project::completeConnection(mSession.database());
     afterLoading(false);
     return true;
   }

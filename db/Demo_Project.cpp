@@ -1,5 +1,6 @@
 #include "db/Demo_Project.h"
 
+#include "db/Connection_Defaults.h"
 #include "db/Project_Session.h"
 
 #include <QCoreApplication>
@@ -125,4 +126,13 @@ bool Demo_Project::build(Project_Session& session, const QString& path, const Fi
     return false;
   }
   return true;
+}
+
+void Demo_Project::completeConnection(ProjectDatabase& database) {
+  for (DB_Connections::ITEM& connection : database.mConnections.mItems) {
+    if (connection.mPassword.isEmpty() && connection.mAddress == "127.0.0.1"_L1) {
+      connection.mUser = Connection_Defaults::user();
+      connection.mPassword = Connection_Defaults::password();
+    }
+  }
 }

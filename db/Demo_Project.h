@@ -20,4 +20,8 @@ using Fill = std::function<bool(ProjectDatabase& database, const QJsonObject& de
 /// Makes the project file at `path`, and its folder, and leaves the project open. False with a German `error`.
 [[nodiscard]] bool build(Project_Session& session, const QString& path, const Fill& logic, QString& error);
 
+/// A demo project of an older studio has a connection without password, with which its stand-in lets nobody in: gives
+/// it the one of a new project. A password that the user has set stays.
+void completeConnection(ProjectDatabase& database);
+
 } // namespace Demo_Project

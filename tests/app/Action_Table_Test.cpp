@@ -14,7 +14,12 @@ namespace {
 using namespace Qt::StringLiterals;
 
 Action_State opened() {
-  return {.mIsOpen = true, .mCanUndo = true, .mCanRedo = true, .mUndoText = "Umbenennen", .mRedoText = "Verschieben"};
+  return {.mIsOpen = true,
+          .mCanUndo = true,
+          .mCanRedo = true,
+          .mUndoText = "Umbenennen",
+          .mRedoText = "Verschieben",
+          .mLinkText = "Nicht verbunden"};
 }
 
 const Action_Row& rowOf(const char* slot) {
@@ -91,6 +96,7 @@ private slots:
         {"onZoom_Plus", u"Zoom\t(Strg + Mausrad)"_s},
         {"onPagePrevious", u"Vorherige Seite\t(Strg + Pfeil links)"_s},
         {"onControlPlay", u"Zwischen Bearbeitungsmodus und Bedienemodus umschalten\tF5"_s},
+        {"onControllerSavePersistentProjectAsk", u"Projekt permanent auf Steuerung speichern"_s},
     };
     for (const auto& [slot, tip] : tips) {
       QCOMPARE(Action_Table::toolTip(rowOf(slot), {}), tip);

@@ -519,10 +519,14 @@ private slots:
   void theDemoIsBuiltWhenItIsMissingOrBrokenElseOpenedAsItIs() {
     QFile::remove(Demo_Project::defaultPath());
     QVERIFY(mRig->mLifecycle.openDemo());
+    DB_Connections::ITEM& connection = mRig->mSession.database().mConnections.mItems.at(0);
+    const QString password = std::exchange(connection.mPassword, QString()); // as older studios made it
     QVERIFY(mRig->edit() && mRig->save() && mRig->close());
     QVERIFY(mRig->mLifecycle.openDemo());
     QCOMPARE(mRig->mDialogs.mTranscript, cBuilding + cOpening);
     QCOMPARE(mRig->mSession.database().mFbPages.pages().at(0).mCaption, u"Umbenannt"_s);
+    QCOMPARE(mRig->mSession.database().mConnections.mItems.at(0).mPassword, password);
+    QVERIFY(!password.isEmpty());
     QVERIFY(mRig->close());
     mRig->write(Demo_Project::defaultPath(), "kein Projekt");
     mRig->mDialogs.mAnswers = {u"Nein"_s, u"Ja"_s};
