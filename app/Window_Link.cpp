@@ -6,6 +6,7 @@
 #include "app/Status_Progress.h"
 #include "db/Project_Session.h"
 #include "fb/FB_Block_Editors.h"
+#include "net/Controller_Values.h"
 #include "net/Script_Debug.h"
 #include "net/dialogs/Controller_Commands.h"
 #include "net/dialogs/Dev_Connect_Progress_Dlg.h"
@@ -28,6 +29,7 @@ Window_Link::Window_Link(const Parts& parts)
     : QObject(&parts.mWindow),
       mParts(parts),
       mLink(new Controller_Link(parts.mSession, this)),
+      mValues(new Controller_Values(parts.mSession, *mLink, this)),
       mScripts(new Script_Debug(mLink->client(), this)),
       mPlay(new Program_Play(parts.mSession, *mLink, this)),
       mCommands(new Controller_Commands(parts.mSession, parts.mSettings, *mLink, parts.mWindow, nullptr, this)),

@@ -9,6 +9,7 @@
 
 class App_Settings;
 class Controller_Commands;
+class Controller_Values;
 class FB_Block_Editors;
 class Lifecycle_Dialogs;
 class Link_Status;
@@ -70,6 +71,7 @@ private:
 
   Parts mParts;
   Controller_Link* mLink;
+  Controller_Values* mValues;
   Script_Debug* mScripts;
   Program_Play* mPlay;
   Controller_Commands* mCommands;
