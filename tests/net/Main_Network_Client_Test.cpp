@@ -262,6 +262,33 @@ private slots:
     QCOMPARE(yields, (QList<int>{100, 152, 304, 400}));
   }
 
+  /// A box that opens in what was queued during a delivery does not keep the link from delivering on.
+  void queuesForAfterwards() {
+    Link_Rig rig;
+    QVERIFY(rig.dial());
+    QStringList called;
+    rig.mOnTold = [&](const QString& told) {
+      if (told != QStringLiteral("t1/0/0")) {
+        return;
+      }
+      QObject gone;
+      rig.mClient->queue(&gone, [&] { called.append(QStringLiteral("gone")); });
+      rig.mClient->queue(rig.mClient, [&] {
+        called.append(QStringLiteral("%1 telegrams").arg(rig.mTold.size()));
+        rig.mPeer.send(9);
+        called.append(rig.hears(QStringLiteral("9:null")) ? QStringLiteral("heard") : QStringLiteral("held up"));
+      });
+      rig.mClient->queue(rig.mClient, [&] { called.append(QStringLiteral("next")); });
+    };
+    QByteArray bytes;
+    for (int number = 0; number < 200; ++number) { // with a yield in between
+      bytes.append(telegramFrame(number));
+    }
+    rig.mPeer.sendRaw(bytes);
+    QTRY_COMPARE(called.size(), 3);
+    QCOMPARE(called, (QStringList{"200 telegrams", "next", "heard"}));
+  }
+
   void survives_data() {
     QTest::addColumn<QString>("doing");
     QTest::addColumn<bool>("isQueued"); // done at the yield behind it, not in the delivery
