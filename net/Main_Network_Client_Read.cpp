@@ -18,6 +18,8 @@ constexpr int cYieldMs = 150;
 constexpr int cTelegramsWithoutYield = 150;
 /// After that long the event loop serves other sockets and the user before reading goes on.
 constexpr int cPassMs = 100;
+/// So often the clock is looked at.
+constexpr int cTelegramsOfLook = 16;
 /// What the user does may open a box, which would hold up reading until it closes: he is served between the passes, and
 /// within one only when a batch of telegrams makes it too long to wait for.
 constexpr int cLongPassMs = 200;
@@ -37,6 +39,7 @@ void Main_Network_Client::read(Reading reading) {
   const Same_Link link(this);
   mPass.start();
   int waitedMs = 0;
+  int telegrams = 0;
   for (;;) {
     const Message_Reader::Step step = mReader.next(*mSocket);
     if (step == Message_Reader::Step::OutOfStep) {
@@ -66,7 +69,9 @@ void Main_Network_Client::read(Reading reading) {
     }
     payload.swap(mReader.payload());
     waitedMs = 0;
-    if (reading == Reading::Timely && !mIsClosing && mPass.hasExpired(cPassMs)) {
+    // The clock takes longer to look at than a telegram to read.
+    const bool isClockDue = message.mCommand != Controller_Command::Telegram || ++telegrams % cTelegramsOfLook == 0;
+    if (isClockDue && reading == Reading::Timely && !mIsClosing && mPass.hasExpired(cPassMs)) {
       mGoOn->start();
       break;
     }
