@@ -67,7 +67,9 @@ void Main_Network_Client::read(Reading reading) {
     if (link.isGone()) {
       return;
     }
-    payload.swap(mReader.payload());
+    if (payload.size() <= cReadBuffer) {
+      payload.swap(mReader.payload()); // the next one needs no memory of its own
+    }
     waitedMs = 0;
     // The clock takes longer to look at than a telegram to read.
     const bool isClockDue = message.mCommand != Controller_Command::Telegram || ++telegrams % cTelegramsOfLook == 0;
