@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int cTelegrams = 200'000;
-constexpr int cRuns = 3;
+constexpr int cRuns = 9;
 constexpr int cPatienceMs = 60'000;
 
 /// Telegrams in a second.

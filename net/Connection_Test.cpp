@@ -89,7 +89,7 @@ void Connection_Test::ask() {
 void Connection_Test::onNetworkConnect(bool isConnected, const DB_Connections::ITEM&) {
   if (isRunning() && !mLink.isLent()) {
     abandon();
-    QMetaObject::invokeMethod(this, &Connection_Test::interrupted, Qt::QueuedConnection);
+    mClient.queue(this, [this] { emit interrupted(); });
   }
   if (!isRunning() || mIsSettled) {
     return;
@@ -131,7 +131,7 @@ void Connection_Test::settle(Outcome outcome, const QString& detail) {
       proceed(outcome, detail);
     }
   };
-  QMetaObject::invokeMethod(this, next, Qt::QueuedConnection);
+  mClient.queue(this, next);
 }
 
 QString Connection_Test::resultText(Outcome outcome, const QString& detail) const {

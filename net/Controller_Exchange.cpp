@@ -3,12 +3,6 @@
 #include "net/Controller_Command.h"
 #include "net/Controller_Records.h"
 
-namespace {
-
-constexpr int cAgainMs = 10;
-
-} // namespace
-
 Controller_Exchange::Controller_Exchange(Main_Network_Client& client, QObject* parent)
     : QObject(parent),
       mClient(client) {
@@ -91,16 +85,7 @@ void Controller_Exchange::finish(End end, const QString& text) {
   if (end != End::Done) {
     abort();
   }
-  QMetaObject::invokeMethod(this, &Controller_Exchange::tellEnd, Qt::QueuedConnection);
-}
-
-/// Never inside a delivery of the link, which runs the event loop now and then: who hears it may open a box.
-void Controller_Exchange::tellEnd() {
-  if (mClient.isReading()) {
-    QTimer::singleShot(cAgainMs, this, &Controller_Exchange::tellEnd);
-    return;
-  }
-  emit finished(mEnd);
+  mClient.queue(this, [this] { emit finished(mEnd); });
 }
 
 void Controller_Exchange::onNetworkRead(Network_Message* message, uchar* data) {

@@ -68,7 +68,6 @@ private:
   enum class State { Idle, Running, Finished };
   void onTimeout();
   void finish(End end, const QString& text);
-  void tellEnd();
   void onNetworkRead(Network_Message* message, uchar* data);
   void onNetworkConnect(bool isConnected);
 

@@ -85,14 +85,11 @@ void Controller_Link::end() {
 }
 
 void Controller_Link::queue(const std::function<void()>& what) {
-  QMetaObject::invokeMethod(
-      this,
-      [this, what, turn = mTurn] {
-        if (mTurn == turn) {
-          what();
-        }
-      },
-      Qt::QueuedConnection);
+  mClient->queue(this, [this, what, turn = mTurn] {
+    if (mTurn == turn) {
+      what();
+    }
+  });
 }
 
 QString Controller_Link::connectionText() const {

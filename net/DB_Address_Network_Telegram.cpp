@@ -57,16 +57,16 @@ QByteArray Telegram::toBytes() const {
 }
 
 Telegram Telegram::fromBytes(QByteArrayView bytes) {
-  std::array<char, cSize> record{};
-  const qsizetype size = std::min(bytes.size(), cSize);
-  std::ranges::copy(bytes.first(size), record.begin());
+  const QByteArrayView record = bytes.first(std::min(bytes.size(), cSize));
+  const QByteArrayView data = record.sliced(std::min(record.size(), cHead));
+  std::array<char, cHead> head{};
+  std::ranges::copy(record.first(record.size() - data.size()), head.begin());
   Telegram telegram;
   for (const Word& word : cWords) {
-    telegram.*word.mField = qFromLittleEndian<quint32>(record.data() + word.mAt);
+    telegram.*word.mField = qFromLittleEndian<quint32>(head.data() + word.mAt);
   }
-  const auto length = static_cast<qsizetype>(qFromLittleEndian<quint32>(record.data() + cLengthAt));
-  telegram.mIsValid = static_cast<quint8>(record[cValidAt]);
-  telegram.mData =
-      QByteArray(record.data() + cHead, std::clamp<qsizetype>(size - cHead, 0, std::min(length, cMostData)));
+  const auto length = static_cast<qsizetype>(qFromLittleEndian<quint32>(head.data() + cLengthAt));
+  telegram.mIsValid = static_cast<quint8>(head[cValidAt]);
+  telegram.mData = data.first(std::min(data.size(), length)).toByteArray();
   return telegram;
 }

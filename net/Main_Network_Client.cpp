@@ -28,15 +28,19 @@ Main_Network_Client::Main_Network_Client(Project_Session& session, QObject* pare
       mSocket(new QTcpSocket(this)),
       mWatchdog(new QTimer(this)),
       mGoOn(new QTimer(this)),
+      mCallNext(new QTimer(this)),
       mRelayHost(Connection_Defaults::relayHost()) {
   QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
   mWatchdog->setInterval(cRedialMs);
   // A timer, as an event of our own would be served again and again before any timer.
   mGoOn->setInterval(0);
   mGoOn->setSingleShot(true);
+  mCallNext->setInterval(0);
+  mCallNext->setSingleShot(true);
   mSocket->setReadBufferSize(cReadBuffer);
   connect(mWatchdog, &QTimer::timeout, this, &Main_Network_Client::onTimeout);
   connect(mGoOn, &QTimer::timeout, this, &Main_Network_Client::onSocketConnectionReadyRead);
+  connect(mCallNext, &QTimer::timeout, this, &Main_Network_Client::callNext);
   connect(mSocket, &QTcpSocket::errorOccurred, this, &Main_Network_Client::onSocketConnectionError);
   connect(mSocket, &QTcpSocket::connected, this, &Main_Network_Client::onSocketConnectionOk);
   connect(mSocket, &QTcpSocket::disconnected, this, &Main_Network_Client::onSocketConnectionClosed);
@@ -258,4 +262,22 @@ void Main_Network_Client::onSocketConnectionClosed() {
 void Main_Network_Client::onSocketConnectionReadyRead() {
   const In_Socket inSocket(this);
   read(Reading::Timely);
+}
+
+void Main_Network_Client::queue(QObject* receiver, std::function<void()> what) {
+  mCalls.append({receiver, std::move(what)});
+  mCallNext->start();
+}
+
+void Main_Network_Client::callNext() {
+  if (mCalls.isEmpty() || isReading()) {
+    return; // goes on when reading ends
+  }
+  const Call call = mCalls.takeFirst();
+  if (!mCalls.isEmpty()) {
+    mCallNext->start(); // also while a box is open in this one
+  }
+  if (call.mReceiver) {
+    call.mWhat();
+  }
 }

@@ -6,10 +6,14 @@
 #include "net/Network_Message.h"
 
 #include <QAbstractSocket>
+#include <QElapsedTimer>
+#include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QTimer>
 
+#include <functional>
 #include <optional>
 
 class Project_Session;
@@ -69,6 +73,9 @@ public:
   /// What came is being delivered, also while the event loop runs meanwhile: a box that opens now would keep everything
   /// behind it waiting until it closes.
   [[nodiscard]] bool isReading() const { return mReading || mInSocket > 0; }
+  /// Calls it later from the event loop, one after another, but never while it is reading: there a box may be opened.
+  /// Nothing is called any more when the receiver is gone.
+  void queue(QObject* receiver, std::function<void()> what);
   /// From a connect call until a disconnect.
   [[nodiscard]] bool isWanted() const { return mWanted; }
   /// The record in use, or last used.
@@ -123,13 +130,21 @@ private:
   enum class Reading { Timely, WholeRest };
   void read(Reading reading);
   void waitForPayload(const Same_Link& link);
+  void serveOthers(int ms);
+  void callNext();
   void dispatch(Network_Message& message, QByteArray& payload, const Same_Link& link);
   void deliver(const DB_Address_Network_Telegram& telegram, const Same_Link& link);
 
   Project_Session& mSession;
   QTcpSocket* mSocket;
   QTimer* mWatchdog;
-  QTimer* mGoOn; ///< with reading, once the event loop has served others
+  QTimer* mGoOn;     ///< with reading, once the event loop has served others
+  QTimer* mCallNext; ///< of what is queued
+  struct Call {
+    QPointer<QObject> mReceiver;
+    std::function<void()> mWhat;
+  };
+  QList<Call> mCalls;
   DB_Connections::ITEM mConnection;
   bool mHasRecord = false;     ///< else `mConnection` is empty
   std::optional<Target> mNext; ///< while the link before it is taken down
@@ -145,5 +160,6 @@ private:
   int mInSocket = 0;       ///< signals of the socket that are being handled
   quint64 mLinkCount = 0;  ///< tells whether the link is still the one it was before others were called
   Message_Reader mReader;
-  int mDelivered = 0; ///< telegrams since the last yield
+  int mDelivered = 0;  ///< telegrams since the last yield
+  QElapsedTimer mPass; ///< since reading began
 };

@@ -20,8 +20,8 @@ class Main_Network_Client::In_Socket {
 public:
   explicit In_Socket(Main_Network_Client* client) : mClient(client) { ++client->mInSocket; }
   ~In_Socket() {
-    if (mClient) {
-      --mClient->mInSocket;
+    if (mClient && --mClient->mInSocket == 0 && !mClient->mCalls.isEmpty()) {
+      mClient->mCallNext->start();
     }
   }
   Q_DISABLE_COPY_MOVE(In_Socket)

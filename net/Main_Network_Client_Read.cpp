@@ -18,6 +18,11 @@ constexpr int cYieldMs = 150;
 constexpr int cTelegramsWithoutYield = 150;
 /// After that long the event loop serves other sockets and the user before reading goes on.
 constexpr int cPassMs = 100;
+/// So often the clock is looked at.
+constexpr int cTelegramsOfLook = 16;
+/// What the user does may open a box, which would hold up reading until it closes: he is served between the passes, and
+/// within one only when a batch of telegrams makes it too long to wait for.
+constexpr int cLongPassMs = 200;
 
 } // namespace
 
@@ -32,9 +37,9 @@ void Main_Network_Client::read(Reading reading) {
   }
   mReading = true;
   const Same_Link link(this);
-  QElapsedTimer pass;
-  pass.start();
+  mPass.start();
   int waitedMs = 0;
+  int telegrams = 0;
   for (;;) {
     const Message_Reader::Step step = mReader.next(*mSocket);
     if (step == Message_Reader::Step::OutOfStep) {
@@ -64,7 +69,9 @@ void Main_Network_Client::read(Reading reading) {
     }
     payload.swap(mReader.payload());
     waitedMs = 0;
-    if (reading == Reading::Timely && !mIsClosing && pass.hasExpired(cPassMs)) {
+    // The clock takes longer to look at than a telegram to read.
+    const bool isClockDue = message.mCommand != Controller_Command::Telegram || ++telegrams % cTelegramsOfLook == 0;
+    if (isClockDue && reading == Reading::Timely && !mIsClosing && mPass.hasExpired(cPassMs)) {
       mGoOn->start();
       break;
     }
@@ -90,9 +97,15 @@ void Main_Network_Client::waitForPayload(const Same_Link& link) {
   while (!isOver() && !slice.hasExpired(cWaitSliceMs)) {
     mSocket->waitForReadyRead(cPollMs);
     if (!isOver()) {
-      QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers, cWaitSliceMs);
+      serveOthers(cWaitSliceMs);
     }
   }
+}
+
+void Main_Network_Client::serveOthers(int ms) {
+  QEventLoop::ProcessEventsFlags flags = QEventLoop::ExcludeSocketNotifiers;
+  flags.setFlag(QEventLoop::ExcludeUserInputEvents, !mPass.hasExpired(cLongPassMs));
+  QCoreApplication::processEvents(flags, ms);
 }
 
 void Main_Network_Client::dispatch(Network_Message& message, QByteArray& payload, const Same_Link& link) {
@@ -132,6 +145,6 @@ void Main_Network_Client::deliver(const DB_Address_Network_Telegram& telegram, c
   emit onProcessNetworkRead(telegram);
   if (!link.isGone() && mDelivered++ > cTelegramsWithoutYield) {
     mDelivered = 0;
-    QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers, cYieldMs);
+    serveOthers(cYieldMs);
   }
 }

@@ -1,14 +1,34 @@
 #include "base/App_Settings.h"
 #include "db/Address_Values.h"
+#include "db/Value_Service.h"
 #include "fb/FB_Base.h"
 #include "fb/FB_Page.h"
 #include "fb/FB_Page_Parent_ScrollView.h"
 #include "fb/FB_Session_Values.h"
+#include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Page_Edits.h"
 #include "tests/db/Session_Rig.h"
 #include "ui/Theme.h"
 
 #include <QPaintEvent>
+
+namespace {
+
+/// Keeps what is sent.
+class Sent_Values : public Value_Service {
+public:
+  [[nodiscard]] bool isOnline() const override { return true; }
+  void read(const QList<QUuid>& /*keys*/) override {}
+  void cancelReading() override {}
+  [[nodiscard]] bool isReading() const override { return false; }
+  Edit_Result send(const QUuid& key, const QByteArray& payload) override {
+    mSent.append({key, payload});
+    return Edit_Result::done();
+  }
+  QList<std::pair<QUuid, QByteArray>> mSent;
+};
+
+} // namespace
 
 /// Live values on a page: two "Und" blocks, the first one's output and the second one's input are bound to 1/2/3, a
 /// switch; a wire leads from one to the other.
@@ -104,6 +124,57 @@ private slots:
     QVERIFY(live.mIsStale && live.mIsOn == true);
     binding.mKind = DB_Address_Binding::Kind::Internal;
     QVERIFY(FB_Session_Values::of(mRig->mSession, binding).mText.isEmpty());
+  }
+
+  void aClickSendsAPresetValue_data() {
+    QTest::addColumn<QString>("doing");
+    QTest::addColumn<QString>("preset");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("sent") << ""
+                          << "1"
+                          << "Gesendet an 1/2/3: 1";
+    QTest::newRow("not while editing") << "edit"
+                                       << "1"
+                                       << "";
+    QTest::newRow("not by the other button") << "right"
+                                             << "1"
+                                             << "";
+    QTest::newRow("not beside the row") << "beside"
+                                        << "1"
+                                        << "";
+    QTest::newRow("no link") << "offline"
+                             << "1"
+                             << "Keine Verbindung zur Steuerung";
+    QTest::newRow("no address") << "unbound"
+                                << "1"
+                                << "Der Ausgang ist mit keiner Gruppenadresse verknüpft, es gibt nichts zu senden.";
+  }
+
+  void aClickSendsAPresetValue() {
+    QFETCH(const QString, doing);
+    QFETCH(const QString, preset);
+    Project_Session& session = mRig->mSession;
+    const QUuid block = FB_Page_Edits::create(session, mPage->pageGuid(), 1330, {64, 256}).mBlocks.value(0);
+    QVERIFY(FB_Page_Edits::setParameter(session, block, 1, preset));
+    if (doing != QStringLiteral("unbound")) {
+      QVERIFY(FB_Page_Edits::bind(session, {block, FB_Side::Output, 0}, mKey));
+    }
+    Sent_Values service;
+    session.setValueService(doing == QStringLiteral("offline") ? nullptr : &service);
+    session.state().setOperatingMode(doing != QStringLiteral("edit"));
+    QTRY_VERIFY(mPage->blocks().find(block));
+    FB_Base* const widget = mPage->blocks().find(block);
+    QString told;
+    connect(mPage, &FB_Page::statusText, this, [&](const QString& text) { told = text; });
+    const QPointF pin = FB_Geometry::pin(1330, FB_Side::Output, 0, widget->width(), widget->grid());
+    const double y = doing == QStringLiteral("beside") ? 2 : pin.y();
+    QTest::mouseClick(widget, doing == QStringLiteral("right") ? Qt::RightButton : Qt::LeftButton, {},
+                      QPoint(widget->width() / 2, qRound(y)));
+    const QList<std::pair<QUuid, QByteArray>> one{{mKey, QByteArray(1, '\1')}};
+    QCOMPARE(service.mSent, QTest::currentDataTag() == QByteArray("sent") ? one : decltype(one)());
+    QTEST(told, "told");
+    session.setValueService(nullptr);
+    session.state().setOperatingMode(false);
   }
 
 protected:

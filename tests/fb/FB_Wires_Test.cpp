@@ -1,4 +1,5 @@
 #include "fb/FB_Wires.h"
+#include "ui/Theme.h"
 
 #include <QImage>
 #include <QPainter>
@@ -118,9 +119,45 @@ private slots:
     }
   }
 
+  void aWireIsPaintedAsItsValueIs_data() {
+    QTest::addColumn<std::optional<bool>>("isOn");
+    QTest::addColumn<bool>("isStale");
+    QTest::addColumn<Theme::Role>("role");
+    QTest::newRow("none") << std::optional<bool>() << false << Theme::Role::WireVariable;
+    QTest::newRow("on") << std::optional(true) << false << Theme::Role::WireTrue;
+    QTest::newRow("off") << std::optional(false) << false << Theme::Role::WireFalse;
+    QTest::newRow("on, stale") << std::optional(true) << true << Theme::Role::WireTrue;
+    QTest::newRow("neither, stale") << std::optional<bool>() << true << Theme::Role::WireVariable;
+  }
+
+  void aWireIsPaintedAsItsValueIs() {
+    QFETCH(const std::optional<bool>, isOn);
+    QFETCH(const bool, isStale);
+    QFETCH(const Theme::Role, role);
+    const QUuid key = QUuid::createUuid();
+    add({0, 0}, {}, {key});
+    add({300, 0}, {key}, {});
+    mWires.setStyle(FB_Wires::Style::Orthogonal);
+    mWires.rebuild(*mPage);
+    mWires.setLight(0, {isOn, isStale});
+    const QImage image = paint(QRect(0, 0, 500, 500));
+    int colored = 0;
+    int between = 0;
+    for (int x = 150; x < 280; ++x) {
+      colored += image.pixelColor(x, 32) == Theme::color(role) ? 1 : 0;
+      between += image.pixelColor(x, 32) == Qt::black ? 1 : 0;
+    }
+    QVERIFY2(isStale ? colored >= 40 && between >= 40 : colored == 130,
+             qPrintable(QStringLiteral("%1 colored, %2 between").arg(colored).arg(between)));
+  }
+
 private:
   [[nodiscard]] QImage painted(const QRect& region, const QSet<int>& net = {}) {
     mWires.rebuild(*mPage);
+    return paint(region, net);
+  }
+
+  [[nodiscard]] QImage paint(const QRect& region, const QSet<int>& net = {}) const {
     QImage image(500, 500, QImage::Format_RGB32);
     image.fill(Qt::black);
     QPainter painter(&image);

@@ -1,19 +1,6 @@
 #include "net/Byte_Stream.h"
-#include "net/Controller_Records.h"
 
 #include <QtTest>
-
-namespace {
-
-template <class Record>
-bool comesBack(Record& record) {
-  Record again;
-  again.setData(record.toData());
-  again.fromData();
-  return again.isEqual(record) && !record.isEqual(Record());
-}
-
-} // namespace
 
 class Byte_Stream_Test : public QObject {
   Q_OBJECT
@@ -65,33 +52,6 @@ private slots:
       QVERIFY(!stream.take(QByteArrayView(other), &error));
       QVERIFY(!error.isEmpty());
     }
-  }
-
-  void records() {
-    DB_Log_On logOn;
-    logOn.mUser = QStringLiteral("root");
-    logOn.mPassword = QStringLiteral("a;\"b\n=ü");
-    QVERIFY(comesBack(logOn));
-    DB_Refusal refusal;
-    refusal.mCommand = 14;
-    refusal.mReason = QStringLiteral("Es läuft schon eine Übertragung.");
-    QVERIFY(comesBack(refusal));
-    DB_Controller_Project project;
-    project.mProject.mName = QStringLiteral("Haus");
-    project.mProgramDigest = QString(64, u'a');
-    project.mResources = 3;
-    project.mIsRunning = true;
-    QVERIFY(comesBack(project));
-    DB_Backup_List backups;
-    backups.mBackups = {{QStringLiteral("2026-1"), 1'767'225'600, QStringLiteral("vor Umbau"), {}, 5'000'000'000}, {}};
-    QVERIFY(comesBack(backups));
-    DB_Group_Status status;
-    status.mMembers.resize(2);
-    status.mMembers[1].mSecondsSince = 0;
-    QVERIFY(comesBack(status));
-    DB_Network_Settings settings;
-    settings.mAddress = QStringLiteral("192.168.1.20");
-    QVERIFY(comesBack(settings));
   }
 };
 

@@ -262,18 +262,47 @@ private slots:
     QCOMPARE(yields, (QList<int>{100, 152, 304, 400}));
   }
 
+  /// A box that opens in what was queued during a delivery does not keep the link from delivering on.
+  void queuesForAfterwards() {
+    Link_Rig rig;
+    QVERIFY(rig.dial());
+    QStringList called;
+    rig.mOnTold = [&](const QString& told) {
+      if (told != QStringLiteral("t1/0/0")) {
+        return;
+      }
+      QObject gone;
+      rig.mClient->queue(&gone, [&] { called.append(QStringLiteral("gone")); });
+      rig.mClient->queue(rig.mClient, [&] {
+        called.append(QStringLiteral("%1 telegrams").arg(rig.mTold.size()));
+        rig.mPeer.send(9);
+        called.append(rig.hears(QStringLiteral("9:null")) ? QStringLiteral("heard") : QStringLiteral("held up"));
+      });
+      rig.mClient->queue(rig.mClient, [&] { called.append(QStringLiteral("next")); });
+    };
+    QByteArray bytes;
+    for (int number = 0; number < 200; ++number) { // with a yield in between
+      bytes.append(telegramFrame(number));
+    }
+    rig.mPeer.sendRaw(bytes);
+    QTRY_COMPARE(called.size(), 3);
+    QCOMPARE(called, (QStringList{"200 telegrams", "next", "heard"}));
+  }
+
   void survives_data() {
     QTest::addColumn<QString>("doing");
-    QTest::addColumn<bool>("isQueued"); // done at the yield behind it, not in the delivery
-    for (const bool isQueued : {false, true}) {
+    QTest::addColumn<QString>("when"); // in a delivery, at the yield behind it, or while a payload is waited for
+    for (const char* const when : {"delivery", "yield", "wait"}) {
       for (const char* const doing : {"disconnect", "redial", "delete", "peer closes", "receiver deleted"}) {
-        QTest::addRow("%s %s", doing, isQueued ? "at a yield" : "in a delivery") << QString(doing) << isQueued;
+        QTest::addRow("%s in a %s", doing, when) << QString(doing) << QString(when);
       }
     }
   }
   void survives() {
     QFETCH(QString, doing);
-    QFETCH(bool, isQueued);
+    QFETCH(QString, when);
+    const bool isWaiting = when == QStringLiteral("wait");
+    const bool isQueued = when == QStringLiteral("yield");
     Link_Rig rig;
     Scripted_Peer other;
     QVERIFY(rig.dial());
@@ -281,6 +310,7 @@ private slots:
     connect(rig.mClient, qOverload<Telegram>(&Main_Network_Client::onProcessNetworkRead), receiver, [] {});
     const DB_Connections::ITEM next = other.connection();
     const auto act = [&] {
+      QVERIFY(rig.mClient->isReading());
       if (doing == QStringLiteral("disconnect")) {
         rig.mClient->disconnectFromController();
       } else if (doing == QStringLiteral("redial")) {
@@ -300,8 +330,12 @@ private slots:
       }
     };
     QByteArray bytes;
-    for (int number = 0; number < 1000; ++number) {
+    const int telegrams = isWaiting ? 1 : 1000;
+    for (int number = 0; number < telegrams; ++number) {
       bytes.append(telegramFrame(number));
+    }
+    if (isWaiting) {
+      QTimer::singleShot(20, this, act);
     }
     // A pending header is left over, and what belongs to it must not be taken for the next link's.
     rig.mPeer.sendRaw(bytes + Network_Frame::pack(5, QByteArray(64, 'x')).first(50));
@@ -331,9 +365,10 @@ private slots:
     if (doing == QStringLiteral("peer closes")) {
       QVERIFY(rig.hears(QStringLiteral("-")));
     } else {
-      QTRY_COMPARE(rig.mTold.size(), 1000);
+      QTRY_COMPARE(rig.mTold.size(), telegrams);
     }
-    QCOMPARE(rig.mTold.filter(QStringLiteral("t")).size(), 1000); // whole messages before the end arrive
+    QTRY_COMPARE(receiver == nullptr, doing == QStringLiteral("receiver deleted"));
+    QCOMPARE(rig.mTold.filter(QStringLiteral("t")).size(), telegrams); // whole messages before the end arrive
   }
 
   void inConnectSignal_data() {

@@ -14,8 +14,6 @@ private slots:
     QTest::addColumn<qsizetype>("size");
     QTest::addColumn<int>("pieces");
     QTest::newRow("nothing") << qsizetype(0) << 0;
-    QTest::newRow("one byte") << qsizetype(1) << 1;
-    QTest::newRow("one piece") << Byte_Stream::cChunk << 1;
     QTest::newRow("two pieces") << Byte_Stream::cChunk + 1 << 2;
     QTest::newRow("8 MB") << 128 * Byte_Stream::cChunk << 128;
   }
