@@ -33,8 +33,10 @@ void Main_Window_Dev::onControlPlay() {
 }
 
 void Main_Window_Dev::onControllerSavePersistentProjectAsk() {
-  mEditTarget->commit();
-  mLink->commands().writeProject();
+  // Writing saves the project first.
+  if (!mLink->isOnline() || mLifecycle->maySave()) {
+    mLink->commands().writeProject();
+  }
 }
 
 void Main_Window_Dev::onControllerDownloadProject() {

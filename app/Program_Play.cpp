@@ -50,6 +50,7 @@ void Program_Play::onFinished(Controller_Exchange::End end) {
   Program_Transfer* const transfer = std::exchange(mTransfer, nullptr);
   const QString error = transfer->errorText();
   mWasSent = mWasSent || transfer->wasSent();
+  const bool isOwn = transfer->controllerProject().mProject.mProjectId == mSession.database().mProject.mProjectId;
   transfer->deleteLater();
   if (end == Controller_Exchange::End::Done && mSession.isOpen()) {
     mSession.history().commit();
@@ -59,8 +60,12 @@ void Program_Play::onFinished(Controller_Exchange::End end) {
     }
     emit ended();
     mSession.state().setOperatingMode(true);
-    emit info(mWasSent ? tr("Bedienmodus: Die Steuerung führt das neue Programm aus.")
-                       : tr("Bedienmodus: Die Steuerung führt dieses Programm bereits aus."));
+    const QString text = mWasSent ? tr("Bedienmodus: Die Steuerung führt das neue Programm aus.")
+                                  : tr("Bedienmodus: Die Steuerung führt dieses Programm bereits aus.");
+    emit info(isOwn ? text
+                    : text + u' ' +
+                          tr("Ihre Einstellungen und Ressourcen sind nicht die dieses Projekts; \"Bootprojekt "
+                             "erzeugen\" überträgt sie."));
     return;
   }
   emit ended();

@@ -183,6 +183,11 @@ bool Project_Lifecycle::save() {
   return operation && saveFile();
 }
 
+bool Project_Lifecycle::maySave() {
+  const Operation operation(*this);
+  return operation && mayOverwrite();
+}
+
 bool Project_Lifecycle::saveAs() {
   const Operation operation(*this);
   if (!operation || !mSession.isOpen()) {

@@ -31,6 +31,8 @@ public:
   bool openDemo();
   bool save();
   bool saveAs();
+  /// For who saves without this: hands over what is typed and asks what `save` asks before. False calls it off.
+  bool maySave();
   bool close();
   /// Asks about unsaved changes; the project stays open.
   bool mayQuit();

@@ -4,6 +4,7 @@
 #include "db/ProjectDatabase.h"
 
 #include <QCoreApplication>
+#include <QStringDecoder>
 #include <QTemporaryDir>
 #include <QtEndian>
 
@@ -88,7 +89,8 @@ bool isPossible(DB_Table table, QByteArrayView content) {
     return content.contains(DB_Data_Reader::cKeyEnd);
   }
   const qsizetype end = nameEnd(content);
-  return end > 0 && end <= ProjectDatabase::cResourceNameLimit && end + 1 < content.size();
+  const qsizetype name = Project_Image::wholeName(content.first(std::max<qsizetype>(end, 0))).size();
+  return name > 0 && name <= ProjectDatabase::cResourceNameLimit && end + 1 < content.size();
 }
 
 bool writeRecords(DB_Sqlite& database, const std::vector<Project_Image::Row>& rows, DB_Table table) {
@@ -107,7 +109,8 @@ bool writeResources(DB_Sqlite& database, const std::vector<Project_Image::Row>& 
     }
     const QByteArrayView content(row.mContent);
     const qsizetype end = nameEnd(content);
-    const bool isDone = insert.isValid() && isPossible(row.mTable, content) && insert.bindText(1, content.first(end)) &&
+    const QByteArray name = Project_Image::wholeName(content.first(std::max<qsizetype>(end, 0)));
+    const bool isDone = insert.isValid() && isPossible(row.mTable, content) && insert.bindText(1, name) &&
                         insert.bindBlob(2, content.sliced(end + 1)) && insert.step() == DB_Statement::Step::Done;
     insert.reset();
     return isDone;
@@ -150,6 +153,11 @@ std::optional<Project_Image> Project_Image::whole(ProjectDatabase& database, QSt
     return std::nullopt;
   }
   return image;
+}
+
+QByteArray Project_Image::wholeName(QByteArrayView name) {
+  QStringDecoder decoder(QStringDecoder::Utf8); // keeps an unfinished character to itself
+  return QString(decoder(name)).toUtf8();
 }
 
 QByteArray Project_Image::toBytes() const {

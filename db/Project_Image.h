@@ -39,6 +39,9 @@ public:
   /// Empty with a German error for bytes that are no image.
   [[nodiscard]] static std::optional<Project_Image> fromBytes(QByteArrayView bytes, QString* error = nullptr);
 
+  /// A resource's name without the rest of a character that was cut at its end, as a project can keep it.
+  [[nodiscard]] static QByteArray wholeName(QByteArrayView name);
+
   /// Makes a project file of a whole image, replacing one of that name at the end only. False with a German error.
   [[nodiscard]] bool writeFile(const QString& path, QString* error = nullptr) const;
   /// The same from bytes, such as a controller sends.

@@ -68,7 +68,8 @@ void Connection_Test::nextAttempt() {
   mTimer.start(mOptions.mAttemptMs);
   mClock.start();
   // Each dialling begins with a false; it finds nothing asked and means nothing.
-  if (mPhase == Phase::Relay) {
+  // A relay service that the user has named is the one to ask; the built-in one knows nothing of its names.
+  if (mPhase == Phase::Relay && mConnection.mRelayHost.isEmpty()) {
     mClient.connectToRelay(&mConnection);
   } else {
     mClient.connectToController(&mConnection);

@@ -50,6 +50,7 @@ void Controller_Link::connectTo(const DB_Connections::ITEM& connection) {
   }
   mFailedAttempts = 0;
   mLastDialError.clear();
+  mConnection = copy;
   const quint64 turn = mTurn;
   setState(State::Dialling);
   if (self && mTurn == turn) {
@@ -96,9 +97,9 @@ QString Controller_Link::connectionText() const {
   if (mState == State::Offline) {
     return {};
   }
-  const DB_Connections::ITEM& connection = mClient->connection();
-  return connection.mName.isEmpty() ? connection.mAddress
-                                    : QStringLiteral("%1 (%2)").arg(connection.mName, connection.mAddress);
+  // Not the client's, which has another one until it dials; a relayed one leads to a name at the service.
+  const QString& target = mConnection.isRelay() ? mConnection.mRelayDns : mConnection.mAddress;
+  return mConnection.mName.isEmpty() ? target : QStringLiteral("%1 (%2)").arg(mConnection.mName, target);
 }
 
 void Controller_Link::setState(State state) {

@@ -69,6 +69,7 @@ private:
   Project_Session& mSession;
   Main_Network_Client* mClient;
   QTimer mLogOnTimer;
+  DB_Connections::ITEM mConnection; ///< in use, or the last one
   State mState = State::Offline;
   QString mLastDialError;
   int mFailedAttempts = 0;

@@ -20,7 +20,7 @@ void Project_Digests::Resources::add(QByteArrayView name, QByteArrayView file) {
   if (file.isEmpty()) {
     return;
   }
-  mHash.add(name);
+  mHash.add(Project_Image::wholeName(name));
   mHash.add(QByteArrayView("\0", 1));
   mHash.add(file);
   ++mCount;

@@ -27,8 +27,8 @@ struct Project_Digests {
   /// without the zero bytes with which they travel: these are reckoned in.
   [[nodiscard]] static QString records(const QList<QByteArray>& texts);
 
-  /// Takes the resources in the order of the bytes of their names: the name, a zero byte, the file. Empty files are no
-  /// resources.
+  /// Takes the resources in the order of the bytes of their names: the name, a zero byte, the file. Of a character that
+  /// was cut at the end of a name nothing is reckoned in. Empty files are no resources.
   class Resources {
   public:
     void add(QByteArrayView name, QByteArrayView file);

@@ -68,7 +68,8 @@ void Project_Transfer::begin() {
 
 void Project_Transfer::saveFirst() {
   if (mSession.save() != Project_Session::Save_Result::Saved) {
-    fail(mSession.lastError());
+    fail(tr("Das Projekt konnte nicht gespeichert werden, an der Steuerung ist nichts geändert: %1")
+             .arg(mSession.lastError()));
     return;
   }
   if (!checkResources()) {
@@ -149,7 +150,7 @@ bool Project_Transfer::take(quint32 command, QByteArrayView payload) {
     later(&Project_Transfer::stopController);
     return true;
   }
-  if (mStep == Step::Starting && command == Controller_Command::Project_Started && !payload.isEmpty()) {
+  if (mStep == Step::Starting && command == Controller_Command::Project_Started && !text(payload).isEmpty()) {
     takeStarted(payload);
     return true;
   }

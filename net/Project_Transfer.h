@@ -17,7 +17,8 @@ class Project_Session;
 /// main steps and the number of files while resources travel.
 ///
 /// Whoever gives up, or loses the link, leaves the local project saved and the controller with its old project; once
-/// the new one has started only resources are missing.
+/// the new one has started only resources are missing. In between, while its start is not answered yet, nobody here
+/// knows which of the two runs.
 class Project_Transfer : public Controller_Exchange {
   Q_OBJECT
 
@@ -32,6 +33,8 @@ public:
 
   /// The controller runs the new project: giving up stops the resources only.
   [[nodiscard]] bool hasStarted() const { return mHasStarted; }
+  /// The start was sent and not answered.
+  [[nodiscard]] bool isStarting() const { return mStep == Step::Starting; }
   /// The count that the controller gave this write, once its project has started; 0 before.
   [[nodiscard]] int generation() const { return mGeneration; }
 

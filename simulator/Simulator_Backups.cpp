@@ -31,7 +31,7 @@ std::optional<Parts> partsOf(const QByteArray& file) {
 } // namespace
 
 QString Simulator_Backups::nameOf(const QString& id) {
-  static const QRegularExpression possible(QStringLiteral("^[A-Za-z0-9-]{1,40}$"));
+  static const QRegularExpression possible(QStringLiteral("\\A[A-Za-z0-9-]{1,40}\\z"));
   return possible.match(id).hasMatch() ? id + cEnding : QString();
 }
 
@@ -55,7 +55,9 @@ DB_Backup_List Simulator_Backups::list() const {
 
 DB_Backup_List Simulator_Backups::make(const QString& description) {
   DB_Backup_List::Backup backup;
-  backup.mId = QStringLiteral("B-%1").arg(++mController.settings().mLastBackup, cDigits, 10, QChar(u'0'));
+  do {
+    backup.mId = QStringLiteral("B-%1").arg(++mController.settings().mLastBackup, cDigits, 10, QChar(u'0'));
+  } while (!mController.store().read(nameOf(backup.mId)).isEmpty());
   backup.mTime = mController.now() / cMsecs;
   backup.mDescription = description;
   backup.mProjectName = mController.project().header().mName;

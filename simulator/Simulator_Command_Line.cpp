@@ -111,7 +111,7 @@ Line Line::parse(const QStringList& arguments) {
     if (flag != std::end(cFlagOptions)) {
       flag->mSet(line);
     } else if (!isValueOption(name)) {
-      line.mError = tr("Unbekannte Option %1.").arg(argument);
+      line.mError = tr("Unbekannte Option %1.").arg(name); // its value may be a password
     } else if (!argument.contains(u'=') && i + 1 >= arguments.size()) {
       line.mError = tr("Die Option %1 braucht einen Wert.").arg(name);
     } else {

@@ -11,6 +11,7 @@
 #include <QSysInfo>
 #include <QUuid>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -43,11 +44,42 @@ Simulator_Controller::Simulator_Controller(Simulator_Options options, QObject* p
   load();
 }
 
-void Simulator_Controller::load() {
+template <class Content, class Read>
+Content Simulator_Controller::kept(const QString& name, Read read) {
+  const QByteArray bytes = mStore.read(name);
+  std::optional<Content> content = bytes.isEmpty() ? Content() : read(bytes);
+  if (!content && mFault.isEmpty()) {
+    mFault = tr("Die Datei \"%1\" im Ordner \"%2\" ist beschädigt. Mit einem anderen Ordner oder ohne diese Datei "
+                "startet der Simulator.")
+                 .arg(name, mOptions.mFolder);
+  }
+  return content.value_or(Content());
+}
+
+bool Simulator_Controller::load() {
+  mFault = mStore.fault();
+  auto settings = kept<Simulator_Settings>(cSettingsFile, [](const QByteArray& bytes) {
+    Simulator_Settings read;
+    read.setData(bytes);
+    return read.mSerialNumber.isEmpty() ? std::nullopt : std::optional(read);
+  });
+  auto project = kept<Simulator_Project>(cProjectFile,
+                                         [](const QByteArray& bytes) { return Simulator_Project::fromBytes(bytes); });
+  const auto values =
+      kept<Persistent_Values>(cValuesFile, [](const QByteArray& bytes) { return Persistent_Values::fromBytes(bytes); });
+  auto scriptValues = kept<QMap<QString, QString>>(cScriptsFile, [](const QByteArray& bytes) {
+    QDataStream stream(bytes);
+    stream.setVersion(cLayout);
+    QMap<QString, QString> read;
+    stream >> read;
+    return stream.status() == QDataStream::Ok ? std::optional(read) : std::nullopt;
+  });
+  if (!mFault.isEmpty()) {
+    return false;
+  }
   mSinceStart.start();
   mIsStopped = false;
-  mSettings = {};
-  mSettings.setData(mStore.read(cSettingsFile));
+  mSettings = std::move(settings);
   if (mSettings.mSerialNumber.isEmpty()) {
     mSettings.mSerialNumber =
         QStringLiteral("SIM%1").arg(QRandomGenerator::global()->bounded(100'000'000), cSerialDigits, 10, QChar(u'0'));
@@ -55,26 +87,26 @@ void Simulator_Controller::load() {
     mSettings.mNetwork.mMask = QStringLiteral("255.0.0.0");
     storeSettings();
   }
-  mProject = Simulator_Project::fromBytes(mStore.read(cProjectFile)).value_or(Simulator_Project());
+  mProject = std::move(project);
+  // The project is stored before its count.
+  mSettings.mGeneration = std::max(mSettings.mGeneration, mProject.header().mGeneration);
   mValues.clear();
-  mScriptValues.clear();
-  mValues.take(Persistent_Values::fromBytes(mStore.read(cValuesFile)).value_or(Persistent_Values()));
-  QDataStream scripts(mStore.read(cScriptsFile));
-  scripts.setVersion(cLayout);
-  scripts >> mScriptValues;
+  mValues.take(values);
+  mScriptValues = std::move(scriptValues);
   readProgram();
+  return true;
 }
 
 bool Simulator_Controller::storeValues() {
-  return mStore.write(cValuesFile, mValues.persistent().toBytes());
+  return mFault.isEmpty() && mStore.write(cValuesFile, mValues.persistent().toBytes());
 }
 
 bool Simulator_Controller::storeSettings() {
-  return mStore.write(cSettingsFile, mSettings.toData());
+  return mFault.isEmpty() && mStore.write(cSettingsFile, mSettings.toData());
 }
 
 bool Simulator_Controller::storeProject() {
-  return mStore.write(cProjectFile, mProject.toBytes());
+  return mFault.isEmpty() && mStore.write(cProjectFile, mProject.toBytes());
 }
 
 bool Simulator_Controller::isLogOnRight(const QString& user, const QString& password) const {
@@ -107,23 +139,27 @@ void Simulator_Controller::setClock(qint64 msecs) {
 bool Simulator_Controller::startProject(Simulator_Project project) {
   const DB_Project before = mProject.header();
   DB_Project header = project.header();
-  header.mGeneration = ++mSettings.mGeneration;
+  header.mGeneration = mSettings.mGeneration + 1;
   header.mControllerProjectId = before.mProjectId == header.mProjectId && !before.mControllerProjectId.isEmpty()
                                     ? before.mControllerProjectId
                                     : QUuid::createUuid().toString(QUuid::WithoutBraces);
   project.setHeader(header);
+  if (!mStore.write(cProjectFile, project.toBytes())) {
+    return false;
+  }
   mProject = std::move(project);
+  mSettings.mGeneration = header.mGeneration;
   mIsStopped = false;
-  const bool isStored = storeProject() && storeSettings();
   readProgram();
-  return storeValues() && isStored;
+  // The project is the controller's already; what these keep comes again with the next write.
+  storeSettings();
+  storeValues();
+  return true;
 }
 
-bool Simulator_Controller::startProgram(const QByteArray& program) {
+void Simulator_Controller::startProgram(const QByteArray& program) {
   mProject.mProgram = program;
-  const bool isStored = storeProject();
   readProgram();
-  return isStored;
 }
 
 bool Simulator_Controller::restore(const Simulator_Project* project, const QByteArray* values) {
@@ -158,6 +194,9 @@ void Simulator_Controller::readProgram() {
 
 void Simulator_Controller::writeValue(const Group_Address& address, const QByteArray& payload, int area, int line,
                                       int device) {
+  if (!Simulator_Values::isPossible(address, payload)) {
+    return;
+  }
   mValues.set(address, payload);
   DB_Address_Network_Telegram telegram =
       DB_Address_Network_Telegram::to(address, DB_Address_Network_Telegram::Write, payload);

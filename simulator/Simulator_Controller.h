@@ -21,9 +21,10 @@ public:
   explicit Simulator_Controller(Simulator_Options options, QObject* parent = nullptr);
 
   [[nodiscard]] const Simulator_Options& options() const { return mOptions; }
-  [[nodiscard]] bool isUsable() const { return mStore.isUsable(); }
-  /// Forgets what is in memory alone and reads what is kept: a restart.
-  void load();
+  /// Why it cannot work with its folder (German); empty when it can. What is damaged there stays as it is.
+  [[nodiscard]] const QString& fault() const { return mFault; }
+  /// Forgets what is in memory alone and reads what is kept: a restart. False when that is damaged.
+  bool load();
   /// Brings the values to the disk.
   bool storeValues();
 
@@ -41,9 +42,11 @@ public:
   /// The project may be changed as resources are; `storeProject` keeps it.
   [[nodiscard]] Simulator_Project& changeProject() { return mProject; }
   bool storeProject();
-  /// Makes this the project, with its own count and identification, and runs it.
+  /// Makes this the project, with its own count and identification, and runs it. False when it cannot be stored; then
+  /// the old one stays.
   bool startProject(Simulator_Project project);
-  bool startProgram(const QByteArray& program);
+  /// Runs another program until the next restart; what is stored stays.
+  void startProgram(const QByteArray& program);
   /// Takes back what a backup holds; null for what stays.
   bool restore(const Simulator_Project* project, const QByteArray* values);
   /// Forgets project and persistent values.
@@ -73,10 +76,14 @@ signals:
   void programStarted();
 
 private:
+  /// What is kept in a file, read; nothing where it is not there. Notes a fault when it is damaged.
+  template <class Content, class Read>
+  [[nodiscard]] Content kept(const QString& name, Read read);
   void readProgram();
 
   Simulator_Options mOptions;
   Simulator_Store mStore;
+  QString mFault;
   Simulator_Settings mSettings;
   Simulator_Project mProject;
   Simulator_Program mProgram;

@@ -40,6 +40,10 @@ bool Simulator_Discovery::listen(quint16 controllerPort, QString* error) {
   return isBound;
 }
 
+bool Simulator_Discovery::isAnswered(const QHostAddress& sender) const {
+  return mController.options().mAnswersRemoteSearch || isOfThisMachine(sender);
+}
+
 quint16 Simulator_Discovery::port() const {
   return mSocket->localPort();
 }
@@ -51,10 +55,10 @@ void Simulator_Discovery::onReadyRead() {
       continue;
     }
     const QHostAddress sender(datagram.senderAddress().toIPv4Address());
-    const bool isLocal = isOfThisMachine(sender);
-    if (!isLocal && !mController.options().mAnswersRemoteSearch) {
+    if (!isAnswered(sender)) {
       continue;
     }
+    const bool isLocal = isOfThisMachine(sender);
     const DB_Controller_Informations informations = mController.informations();
     DB_Discovery_Answer answer;
     answer.mName = informations.mName;

@@ -19,6 +19,7 @@ public:
   /// `controllerPort` is what the answers name. False with a German error.
   bool listen(quint16 controllerPort, QString* error = nullptr);
   [[nodiscard]] quint16 port() const;
+  [[nodiscard]] bool isAnswered(const QHostAddress& sender) const;
 
 private:
   void onReadyRead();

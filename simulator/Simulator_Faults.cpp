@@ -84,6 +84,7 @@ bool Simulator_Faults::add(const QString& text, QString* error) {
 std::optional<int> Simulator_Faults::value(Kind kind, quint32 command) const {
   for (const Fault& fault : mFaults) {
     if (fault.mKind == kind && (fault.mCommand == 0 || fault.mCommand == command)) {
+      ++mHits;
       return fault.mValue;
     }
   }
@@ -91,9 +92,11 @@ std::optional<int> Simulator_Faults::value(Kind kind, quint32 command) const {
 }
 
 bool Simulator_Faults::concerns(Kind kind, quint32 command) const {
-  return std::ranges::any_of(mFaults, [&](const Fault& fault) {
+  const bool isConcerned = std::ranges::any_of(mFaults, [&](const Fault& fault) {
     return fault.mKind == kind && static_cast<quint32>(fault.mValue) == command;
   });
+  mHits += isConcerned ? 1 : 0;
+  return isConcerned;
 }
 
 QByteArray Simulator_Faults::before(quint32 command) const {

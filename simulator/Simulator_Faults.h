@@ -46,7 +46,12 @@ public:
 
   /// False with a German error for a text that is no fault.
   bool add(const QString& text, QString* error = nullptr);
-  void clear() { mFaults.clear(); }
+  void clear() {
+    mFaults.clear();
+    mHits = 0;
+  }
+  /// How often a fault concerned a message since they were cleared.
+  [[nodiscard]] int hits() const { return mHits; }
   [[nodiscard]] bool isEmpty() const { return mFaults.isEmpty(); }
 
   [[nodiscard]] bool has(Kind kind) const { return value(kind, 0).has_value(); }
@@ -74,4 +79,5 @@ private:
   [[nodiscard]] QByteArray before(quint32 command) const;
 
   QList<Fault> mFaults;
+  mutable int mHits = 0;
 };

@@ -15,6 +15,7 @@ using Simulator_Commands::Request;
 using Service = DB_Address_Network_Telegram::Service;
 
 constexpr qint64 cMsecs = 1000;
+constexpr qint64 cLatestMs = 253'402'300'799'999; // the end of the year 9999
 
 QString tr(const char* text) {
   return QCoreApplication::translate("Simulator_Commands", text);
@@ -38,6 +39,7 @@ void logOn(const Request& request) {
   who.setData(request.mPayload.toByteArray());
   if (!request.mController.isLogOnRight(who.mUser, who.mPassword)) {
     request.mSession.sendText(Log_On_Refused, tr("Benutzer oder Passwort ist falsch."));
+    request.mSession.countRefusedLogOn();
     return;
   }
   request.mSession.setLoggedOn();
@@ -59,7 +61,7 @@ void clock(const Request& request) {
   if (request.mCommand == Clock_Set) {
     bool isNumber = false;
     const qint64 wanted = Simulator_Session::text(request.mPayload).toLongLong(&isNumber);
-    if (!isNumber || wanted <= 0) {
+    if (!isNumber || wanted <= 0 || wanted > cLatestMs) {
       request.mSession.refuse(request.mCommand, tr("Das ist keine Uhrzeit."));
       return;
     }
@@ -77,8 +79,11 @@ void telegram(const Request& request) {
     return;
   }
   const Group_Address address = telegram.address();
-  if (telegram.mService != Service::Read) {
+  if (telegram.mService == Service::Response || telegram.mService == Service::Write) {
     request.mController.writeValue(address, telegram.mData);
+    return;
+  }
+  if (telegram.mService != Service::Read) {
     return;
   }
   const QByteArray value = request.mController.values().value(address);

@@ -83,6 +83,8 @@ void start(const Request& request) {
     return;
   }
   runOld(request);
+  // Resources that another studio still sends are those of a project that is gone.
+  request.mServer.forgetStarted();
   request.mSession.staging().mHasStarted = true;
   request.mSession.send(Project_Started, request.mController.project().mRecords.value(Record_Project) + '\0');
 }
@@ -91,6 +93,10 @@ void resource(const Request& request) {
   const std::optional<Resource_Message> resource = Resource_Message::unpack(request.mPayload);
   if (!resource) {
     refuse(request, "Die Ressource hat keinen Namen.");
+    return;
+  }
+  if (!request.mSession.staging().mHasStarted) {
+    refuse(request, "Es wird kein Projekt übertragen.");
     return;
   }
   request.mController.changeProject().mResources.insert(resource->mName, resource->mBytes);
@@ -151,9 +157,8 @@ void programStart(const Request& request) {
     refuse(request, "Es ist kein Programm übertragen.");
   } else if (request.mController.isStopped()) {
     refuse(request, "Die Steuerung steht, weil ein Projekt übertragen wird.");
-  } else if (!request.mController.startProgram(request.mSession.staging().mProgram.bytes())) {
-    refuse(request, "Die Steuerung konnte das Programm nicht speichern.");
   } else {
+    request.mController.startProgram(request.mSession.staging().mProgram.bytes());
     request.mSession.staging() = {};
     request.mSession.send(Program_Started,
                           request.mController.project().told(request.mController.isRunning()).toData());
@@ -171,6 +176,7 @@ void reset(const Request& request) {
     return;
   }
   runOld(request);
+  request.mServer.forgetStarted();
   request.mController.reset();
   request.mSession.send(Reset_Reply);
 }

@@ -4,11 +4,11 @@
 #include "base/Datapoint_Types.h"
 #include "fb/model/FB_Lua_Check.h"
 #include "simulator/Simulator_Controller.h"
+#include "simulator/Simulator_Script_Guards.h"
 #include "simulator/Simulator_Script_Library.h"
 
 #include <lua.hpp>
 
-#include <cmath>
 #include <cstdlib>
 #include <optional>
 #include <utility>
@@ -16,32 +16,9 @@
 namespace {
 
 constexpr std::size_t cMostMemory = std::size_t{32} * 1024 * 1024;
-constexpr int cMostInstructions = 5'000'000;
-constexpr const char* cTooLong = "Das Script rechnet zu lange an einem Stück.";
-
-void* allocate(void* budget, void* block, std::size_t oldSize, std::size_t newSize) {
-  auto& used = *static_cast<std::size_t*>(budget);
-  const std::size_t before = block ? oldSize : 0; // of a new block it is no size
-  if (newSize == 0) {
-    used -= before;
-    std::free(block);
-    return nullptr;
-  }
-  if (newSize > before && newSize - before > cMostMemory - used) {
-    return nullptr;
-  }
-  void* const moved = std::realloc(block, newSize);
-  if (moved) {
-    used = used - before + newSize;
-  }
-  return moved;
-}
-
-void endLongCall(lua_State* lua, lua_Debug*) {
-  // From now on at every step, so that a script that catches errors does not go on.
-  lua_sethook(lua, endLongCall, LUA_MASKCOUNT, 1);
-  luaL_error(lua, cTooLong);
-}
+constexpr std::size_t cReserve = std::size_t{1024} * 1024;
+constexpr int cMostTold = 1000;
+constexpr qsizetype cMostCharacters = 4000; // of a line
 
 QString errorOf(lua_State* lua) {
   std::size_t length = 0;
@@ -54,6 +31,24 @@ int pinNumber(const QString& name) {
 }
 
 } // namespace
+
+void* Simulator_Script::allocate(void* budget, void* block, std::size_t oldSize, std::size_t newSize) {
+  auto& memory = *static_cast<Budget*>(budget);
+  const std::size_t before = block ? oldSize : 0; // of a new block it is no size
+  if (newSize == 0) {
+    memory.mUsed -= before;
+    std::free(block);
+    return nullptr;
+  }
+  if (newSize > before && memory.mUsed + (newSize - before) > memory.mMost) {
+    return nullptr;
+  }
+  void* const moved = std::realloc(block, newSize);
+  if (moved) {
+    memory.mUsed = memory.mUsed - before + newSize;
+  }
+  return moved;
+}
 
 void Simulator_Script::Closes::operator()(lua_State* state) const {
   lua_close(state);
@@ -72,7 +67,8 @@ QString Simulator_Script::run(const QString& script) {
   if (const FB_Lua_Check::Result wrong = FB_Lua_Check::check(script); !wrong) {
     return tr("Zeile %1: %2").arg(wrong.mLine).arg(wrong.mMessage);
   }
-  mLua.reset(lua_newstate(allocate, &mUsed));
+  mBudget.mMost = cMostMemory + cReserve;
+  mLua.reset(lua_newstate(allocate, &mBudget));
   if (!mLua) {
     return tr("Für das Script ist kein Speicher da.");
   }
@@ -97,8 +93,12 @@ QString Simulator_Script::run(const QString& script) {
 }
 
 bool Simulator_Script::callWith(int arguments, QString* error) {
-  lua_sethook(mLua.get(), endLongCall, LUA_MASKCOUNT, cMostInstructions);
-  if (lua_pcall(mLua.get(), arguments, 0, 0) == LUA_OK) {
+  mTold = 0;
+  Simulator_Script_Guards::begin(mLua.get());
+  mBudget.mMost = cMostMemory;
+  const bool isDone = lua_pcall(mLua.get(), arguments, 0, 0) == LUA_OK;
+  mBudget.mMost = cMostMemory + cReserve;
+  if (isDone) {
     lua_settop(mLua.get(), 0);
     return true;
   }
@@ -113,7 +113,40 @@ bool Simulator_Script::callWith(int arguments, QString* error) {
 
 void Simulator_Script::fail(const QString& error) {
   mLua.reset();
-  emit wrote(mBlock.mGuid, tr("Das Script ist angehalten: %1").arg(error));
+  mTold = 0;
+  write(tr("Das Script ist angehalten: %1").arg(error));
+}
+
+/// A script that tells without end must not take the link with it.
+bool Simulator_Script::mayTell() {
+  if (++mTold == cMostTold) {
+    emit wrote(mBlock.mGuid, tr("Das Script schreibt zu viel; der Rest dieses Aufrufs fehlt."));
+  }
+  return mTold < cMostTold;
+}
+
+void Simulator_Script::write(const QString& line) {
+  if (mayTell()) {
+    emit wrote(mBlock.mGuid, line.left(cMostCharacters));
+  }
+}
+
+void Simulator_Script::writeWatched(const QString& name, const QString& value) {
+  if (mayTell()) {
+    emit watched(mBlock.mGuid, name.left(cMostCharacters), value.left(cMostCharacters));
+  }
+}
+
+void Simulator_Script::writeValue(const Group_Address& address, const QByteArray& payload) {
+  if (mayTell()) {
+    mController.writeValue(address, payload);
+  }
+}
+
+void Simulator_Script::tellGlobal(const QString& name, const QString& value) {
+  if (mayTell()) {
+    emit globalChanged(name, value);
+  }
 }
 
 void Simulator_Script::call(const char* function) {
@@ -171,19 +204,21 @@ Group_Address Simulator_Script::addressOf(const QString& name) const {
   return {pins[index].mBinding.mMain, pins[index].mBinding.mMiddle, pins[index].mBinding.mSub};
 }
 
-void Simulator_Script::push(const Group_Address& address, const QByteArray& payload) {
+std::optional<double> Simulator_Script::numberOf(const Group_Address& address, const QByteArray& payload) {
+  mResult.clear();
   const Datapoint_Type* const type = Datapoint_Types::find(mController.values().typeOf(address));
   const std::optional<Datapoint_Value> value = type ? Datapoint_Codec::decode(*type, payload) : std::nullopt;
-  if (value && value->number()) {
-    const double number = *value->number();
-    if (std::floor(number) == number) {
-      lua_pushinteger(mLua.get(), static_cast<lua_Integer>(number));
-    } else {
-      lua_pushnumber(mLua.get(), number);
-    }
-  } else if (value) {
-    lua_pushstring(mLua.get(), Datapoint_Codec::toText(*type, *value).toUtf8().constData());
+  if (value && !value->number()) {
+    mResult = Datapoint_Codec::toText(*type, *value).toUtf8();
+    return std::nullopt;
+  }
+  return value ? value->number() : static_cast<double>(payload.toHex().toULongLong(nullptr, 16));
+}
+
+void Simulator_Script::push(const Group_Address& address, const QByteArray& payload) {
+  if (const std::optional<double> number = numberOf(address, payload)) {
+    Simulator_Script_Guards::pushNumber(mLua.get(), *number);
   } else {
-    lua_pushinteger(mLua.get(), static_cast<lua_Integer>(payload.toHex().toULongLong(nullptr, 16)));
+    lua_pushlstring(mLua.get(), mResult.constData(), static_cast<std::size_t>(mResult.size()));
   }
 }

@@ -3,6 +3,7 @@
 #include "db/DB_FB_Control.h"
 #include "net/DB_Address_Network_Telegram.h"
 
+#include <QByteArray>
 #include <QElapsedTimer>
 #include <QHash>
 #include <QMap>
@@ -11,14 +12,15 @@
 #include <QUuid>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class Simulator_Controller;
 struct lua_State;
 
 /// A script block's script while it runs: Lua 5.4 without files, processes and bytecode, with bounded memory and a
-/// bounded number of instructions for each call. Not all functions of a controller's scripts are there; one that is not
-/// says so on the console.
+/// bounded time for each call: a number of instructions, and of seconds. Not all functions of a controller's scripts
+/// are there; one that is not says so on the console.
 class Simulator_Script : public QObject {
   Q_OBJECT
 
@@ -55,15 +57,32 @@ private:
   };
   friend struct Simulator_Script_Library;
 
+  /// What the memory may come to. Beyond what a script gets there is a reserve for what is done outside of its calls,
+  /// where nobody could catch the language's error.
+  struct Budget {
+    std::size_t mUsed = 0; ///< bytes
+    std::size_t mMost = 0;
+  };
+  static void* allocate(void* budget, void* block, std::size_t oldSize, std::size_t newSize);
+  // What a call tells others, each cut and only so often: the events wait in memory until the call is over.
+  void write(const QString& line);
+  void writeWatched(const QString& name, const QString& value);
+  void writeValue(const Group_Address& address, const QByteArray& payload);
+  void tellGlobal(const QString& name, const QString& value);
+  [[nodiscard]] bool mayTell();
   [[nodiscard]] bool callWith(int arguments, QString* error = nullptr);
   void fail(const QString& error);
   [[nodiscard]] Group_Address addressOf(const QString& name) const;
+  /// What a script gets to see of a value: a number, or none and a text in `mResult`.
+  [[nodiscard]] std::optional<double> numberOf(const Group_Address& address, const QByteArray& payload);
   void push(const Group_Address& address, const QByteArray& payload);
 
   Simulator_Controller& mController;
   Globals& mGlobals;
   DB_FB_Control mBlock;
-  std::size_t mUsed = 0; ///< bytes of the script's memory
+  Budget mBudget;
+  QByteArray mResult; ///< a text that a function returns
+  int mTold = 0;      ///< by the present call
   std::unique_ptr<lua_State, Closes> mLua;
   QHash<QString, QString> mAliases;
   QHash<QString, QString> mPins; ///< values of pins that are bound to nothing

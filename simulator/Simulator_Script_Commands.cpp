@@ -13,11 +13,17 @@ using Simulator_Commands::Access;
 using Simulator_Commands::Request;
 
 constexpr qsizetype cGuid = 16;
+constexpr qsizetype cMostScript = 1024 * 1024;
 
 void script(const Request& request) {
   if (request.mPayload.size() < cGuid) {
     request.mSession.refuse(request.mCommand,
                             QCoreApplication::translate("Simulator_Commands", "Die Kennung des Bausteins fehlt."));
+    return;
+  }
+  if (request.mPayload.size() > cMostScript) {
+    request.mSession.refuse(request.mCommand,
+                            QCoreApplication::translate("Simulator_Commands", "Das Script ist zu lang."));
     return;
   }
   const QByteArrayView guid = request.mPayload.first(cGuid);

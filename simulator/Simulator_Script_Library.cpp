@@ -5,64 +5,82 @@
 #include "fb/model/FB_Lua_Functions.h"
 #include "simulator/Simulator_Controller.h"
 #include "simulator/Simulator_Script.h"
+#include "simulator/Simulator_Script_Guards.h"
 
 #include <lua.hpp>
 
 #include <algorithm>
 #include <optional>
 
+using Library = Simulator_Script_Library;
+using Kind = Library::Result::Kind;
+
+/// Argument i stands at i, its text at count + i.
+class Library::Arguments {
+public:
+  Arguments(lua_State* lua, int count, const char* name) : mLua(lua), mCount(count), mName(name) {}
+
+  /// As the script called it.
+  [[nodiscard]] QString name() const { return QString::fromUtf8(mName); }
+  /// As the language writes it; empty for one that was not given.
+  [[nodiscard]] QString text(int index) const {
+    std::size_t length = 0;
+    const char* const text = index <= mCount ? lua_tolstring(mLua, mCount + index, &length) : nullptr;
+    return QString::fromUtf8(text, static_cast<qsizetype>(length));
+  }
+  [[nodiscard]] QString texts(int first) const {
+    QString all;
+    for (int i = first; i <= mCount; ++i) {
+      all += text(i);
+    }
+    return all;
+  }
+  [[nodiscard]] bool isFlag(int index) const { return index <= mCount && lua_isboolean(mLua, index); }
+  [[nodiscard]] bool isNumber(int index) const { return index <= mCount && lua_isnumber(mLua, index) != 0; }
+  [[nodiscard]] bool flag(int index) const { return index <= mCount && lua_toboolean(mLua, index) != 0; }
+  [[nodiscard]] lua_Integer whole(int index) const { return index <= mCount ? lua_tointeger(mLua, index) : 0; }
+  [[nodiscard]] double number(int index) const { return index <= mCount ? lua_tonumber(mLua, index) : 0; }
+
+private:
+  lua_State* mLua;
+  int mCount;
+  const char* mName;
+};
+
 namespace {
 
-Simulator_Script& scriptOf(lua_State* lua) {
-  return *static_cast<Simulator_Script*>(lua_touserdata(lua, lua_upvalueindex(1)));
-}
-
-/// Any value as a text, as the language writes it.
-QString textAt(lua_State* lua, int index) {
-  std::size_t length = 0;
-  const char* const text = luaL_tolstring(lua, index, &length);
-  QString copy = QString::fromUtf8(text, static_cast<qsizetype>(length));
-  lua_pop(lua, 1);
-  return copy;
-}
-
-QString allTexts(lua_State* lua, int first) {
-  QString text;
-  for (int i = first; i <= lua_gettop(lua); ++i) {
-    text += textAt(lua, i);
-  }
-  return text;
-}
-
-int pushText(lua_State* lua, const QString& text) {
-  lua_pushstring(lua, text.toUtf8().constData());
-  return 1;
-}
+constexpr int cMostArguments = 100;
+constexpr qsizetype cMostNames = 1000; // that scripts may give to values
+constexpr qsizetype cMostText = 4000;  // characters of such a value
 
 /// The payload of a value that a script gives; none for one that the type cannot hold.
-std::optional<QByteArray> payloadOf(lua_State* lua, int index, Datapoint_Id id) {
+std::optional<QByteArray> payloadOf(const Library::Arguments& given, int index, Datapoint_Id id) {
   const Datapoint_Type* const type = Datapoint_Types::find(id);
   if (!type) {
-    return QByteArray(
-        1, static_cast<char>(lua_isboolean(lua, index) ? lua_toboolean(lua, index) : lua_tointeger(lua, index)));
+    return QByteArray(1, static_cast<char>(given.isFlag(index) ? given.flag(index) : given.whole(index)));
   }
   std::optional<Datapoint_Value> value;
-  if (lua_isboolean(lua, index)) {
-    value = Datapoint_Value::ofWhole(lua_toboolean(lua, index));
-  } else if (lua_isnumber(lua, index)) {
+  if (given.isFlag(index)) {
+    value = Datapoint_Value::ofWhole(given.flag(index));
+  } else if (given.isNumber(index)) {
     value.emplace();
-    value->mScalar = static_cast<double>(lua_tonumber(lua, index));
+    value->mScalar = given.number(index);
   } else {
-    value = Datapoint_Codec::fromText(*type, textAt(lua, index));
+    value = Datapoint_Codec::fromText(*type, given.text(index));
   }
   return value ? Datapoint_Codec::encode(*type, *value) : std::nullopt;
 }
 
+template <class Names>
+bool isRoomFor(const Names& names, const QString& name, const QString& value) {
+  return (names.size() < cMostNames || names.contains(name)) && name.size() <= cMostText && value.size() <= cMostText;
+}
+
 struct Function {
   const char* mName;
-  lua_CFunction mFunction;
+  Library::Do mDo;
 };
-using Library = Simulator_Script_Library;
+constexpr Function cMissing = {"", Library::missing};
 constexpr Function cFunctions[] = {
     {"print", Library::print},
     {"sys_debug_print", Library::print},
@@ -84,7 +102,35 @@ constexpr Function cFunctions[] = {
 
 } // namespace
 
-void Simulator_Script_Library::open(lua_State* lua, Simulator_Script& script) {
+/// An error of the language leaves it without destructors: what can fail comes before and behind what has any.
+int Library::call(lua_State* lua) {
+  auto* const script = static_cast<Simulator_Script*>(lua_touserdata(lua, lua_upvalueindex(1)));
+  const auto* const function = static_cast<const Function*>(lua_touserdata(lua, lua_upvalueindex(2)));
+  const auto* const name = static_cast<const char*>(lua_touserdata(lua, lua_upvalueindex(3)));
+  const int count = std::min(lua_gettop(lua), cMostArguments);
+  lua_settop(lua, count);
+  luaL_checkstack(lua, count + LUA_MINSTACK, nullptr);
+  for (int i = 1; i <= count; ++i) {
+    luaL_tolstring(lua, i, nullptr);
+  }
+  const Result result = function->mDo(Arguments(lua, count, name), *script);
+  switch (result.mKind) {
+  case Kind::Nothing:
+    return 0;
+  case Kind::Flag:
+    lua_pushboolean(lua, result.mNumber != 0);
+    break;
+  case Kind::Number:
+    Simulator_Script_Guards::pushNumber(lua, result.mNumber);
+    break;
+  case Kind::Text:
+    lua_pushlstring(lua, script->mResult.constData(), static_cast<std::size_t>(script->mResult.size()));
+    break;
+  }
+  return 1;
+}
+
+void Library::open(lua_State* lua, Simulator_Script& script) {
   luaL_requiref(lua, LUA_GNAME, luaopen_base, 1);
   luaL_requiref(lua, LUA_STRLIBNAME, luaopen_string, 1);
   luaL_requiref(lua, LUA_TABLIBNAME, luaopen_table, 1);
@@ -97,157 +143,152 @@ void Simulator_Script_Library::open(lua_State* lua, Simulator_Script& script) {
   lua_getglobal(lua, LUA_STRLIBNAME);
   lua_pushnil(lua);
   lua_setfield(lua, -2, "dump");
-  const auto add = [&](const char* name, lua_CFunction function) {
+  Simulator_Script_Guards::open(lua);
+  const auto add = [&](const char* name, const Function& function) {
     lua_pushlightuserdata(lua, &script);
-    lua_pushstring(lua, name);
-    lua_pushcclosure(lua, function, 2);
+    lua_pushlightuserdata(lua, const_cast<Function*>(&function));
+    lua_pushlightuserdata(lua, const_cast<char*>(name));
+    lua_pushcclosure(lua, call, 3);
     lua_setglobal(lua, name);
   };
   for (const FB_Lua_Group& group : FB_Lua_Functions::groups()) {
     for (const FB_Lua_Function& function : group.mFunctions) {
-      add(function.mName, missing);
+      add(function.mName, cMissing);
     }
   }
   for (const Function& function : cFunctions) {
-    add(function.mName, function.mFunction);
+    add(function.mName, function);
   }
   lua_settop(lua, 0);
 }
 
-int Simulator_Script_Library::print(lua_State* lua) {
-  Simulator_Script& script = scriptOf(lua);
-  emit script.wrote(script.mBlock.mGuid, allTexts(lua, 1));
-  return 0;
+Library::Result Library::print(const Arguments& given, Simulator_Script& script) {
+  script.write(given.texts(1));
+  return {};
 }
 
-int Simulator_Script_Library::watch(lua_State* lua) {
-  Simulator_Script& script = scriptOf(lua);
-  emit script.watched(script.mBlock.mGuid, textAt(lua, 1), allTexts(lua, 2));
-  return 0;
+Library::Result Library::watch(const Arguments& given, Simulator_Script& script) {
+  script.writeWatched(given.text(1), given.texts(2));
+  return {};
 }
 
-int Simulator_Script_Library::alias(lua_State* lua) {
-  scriptOf(lua).mAliases.insert(textAt(lua, 2), textAt(lua, 1));
-  return 0;
+Library::Result Library::alias(const Arguments& given, Simulator_Script& script) {
+  if (isRoomFor(script.mAliases, given.text(2), given.text(1))) {
+    script.mAliases.insert(given.text(2), given.text(1));
+  }
+  return {};
 }
 
-int Simulator_Script_Library::tickCount(lua_State* lua) {
-  lua_pushinteger(lua, scriptOf(lua).mController.tickCount());
-  return 1;
+Library::Result Library::tickCount(const Arguments&, Simulator_Script& script) {
+  return {Kind::Number, static_cast<double>(script.mController.tickCount())};
 }
 
-int Simulator_Script_Library::getValue(lua_State* lua) {
-  Simulator_Script& script = scriptOf(lua);
-  const QString name = textAt(lua, 1);
-  const QString pin = script.mAliases.value(name, name);
+Library::Result Library::getValue(const Arguments& given, Simulator_Script& script) {
+  const QString pin = script.mAliases.value(given.text(1), given.text(1));
   const Group_Address address = script.addressOf(pin);
   if (address == Group_Address()) {
-    return pushText(lua, script.mPins.value(pin, QStringLiteral("0")));
+    script.mResult = script.mPins.value(pin, QStringLiteral("0")).toUtf8();
+    return {Kind::Text};
   }
-  script.push(address, script.mController.values().value(address));
-  return 1;
+  const std::optional<double> number = script.numberOf(address, script.mController.values().value(address));
+  return {number ? Kind::Number : Kind::Text, number.value_or(0)};
 }
 
-int Simulator_Script_Library::setValue(lua_State* lua) {
-  Simulator_Script& script = scriptOf(lua);
-  const QString name = textAt(lua, 1);
-  const QString pin = script.mAliases.value(name, name);
+Library::Result Library::setValue(const Arguments& given, Simulator_Script& script) {
+  const QString pin = script.mAliases.value(given.text(1), given.text(1));
   const Group_Address address = script.addressOf(pin);
   if (address == Group_Address()) {
-    script.mPins.insert(pin, textAt(lua, 2));
-    return 0;
+    if (isRoomFor(script.mPins, pin, given.text(2))) {
+      script.mPins.insert(pin, given.text(2));
+    }
+    return {};
   }
-  const std::optional<QByteArray> payload = payloadOf(lua, 2, script.mController.values().typeOf(address));
+  const std::optional<QByteArray> payload = payloadOf(given, 2, script.mController.values().typeOf(address));
   if (!payload) {
-    emit script.wrote(
-        script.mBlock.mGuid,
-        Simulator_Script::tr("Der Wert \"%1\" passt nicht zu %2.").arg(textAt(lua, 2), address.toString()));
-  } else if (lua_toboolean(lua, 3) || script.mController.values().value(address) != *payload) {
-    script.mController.writeValue(address, *payload);
+    script.write(Simulator_Script::tr("Der Wert \"%1\" passt nicht zu %2.").arg(given.text(2), address.toString()));
+  } else if (given.flag(3) || script.mController.values().value(address) != *payload) {
+    script.writeValue(address, *payload);
   }
-  return 0;
+  return {};
 }
 
-int Simulator_Script_Library::getPersistent(lua_State* lua) {
-  return pushText(lua, scriptOf(lua).mController.scriptValues().value(textAt(lua, 1), textAt(lua, 2)));
+Library::Result Library::getPersistent(const Arguments& given, Simulator_Script& script) {
+  script.mResult = script.mController.scriptValues().value(given.text(1), given.text(2)).toUtf8();
+  return {Kind::Text};
 }
 
-int Simulator_Script_Library::setPersistent(lua_State* lua) {
-  scriptOf(lua).mController.setScriptValue(textAt(lua, 1), textAt(lua, 2));
-  return 0;
+Library::Result Library::setPersistent(const Arguments& given, Simulator_Script& script) {
+  if (isRoomFor(script.mController.scriptValues(), given.text(1), given.text(2))) {
+    script.mController.setScriptValue(given.text(1), given.text(2));
+  }
+  return {};
 }
 
-int Simulator_Script_Library::getGlobal(lua_State* lua) {
-  return pushText(lua, scriptOf(lua).mGlobals.value(textAt(lua, 1), textAt(lua, 2)));
+Library::Result Library::getGlobal(const Arguments& given, Simulator_Script& script) {
+  script.mResult = script.mGlobals.value(given.text(1), given.text(2)).toUtf8();
+  return {Kind::Text};
 }
 
-int Simulator_Script_Library::setGlobal(lua_State* lua) {
-  Simulator_Script& script = scriptOf(lua);
-  const QString name = textAt(lua, 1);
-  const QString value = textAt(lua, 2);
-  if (lua_toboolean(lua, 3) || !script.mGlobals.contains(name) || script.mGlobals.value(name) != value) {
+Library::Result Library::setGlobal(const Arguments& given, Simulator_Script& script) {
+  const QString name = given.text(1);
+  const QString value = given.text(2);
+  const bool isNew = !script.mGlobals.contains(name) || script.mGlobals.value(name) != value;
+  if (isRoomFor(script.mGlobals, name, value) && (given.flag(3) || isNew)) {
     script.mGlobals.insert(name, value);
-    emit script.globalChanged(name, value);
+    script.tellGlobal(name, value);
   }
-  return 0;
+  return {};
 }
 
 namespace {
 
 /// The timer of that number, from 1.
 template <class Timers>
-auto* timerAt(lua_State* lua, Timers& timers) {
-  const auto index = static_cast<std::size_t>(lua_tointeger(lua, 1)) - 1;
+auto* timerAt(const Library::Arguments& given, Timers& timers) {
+  const auto index = static_cast<std::size_t>(given.whole(1)) - 1;
   return index < timers.size() ? &timers[index] : nullptr;
 }
 
 } // namespace
 
-int Simulator_Script_Library::timerCreate(lua_State* lua) {
+Library::Result Library::timerCreate(const Arguments&, Simulator_Script& script) {
   constexpr std::size_t cMostTimers = 1000;
-  Simulator_Script& script = scriptOf(lua);
   if (script.mTimers.size() < cMostTimers) {
     script.mTimers.emplace_back();
   }
-  lua_pushinteger(lua, static_cast<lua_Integer>(script.mTimers.size()));
-  return 1;
+  return {Kind::Number, static_cast<double>(script.mTimers.size())};
 }
 
-int Simulator_Script_Library::timerStart(lua_State* lua) {
-  if (auto* const timer = timerAt(lua, scriptOf(lua).mTimers)) {
+Library::Result Library::timerStart(const Arguments& given, Simulator_Script& script) {
+  if (auto* const timer = timerAt(given, script.mTimers)) {
     timer->mSince.start();
-    timer->mPeriod = std::max<qint64>(0, lua_tointeger(lua, 2));
+    timer->mPeriod = std::max<qint64>(0, given.whole(2));
   }
-  return 0;
+  return {};
 }
 
-int Simulator_Script_Library::timerStop(lua_State* lua) {
-  if (auto* const timer = timerAt(lua, scriptOf(lua).mTimers)) {
+Library::Result Library::timerStop(const Arguments& given, Simulator_Script& script) {
+  if (auto* const timer = timerAt(given, script.mTimers)) {
     timer->mPeriod = -1;
   }
-  return 0;
+  return {};
 }
 
-int Simulator_Script_Library::timerElapsed(lua_State* lua) {
-  const auto* const timer = timerAt(lua, scriptOf(lua).mTimers);
-  lua_pushinteger(lua, timer && timer->mPeriod >= 0 ? timer->mSince.elapsed() : 0);
-  return 1;
+Library::Result Library::timerElapsed(const Arguments& given, Simulator_Script& script) {
+  const auto* const timer = timerAt(given, script.mTimers);
+  return {Kind::Number, timer && timer->mPeriod >= 0 ? static_cast<double>(timer->mSince.elapsed()) : 0};
 }
 
-int Simulator_Script_Library::timerFinished(lua_State* lua) {
-  auto* const timer = timerAt(lua, scriptOf(lua).mTimers);
+Library::Result Library::timerFinished(const Arguments& given, Simulator_Script& script) {
+  auto* const timer = timerAt(given, script.mTimers);
   const bool isFinished = timer && timer->mPeriod >= 0 && timer->mSince.hasExpired(timer->mPeriod - 1);
   if (isFinished) {
     timer->mPeriod = -1; // told once
   }
-  lua_pushboolean(lua, isFinished);
-  return 1;
+  return {Kind::Flag, isFinished ? 1.0 : 0.0};
 }
 
-int Simulator_Script_Library::missing(lua_State* lua) {
-  Simulator_Script& script = scriptOf(lua);
-  emit script.wrote(
-      script.mBlock.mGuid,
-      Simulator_Script::tr("%1: Diese Funktion hat der Simulator nicht.").arg(textAt(lua, lua_upvalueindex(2))));
-  return 0;
+Library::Result Library::missing(const Arguments& given, Simulator_Script& script) {
+  script.write(Simulator_Script::tr("%1: Diese Funktion hat der Simulator nicht.").arg(given.name()));
+  return {};
 }

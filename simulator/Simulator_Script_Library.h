@@ -7,21 +7,34 @@ class Simulator_Script;
 struct Simulator_Script_Library {
   static void open(lua_State* lua, Simulator_Script& script);
 
-  // A function of Lua takes the state and returns how many results it left there.
-  static int print(lua_State* lua);
-  static int watch(lua_State* lua);
-  static int alias(lua_State* lua);
-  static int tickCount(lua_State* lua);
-  static int getValue(lua_State* lua);
-  static int setValue(lua_State* lua);
-  static int getPersistent(lua_State* lua);
-  static int setPersistent(lua_State* lua);
-  static int getGlobal(lua_State* lua);
-  static int setGlobal(lua_State* lua);
-  static int timerCreate(lua_State* lua);
-  static int timerStart(lua_State* lua);
-  static int timerStop(lua_State* lua);
-  static int timerElapsed(lua_State* lua);
-  static int timerFinished(lua_State* lua);
-  static int missing(lua_State* lua);
+  /// What a call was given. Reading it never fails: the texts are made beforehand.
+  class Arguments;
+  /// What it returns, without memory of its own; a text lies in the script's `mResult`.
+  struct Result {
+    enum class Kind { Nothing, Flag, Number, Text };
+    Kind mKind = Kind::Nothing;
+    double mNumber = 0;
+  };
+  using Do = Result (*)(const Arguments& given, Simulator_Script& script);
+
+  static Result print(const Arguments& given, Simulator_Script& script);
+  static Result watch(const Arguments& given, Simulator_Script& script);
+  static Result alias(const Arguments& given, Simulator_Script& script);
+  static Result tickCount(const Arguments& given, Simulator_Script& script);
+  static Result getValue(const Arguments& given, Simulator_Script& script);
+  static Result setValue(const Arguments& given, Simulator_Script& script);
+  static Result getPersistent(const Arguments& given, Simulator_Script& script);
+  static Result setPersistent(const Arguments& given, Simulator_Script& script);
+  static Result getGlobal(const Arguments& given, Simulator_Script& script);
+  static Result setGlobal(const Arguments& given, Simulator_Script& script);
+  static Result timerCreate(const Arguments& given, Simulator_Script& script);
+  static Result timerStart(const Arguments& given, Simulator_Script& script);
+  static Result timerStop(const Arguments& given, Simulator_Script& script);
+  static Result timerElapsed(const Arguments& given, Simulator_Script& script);
+  static Result timerFinished(const Arguments& given, Simulator_Script& script);
+  static Result missing(const Arguments& given, Simulator_Script& script);
+
+private:
+  /// A function of Lua takes the state and returns how many results it left there.
+  static int call(lua_State* lua);
 };

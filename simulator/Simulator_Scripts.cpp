@@ -2,8 +2,11 @@
 
 #include "simulator/Simulator_Controller.h"
 
+#include <utility>
+
 namespace {
 
+constexpr qsizetype cMostEvents = 10'000; // that wait; what comes on top is lost
 constexpr int cTickMs = 100;
 
 struct Period {
@@ -23,15 +26,26 @@ Simulator_Scripts::Simulator_Scripts(Simulator_Controller& controller, QObject* 
   mTimer.setInterval(cTickMs);
   connect(&mTimer, &QTimer::timeout, this, &Simulator_Scripts::onTick);
   connect(&controller, &Simulator_Controller::programStarted, this, &Simulator_Scripts::clear);
-  // Later: a script's own write must not call it while it runs.
-  connect(
-      &controller, &Simulator_Controller::told, this,
-      [this](const DB_Address_Network_Telegram& telegram) {
-        for (Simulator_Script* const script : std::as_const(mScripts)) {
-          script->callEvent(telegram);
-        }
-      },
-      Qt::QueuedConnection);
+  connect(&controller, &Simulator_Controller::told, this, [this](const DB_Address_Network_Telegram& telegram) {
+    later([telegram](Simulator_Script& script) { script.callEvent(telegram); });
+  });
+  mLater.setSingleShot(true);
+  connect(&mLater, &QTimer::timeout, this, [this] {
+    const QList<std::function<void(Simulator_Script&)>> events = std::exchange(mEvents, {});
+    for (const auto& event : events) {
+      for (Simulator_Script* const script : std::as_const(mScripts)) {
+        event(*script);
+      }
+    }
+  });
+}
+
+/// Not while a script runs, and in rounds: scripts that answer each other for ever leave the rest its turn.
+void Simulator_Scripts::later(std::function<void(Simulator_Script&)> event) {
+  if (!mScripts.isEmpty() && mEvents.size() < cMostEvents) {
+    mEvents.append(std::move(event));
+    mLater.start(0);
+  }
 }
 
 QString Simulator_Scripts::run(const QUuid& block, const QString& text) {
@@ -43,20 +57,17 @@ QString Simulator_Scripts::run(const QUuid& block, const QString& text) {
   auto* const script = new Simulator_Script(mController, mGlobals, record, this);
   connect(script, &Simulator_Script::wrote, this, &Simulator_Scripts::wrote);
   connect(script, &Simulator_Script::watched, this, &Simulator_Scripts::watched);
-  connect(
-      script, &Simulator_Script::globalChanged, this,
-      [this](const QString& name, const QString& value) {
-        for (Simulator_Script* const other : std::as_const(mScripts)) {
-          other->callGlobalChanged(name, value);
-        }
-      },
-      Qt::QueuedConnection);
+  connect(script, &Simulator_Script::globalChanged, this, [this](const QString& name, const QString& value) {
+    later([name, value](Simulator_Script& other) { other.callGlobalChanged(name, value); });
+  });
+  // It hears what it does itself, too.
+  mScripts.insert(block, script);
   QString error = script->run(text);
   if (!script->isRunning()) {
+    mScripts.remove(block);
     script->deleteLater();
     return error;
   }
-  mScripts.insert(block, script);
   mTimer.start();
   return {};
 }
@@ -66,6 +77,7 @@ void Simulator_Scripts::clear() {
     script->deleteLater();
   }
   mScripts.clear();
+  mEvents.clear();
   mTimer.stop();
 }
 

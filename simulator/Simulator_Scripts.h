@@ -3,9 +3,12 @@
 #include "simulator/Simulator_Script.h"
 
 #include <QHash>
+#include <QList>
 #include <QObject>
 #include <QTimer>
 #include <QUuid>
+
+#include <functional>
 
 /// The scripts that run on the stand-in, one for each block: those that a studio handed over, until another program
 /// starts. Calls what they have at its time.
@@ -27,10 +30,13 @@ signals:
 private:
   void onTick();
   void callAll(const char* function);
+  void later(std::function<void(Simulator_Script&)> event);
 
   Simulator_Controller& mController;
   Simulator_Script::Globals mGlobals;
   QHash<QUuid, Simulator_Script*> mScripts;
   QTimer mTimer;
-  int mTicks = 0; ///< of 100 ms
+  QTimer mLater;
+  QList<std::function<void(Simulator_Script&)>> mEvents; ///< of which the scripts have not heard
+  int mTicks = 0;                                        ///< of 100 ms
 };

@@ -34,8 +34,13 @@ Simulator_Server::Simulator_Server(const Simulator_Options& options, QObject* pa
   mRestarting.setSingleShot(true);
   mRestarting.setInterval(options.mRestartMs);
   connect(&mRestarting, &QTimer::timeout, this, [this] {
-    mController.load();
-    mListener.listen(mController.options().mListen, mPort);
+    if (!mController.load()) {
+      emit logged(mController.fault());
+    }
+    if (!mListener.listen(mController.options().mListen, mPort)) {
+      emit logged(mListener.errorString());
+      mRestarting.start();
+    }
   });
 }
 
@@ -51,8 +56,8 @@ bool Simulator_Server::listen(QString* error) {
     }
     return false;
   };
-  if (!mController.isUsable()) {
-    return fail(tr("Der Ordner \"%1\" kann nicht benutzt werden.").arg(options.mFolder));
+  if (!mController.fault().isEmpty()) {
+    return fail(mController.fault());
   }
   if (!mListener.listen(options.mListen, options.mPort)) {
     return fail(tr("An %1, Port %2 kann nicht gewartet werden: %3")
@@ -67,6 +72,11 @@ bool Simulator_Server::listen(QString* error) {
 
 void Simulator_Server::onNewConnection() {
   while (QTcpSocket* const socket = mListener.nextPendingConnection()) {
+    if (mSessions.size() >= cMostSessions) {
+      socket->abort();
+      socket->deleteLater();
+      continue;
+    }
     auto* const session = new Simulator_Session(socket, *this, this);
     mSessions.append(session);
     connect(session, &Simulator_Session::closed, this, &Simulator_Server::onClosed);
@@ -90,6 +100,13 @@ void Simulator_Server::onClosed(Simulator_Session* session) {
     mController.storeProject();
   }
   session->deleteLater();
+}
+
+void Simulator_Server::forgetStarted() {
+  for (Simulator_Session* const session : std::as_const(mSessions)) {
+    session->staging().mHasStarted = false;
+    session->staging().mResources.clear();
+  }
 }
 
 void Simulator_Server::closeSessions() {
@@ -131,17 +148,18 @@ void Simulator_Server::tell(const DB_Address_Network_Telegram& telegram) {
     return;
   }
   const QByteArray bytes = telegram.toBytes();
-  for (Simulator_Session* const session : std::as_const(mSessions)) {
-    if (session->isLoggedOn()) {
-      session->send(Controller_Command::Telegram, bytes);
-    }
+  // A copy, as a session may end by it.
+  const QList<Simulator_Session*> sessions = mSessions;
+  for (Simulator_Session* const session : sessions) {
+    session->tell(Controller_Command::Telegram, bytes);
   }
 }
 
 void Simulator_Server::tellWatching(const QUuid& block, quint32 command, const QByteArray& payload) {
-  for (Simulator_Session* const session : std::as_const(mSessions)) {
-    if (session->isLoggedOn() && session->watches(block)) {
-      session->send(command, block.toRfc4122() + payload);
+  const QList<Simulator_Session*> sessions = mSessions;
+  for (Simulator_Session* const session : sessions) {
+    if (session->watches(block)) {
+      session->tell(command, block.toRfc4122() + payload);
     }
   }
 }

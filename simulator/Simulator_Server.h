@@ -26,6 +26,8 @@ class Simulator_Server : public QObject {
   Q_OBJECT
 
 public:
+  static constexpr int cMostSessions = 200; ///< at once; more connections are ended as they come
+
   explicit Simulator_Server(const Simulator_Options& options, QObject* parent = nullptr);
   ~Simulator_Server() override;
 
@@ -59,6 +61,8 @@ public:
   void tell(const DB_Address_Network_Telegram& telegram);
   void log(bool isIncoming, quint32 command, qsizetype length) const;
 
+  /// Project writes that have started their project can send no more resources.
+  void forgetStarted();
   /// The session whose project write has stopped the controller; null for none.
   [[nodiscard]] Simulator_Session* writer() const { return mWriter; }
   void setWriter(Simulator_Session* session) { mWriter = session; }

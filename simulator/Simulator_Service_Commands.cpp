@@ -18,6 +18,7 @@ using Simulator_Commands::Request;
 
 constexpr int cHighestNumber = 255;
 constexpr int cLongestCycleMs = 3'600'000;
+constexpr int cMostPartners = 8; // that are being dialled at once
 constexpr int cStateUnreachable = 0;
 constexpr int cStateThis = 4;
 
@@ -119,6 +120,10 @@ void groupStatus(const Request& request) {
 }
 
 void partner(const Request& request) {
+  if (request.mSession.findChildren<Simulator_Partner*>().size() >= cMostPartners) {
+    refuse(request, "Die Steuerung spricht schon mit anderen Steuerungen.");
+    return;
+  }
   auto* const partner =
       new Simulator_Partner(request.mController.options(), request.mCommand, textOf(request), &request.mSession);
   QObject::connect(

@@ -16,12 +16,18 @@ class QTcpSocket;
 class Simulator_Server;
 
 /// One connection to the stand-in: cuts what comes into messages and has them answered. Before the log-on little is
-/// answered, and a long message ends the connection.
+/// answered, and a long message ends the connection. Who does not read what is sent is not listened to either, and told
+/// no more than bounded memory holds; then the connection ends.
 class Simulator_Session : public QObject {
   Q_OBJECT
 
 public:
   static constexpr quint32 cMostBeforeLogOn = 64 * 1024;
+  static constexpr int cMostRefusedLogOns = 3;             ///< then the connection ends
+  static constexpr int cLogOnMs = 60'000;                  ///< without a log-on until then it ends, too
+  static constexpr qint64 cMostWaiting = 16 * 1024 * 1024; ///< bytes to go out above which no request is taken
+  static constexpr qint64 cMostTold = 64 * 1024 * 1024;    ///< of them, what was told without being asked for
+  static constexpr qint64 cReadBuffer = 1024 * 1024;
 
   /// Takes the socket over. The server outlives it.
   Simulator_Session(QTcpSocket* socket, Simulator_Server& server, QObject* parent = nullptr);
@@ -31,10 +37,16 @@ public:
   void sendText(quint32 command, const QString& text);
   void sendStream(quint32 beginCommand, quint32 dataCommand, QByteArrayView bytes, const QString& name = {});
   void refuse(quint32 command, const QString& reason);
+  /// What it did not ask for, such as telegrams; nothing before its log-on. May end the connection.
+  void tell(quint32 command, QByteArrayView payload);
+  /// What is waiting goes out, if that does not take long.
   void close();
 
+  /// Bytes that have not gone out.
+  [[nodiscard]] qint64 waiting() const { return mWire.waiting(); }
   [[nodiscard]] bool isLoggedOn() const { return mIsLoggedOn; }
   void setLoggedOn();
+  void countRefusedLogOn();
   /// A text payload without its terminating zero byte.
   [[nodiscard]] static QString text(QByteArrayView payload);
 
@@ -73,5 +85,9 @@ private:
   Staging mStaging;
   Byte_Stream mValues;
   QHash<QUuid, QDeadlineTimer> mWatched;
+  qint64 mTold = 0; ///< at most so many of the waiting bytes were told
+  int mRefusedLogOns = 0;
   bool mIsLoggedOn = false;
+  bool mIsAnswering = false;
+  bool mIsClosing = false;
 };

@@ -22,6 +22,16 @@ QByteArray zeroOf(Datapoint_Id id) {
 
 } // namespace
 
+bool Simulator_Values::isPossible(const Group_Address& address, const QByteArray& payload) {
+  return address.isOnBus() && !payload.isEmpty() && payload.size() <= Persistent_Values::cMostPayload;
+}
+
+void Simulator_Values::set(const Group_Address& address, const QByteArray& payload) {
+  if (isPossible(address, payload)) {
+    mValues.insert(address, payload);
+  }
+}
+
 void Simulator_Values::setAddresses(QList<Address> addresses) {
   mAddresses = std::move(addresses);
   mTypes.clear();
@@ -30,10 +40,10 @@ void Simulator_Values::setAddresses(QList<Address> addresses) {
     mTypes.insert(address.mAddress, address.mDpt);
     const QByteArray value = mValues.value(address.mAddress);
     const QByteArray zero = zeroOf(address.mDpt);
-    if (!value.isEmpty() || !zero.isEmpty()) {
-      // A value that the type of now cannot mean is of no use.
-      values.insert(address.mAddress,
-                    value.isEmpty() || (!zero.isEmpty() && zero.size() != value.size()) ? zero : value);
+    // A value that the type of now cannot mean is of no use.
+    const bool isOfUse = !value.isEmpty() && (zero.isEmpty() || zero.size() == value.size());
+    if (isPossible(address.mAddress, isOfUse ? value : zero)) {
+      values.insert(address.mAddress, isOfUse ? value : zero);
     }
   }
   mValues = values;
@@ -64,6 +74,6 @@ Persistent_Values Simulator_Values::persistent() const {
 
 void Simulator_Values::take(const Persistent_Values& values) {
   for (const Persistent_Values::Value& value : values.mValues) {
-    mValues.insert(value.mAddress, value.mPayload);
+    set(value.mAddress, value.mPayload);
   }
 }

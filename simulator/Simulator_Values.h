@@ -24,7 +24,10 @@ public:
   [[nodiscard]] const QList<Address>& addresses() const { return mAddresses; }
   [[nodiscard]] Datapoint_Id typeOf(const Group_Address& address) const { return mTypes.value(address); }
 
-  void set(const Group_Address& address, const QByteArray& payload) { mValues.insert(address, payload); }
+  /// Whether it is a value that can be told and kept: of an address that a bus has, 1 to 255 bytes.
+  [[nodiscard]] static bool isPossible(const Group_Address& address, const QByteArray& payload);
+  /// Of a possible value; others change nothing.
+  void set(const Group_Address& address, const QByteArray& payload);
   /// Null for an address that has none.
   [[nodiscard]] QByteArray value(const Group_Address& address) const { return mValues.value(address); }
   [[nodiscard]] qsizetype count() const { return mValues.size(); }

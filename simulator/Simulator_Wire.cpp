@@ -24,7 +24,7 @@ Simulator_Wire::Simulator_Wire(QTcpSocket& socket, const Simulator_Faults& fault
   connect(&mTimer, &QTimer::timeout, this, [this] {
     // Each goes out by itself; a few at once, so that a long message does not take minutes.
     for (int i = 0; i < cAloneAtOnce && !mPieces.isEmpty() && (i == 0 || mPieces.head().mDelayMs == 0); ++i) {
-      write(mPieces.dequeue().mBytes);
+      writeNext();
     }
     pump();
   });
@@ -47,6 +47,7 @@ void Simulator_Wire::send(quint32 command, QByteArrayView payload) {
   const bool isIdle = mPieces.isEmpty();
   for (const Simulator_Faults::Piece& piece : mFaults.pieces(command, message)) {
     mPieces.enqueue(piece);
+    mInPieces += piece.mBytes.size();
   }
   if (isIdle) {
     pump();
@@ -60,11 +61,24 @@ void Simulator_Wire::pump() {
       mTimer.start(next.mDelayMs);
       return;
     }
-    write(mPieces.dequeue().mBytes);
+    writeNext();
   }
 }
 
+void Simulator_Wire::writeNext() {
+  const QByteArray bytes = mPieces.dequeue().mBytes;
+  mInPieces -= bytes.size();
+  write(bytes);
+}
+
+qint64 Simulator_Wire::waiting() const {
+  return mSocket.bytesToWrite() + mInPieces + mGathered.size();
+}
+
 void Simulator_Wire::write(const QByteArray& bytes) {
+  if (mSocket.state() != QAbstractSocket::ConnectedState) {
+    return;
+  }
   const std::optional<int> most = mFaults.value(Kind::Close, 0);
   const qsizetype size = most ? std::clamp<qint64>(*most - mSent, 0, bytes.size()) : bytes.size();
   mSocket.write(bytes.constData(), size);

@@ -17,9 +17,12 @@ public:
   Simulator_Wire(QTcpSocket& socket, const Simulator_Faults& faults, QObject* parent = nullptr);
 
   void send(quint32 command, QByteArrayView payload);
+  /// Bytes that have not gone out.
+  [[nodiscard]] qint64 waiting() const;
 
 private:
   void pump();
+  void writeNext();
   void write(const QByteArray& bytes);
 
   QTcpSocket& mSocket;
@@ -28,5 +31,6 @@ private:
   QTimer mTimer;
   QByteArray mGathered; ///< waits to go out in one segment
   QTimer mGathering;
+  qint64 mInPieces = 0; ///< bytes
   qint64 mSent = 0;
 };

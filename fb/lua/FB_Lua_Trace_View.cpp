@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTableView>
@@ -16,11 +17,13 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace {
 
 constexpr int cMargin = 8;
 constexpr int cFirstColumn = 160;
+constexpr int cGatherMs = 100;
 
 QToolButton* makeButton(const QString& icon, const QString& text, const QString& tip) {
   auto* const button = new QToolButton;
@@ -86,6 +89,9 @@ FB_Lua_Trace_View::FB_Lua_Trace_View(const QString& title, const QStringList& co
   layout->addLayout(head);
   layout->addWidget(mStack, 1);
 
+  mShow.setSingleShot(true);
+  mShow.setInterval(cGatherMs);
+  connect(&mShow, &QTimer::timeout, this, &FB_Lua_Trace_View::showWaiting);
   connect(mClear, &QToolButton::clicked, this, &FB_Lua_Trace_View::clearRequested);
   connect(mCopy, &QToolButton::clicked, this, &FB_Lua_Trace_View::copyRequested);
   auto* const keys = new QShortcut(QKeySequence::Copy, mTable, nullptr, nullptr, Qt::WidgetShortcut);
@@ -98,18 +104,37 @@ void FB_Lua_Trace_View::setHint(const QString& text) {
 }
 
 void FB_Lua_Trace_View::append(const QStringList& cells) {
-  if (mModel.rowCount() >= cMostRows) {
-    mModel.removeRow(0);
+  if (mWaiting.size() >= cMostRows) {
+    mWaiting.removeFirst();
   }
-  mModel.appendRow(makeRow(cells));
-  mTable->scrollToBottom();
+  mWaiting.append(cells);
+  if (!mShow.isActive()) {
+    mShow.start();
+  }
+}
+
+void FB_Lua_Trace_View::showWaiting() {
+  const QScrollBar& bar = *mTable->verticalScrollBar();
+  const bool isAtEnd = bar.value() == bar.maximum();
+  const int tooMany = mModel.rowCount() + static_cast<int>(mWaiting.size()) - cMostRows;
+  if (tooMany > 0) {
+    mModel.removeRows(0, tooMany);
+  }
+  for (const QStringList& cells : std::as_const(mWaiting)) {
+    mModel.appendRow(makeRow(cells));
+  }
+  mWaiting.clear();
+  if (isAtEnd) {
+    mTable->scrollToBottom();
+  }
   update();
 }
 
 void FB_Lua_Trace_View::set(const QStringList& cells) {
   const QList<QStandardItem*> same = mModel.findItems(cells.value(0), Qt::MatchExactly | Qt::MatchCaseSensitive);
   if (same.isEmpty()) {
-    append(cells);
+    mWaiting.append(cells);
+    showWaiting();
     return;
   }
   for (int column = 1; column < cells.size(); ++column) {
@@ -118,11 +143,13 @@ void FB_Lua_Trace_View::set(const QStringList& cells) {
 }
 
 void FB_Lua_Trace_View::clear() {
+  mWaiting.clear();
   mModel.removeRows(0, mModel.rowCount());
   update();
 }
 
-void FB_Lua_Trace_View::copy() const {
+void FB_Lua_Trace_View::copy() {
+  showWaiting();
   QList<int> rows;
   for (const QModelIndex& index : mTable->selectionModel()->selectedRows()) {
     rows.append(index.row());

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QStandardItemModel>
+#include <QStringList>
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -20,12 +22,13 @@ public:
   FB_Lua_Trace_View(const QString& title, const QStringList& columns, QWidget* parent);
 
   void setHint(const QString& text);
+  /// Shown a little later, together with what comes until then. The end stays in sight unless the user has left it.
   void append(const QStringList& cells);
   /// The row that begins with the first cell, or a new one.
   void set(const QStringList& cells);
   void clear();
   /// The selected rows, or all, as tab-separated text, to the clipboard.
-  void copy() const;
+  void copy();
   [[nodiscard]] int rowCount() const { return mModel.rowCount(); }
 
 signals:
@@ -34,8 +37,11 @@ signals:
 
 private:
   void update();
+  void showWaiting();
 
   QStandardItemModel mModel;
+  QList<QStringList> mWaiting; ///< rows that are not shown yet
+  QTimer mShow;
   QTableView* mTable;
   QLabel* mHint;
   QLabel* mCount;

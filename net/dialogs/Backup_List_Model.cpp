@@ -5,6 +5,14 @@
 #include <QDateTime>
 #include <QLocale>
 
+namespace {
+
+QVariant alignmentOf(int column) {
+  return column == Backup_List_Model::cSize ? QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+}
+
+} // namespace
+
 QString Backup_List_Model::timeText(const DB_Backup_List::Backup& backup) {
   return QDateTime::fromSecsSinceEpoch(backup.mTime).toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
 }
@@ -18,8 +26,8 @@ QVariant Backup_List_Model::data(const QModelIndex& index, int role) const {
   if (role == Model_Roles::cIdentity) {
     return backup.mId;
   }
-  if (role == Qt::TextAlignmentRole && index.column() == cSize) {
-    return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+  if (role == Qt::TextAlignmentRole) {
+    return alignmentOf(index.column());
   }
   if (role == Qt::ToolTipRole && index.column() == cDescription) {
     return Model_Roles::toolTip(backup.mDescription);
@@ -37,6 +45,13 @@ QVariant Backup_List_Model::data(const QModelIndex& index, int role) const {
   default:
     return isSort ? QVariant(backup.mSize) : QVariant(QLocale().formattedDataSize(backup.mSize, 1));
   }
+}
+
+QVariant Backup_List_Model::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
+    return alignmentOf(section);
+  }
+  return Row_Table_Model::headerData(section, orientation, role);
 }
 
 QVariant Backup_List_Model::titleOf(int column) const {

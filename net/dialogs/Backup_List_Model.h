@@ -13,6 +13,7 @@ public:
   explicit Backup_List_Model(QObject* parent = nullptr) : Row_Table_Model(cColumns, parent) {}
 
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   /// Date and time of this computer's zone: "22.11.2026 14:03:07".
   [[nodiscard]] static QString timeText(const DB_Backup_List::Backup& backup);
 

@@ -69,10 +69,10 @@ void Backup_List_View::read() {
              [this](Controller_Request& request) { onRead(request.replyRecord<DB_Backup_List>()); });
 }
 
-/// What stands there is no longer known to be true.
-void Backup_List_View::onFailed(const QString& text) {
+/// What stood there is no longer known to be true; the dialog says why.
+void Backup_List_View::onFailed() {
   mModel.setRows({});
-  mList->setHint(text);
+  mList->setHint(tr("Die Sicherungen sind nicht bekannt. \"Aktualisieren\" liest sie."));
   updateCount();
   emit selectionChanged();
 }

@@ -33,7 +33,7 @@ signals:
 
 private:
   void onRead(DB_Backup_List list);
-  void onFailed(const QString& text);
+  void onFailed();
   void updateCount();
 
   Controller_Access mAccess;

@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr int cTickMs = 200; // so that no second is seen twice as long as another
+constexpr int cTickMs = 200;                    // so that no second is seen twice as long as another
+constexpr qint64 cMostMs = 253'402'300'799'999; // the end of the year 9999
 
 } // namespace
 
@@ -24,7 +25,12 @@ Controller_Clock_Reader::Controller_Clock_Reader(const Controller_Access& access
 void Controller_Clock_Reader::read() {
   mQueue.add({{}, Controller_Command::Clock_Get, {}, Controller_Command::Clock_Reply},
              [this](Controller_Request& request) {
-               mClock.set(request.replyText().toLongLong(), mQueue.askedMs(), now());
+               bool isNumber = false;
+               const qint64 told = request.replyText().toLongLong(&isNumber);
+               mClock = {};
+               if (isNumber && told >= 0 && told <= cMostMs) {
+                 mClock.set(told, mQueue.askedMs(), now());
+               }
                emit ticked();
              });
 }
@@ -41,8 +47,12 @@ void Controller_Clock_Reader::set(Exchange_Runner& runner, const std::function<q
   runner.run<Controller_Request>(tr("Uhrzeit stellen"), make, [done](Controller_Request&) { done(); });
 }
 
+QString Controller_Clock_Reader::text(const QDateTime& time) {
+  return time.toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
+}
+
 QString Controller_Clock_Reader::text(qint64 ms) {
-  return QDateTime::fromMSecsSinceEpoch(ms).toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
+  return text(QDateTime::fromMSecsSinceEpoch(ms));
 }
 
 qint64 Controller_Clock_Reader::now() {

@@ -3,6 +3,7 @@
 #include "net/dialogs/Controller_Clock.h"
 #include "net/dialogs/Exchange_Runner.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QTimer>
 
@@ -25,6 +26,7 @@ public:
   void set(Exchange_Runner& runner, const std::function<qint64()>& time, const std::function<void()>& done);
 
   /// Of this computer's zone: "22.11.2026 14:03:07".
+  [[nodiscard]] static QString text(const QDateTime& time);
   [[nodiscard]] static QString text(qint64 ms);
   [[nodiscard]] static qint64 now();
 

@@ -5,6 +5,7 @@
 #include "db/Project_Session.h"
 #include "net/Controller_Command.h"
 #include "net/Controller_Link.h"
+#include "net/Persistent_Values.h"
 #include "net/Project_Transfer.h"
 #include "net/Stream_Send.h"
 #include "net/dialogs/Controller_File.h"
@@ -199,7 +200,7 @@ void Controller_Commands::uploadPersistentValues() {
   const QString name = QFileInfo(path).fileName();
   QString error;
   const std::optional<QByteArray> bytes = Controller_File::read(path, &error);
-  if (!bytes) {
+  if (!bytes || !Persistent_Values::fromBytes(*bytes, &error)) {
     tell(error);
     return;
   }

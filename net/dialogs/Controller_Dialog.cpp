@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -46,7 +47,7 @@ Controller_Dialog::Controller_Dialog(const Controller_Access& access, const QStr
   mRows->setSpacing(cGroupGap);
   layout->addLayout(mRows, 1);
   layout->addLayout(buttons);
-  resize(size);
+  resize(size.boundedTo(screen()->availableSize()));
   restoreGeometry(mAccess.mSettings.viewState(name));
 
   connect(close, &QPushButton::clicked, this, &QDialog::reject);

@@ -2,6 +2,7 @@
 
 #include "base/App_Settings.h"
 #include "db/Project_Session.h"
+#include "db/Working_Copy.h"
 #include "net/Byte_Stream.h"
 #include "net/dialogs/Controller_Questions.h"
 
@@ -27,6 +28,36 @@ QString folderOf(const Controller_Access& access) {
   return access.mSession.isOpen() ? QFileInfo(access.mSession.path()).absolutePath()
          : last.isEmpty()         ? QDir::homePath()
                                   : last;
+}
+
+/// The name of the open project is no place for another one.
+QString freePath(const Controller_Access& access, const QString& name, const QString& suffix) {
+  const QDir folder(folderOf(access));
+  const QString path = folder.filePath(name + suffix);
+  return access.mSession.isOpen() && QFileInfo(path) == QFileInfo(access.mSession.path())
+             ? folder.filePath(tr("%1 (Steuerung)").arg(name) + suffix)
+             : path;
+}
+
+/// What speaks against storing there (German); empty when nothing does.
+QString objection(const Controller_Access& access, const QFileInfo& file) {
+  if (access.mSession.isOpen() && file == QFileInfo(access.mSession.path())) {
+    return tr("Das Projekt \"%1\" ist geöffnet und kann nicht ersetzt werden. Einen anderen Namen wählen.")
+        .arg(file.fileName());
+  }
+  switch (Working_Copy::stateOf(file.absoluteFilePath())) {
+  case Working_Copy::State::InUse:
+    return tr("Das Projekt \"%1\" ist in einem anderen Studio geöffnet und kann nicht ersetzt werden. Einen anderen "
+              "Namen wählen.")
+        .arg(file.fileName());
+  case Working_Copy::State::LeftBehind:
+    return tr("Zum Projekt \"%1\" gibt es noch einen nicht gespeicherten Stand. Erst dieses Projekt öffnen oder einen "
+              "anderen Namen wählen.")
+        .arg(file.fileName());
+  case Working_Copy::State::Free:
+    break;
+  }
+  return {};
 }
 
 } // namespace
@@ -58,7 +89,7 @@ QString Controller_File::nameOf(const QString& text) {
 
 QString Controller_File::chooseToSave(const Controller_Access& access, QWidget* parent, const Kind& kind,
                                       const QString& name) {
-  QString suggestion = QDir(folderOf(access)).filePath(nameOf(name) + kind.mSuffix);
+  QString suggestion = freePath(access, nameOf(name), kind.mSuffix);
   const QPointer<QWidget> window(parent);
   while (true) {
     QString path = access.mQuestions.chooseSaveFile(parent, kind.mTitle, suggestion, kind.mFilter);
@@ -70,10 +101,8 @@ QString Controller_File::chooseToSave(const Controller_Access& access, QWidget* 
     }
     const QFileInfo file(path);
     suggestion = path;
-    if (access.mSession.isOpen() && file == QFileInfo(access.mSession.path())) {
-      access.mQuestions.showMessage(
-          parent, tr("Das Projekt \"%1\" ist geöffnet und kann nicht ersetzt werden. Einen anderen Namen wählen.")
-                      .arg(file.fileName()));
+    if (const QString text = objection(access, file); !text.isEmpty()) {
+      access.mQuestions.showMessage(parent, text);
     } else if (!file.exists() ||
                access.mQuestions.askYesNo(parent,
                                           tr("Die Datei \"%1\" ist schon vorhanden. Ersetzen?").arg(file.fileName()))) {

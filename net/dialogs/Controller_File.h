@@ -27,7 +27,7 @@ struct Kind {
 [[nodiscard]] QString nameOf(const QString& text);
 
 /// Asks where to store, in the folder of the open project, and whether to replace what is there. Empty when the user
-/// cancels. The project that is open cannot be chosen.
+/// cancels. A project that is open, here or in another studio, cannot be chosen.
 [[nodiscard]] QString chooseToSave(const Controller_Access& access, QWidget* parent, const Kind& kind,
                                    const QString& name);
 [[nodiscard]] QString chooseToOpen(const Controller_Access& access, QWidget* parent, const Kind& kind);

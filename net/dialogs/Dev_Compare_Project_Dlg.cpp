@@ -1,5 +1,6 @@
 #include "net/dialogs/Dev_Compare_Project_Dlg.h"
 
+#include "db/Model_Roles.h"
 #include "ui/Project_Tree_View.h"
 #include "ui/Theme.h"
 
@@ -17,6 +18,7 @@ constexpr int cGap = 8;
 constexpr int cGroupGap = 12;
 constexpr int cSignSize = 24;
 constexpr QSize cSize(760, 380);
+constexpr qsizetype cMostCharacters = 200; // of a cell, whatever a controller says
 
 QWidget* makeTable(const Project_Comparison& comparison, const Session_State& state, QObject* parent) {
   using Dialog = Dev_Compare_Project_Dlg;
@@ -27,12 +29,14 @@ QWidget* makeTable(const Project_Comparison& comparison, const Session_State& st
     QList<QStandardItem*> items;
     for (const QString& text :
          {row.mWhat, row.mLocal, row.mController, row.mIsSame ? Dialog::tr("gleich") : Dialog::tr("verschieden")}) {
-      auto* const item = new QStandardItem(text.simplified());
+      const QString shown = text.left(cMostCharacters).simplified();
+      auto* const item = new QStandardItem(shown);
       item->setEditable(false);
-      item->setToolTip(text.simplified().toHtmlEscaped());
+      item->setToolTip(Model_Roles::toolTip(shown).toString());
       items.append(item);
     }
-    if (!row.mIsSame) {
+    // Time and generation differ between equal projects too.
+    if (!row.mIsSame && comparison.verdict() != Project_Comparison::Verdict::Same) {
       items.last()->setIcon(Theme::icon(QStringLiteral("warning_white")));
     }
     model->appendRow(items);

@@ -67,6 +67,9 @@ void Dev_Connect_Progress_Dlg::follow(Controller_Link& link, QWidget* parent) {
   }
   auto* const dialog = new Dev_Connect_Progress_Dlg(link, parent);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
+  if (parent) {
+    dialog->addActions(parent->actions()); // the window's keys work on beside it
+  }
   dialog->show();
 }
 
@@ -88,6 +91,10 @@ void Dev_Connect_Progress_Dlg::onState(Controller_Link::State state) {
     // Told to connect anew, perhaps to another controller.
     mClock.start();
     mTarget = mLink.connectionText();
+  } else if (state == Controller_Link::State::Offline) {
+    // The next tick closes it, unless a refusal is told until then.
+    mTimer.start();
+    return;
   }
   updateText();
 }
@@ -124,10 +131,7 @@ void Dev_Connect_Progress_Dlg::updateText() {
     mDetail->setText(tr("Die Steuerung prüft Benutzer und Passwort."));
     break;
   case Controller_Link::State::Offline:
-    mTitle->setText(tr("Nicht verbunden"));
-    mDetail->setText(tr("Der Versuch ist beendet."));
-    mProgress->hide();
-    mButton->setText(tr("&Schließen"));
+    close(); // somebody else has ended the attempt
     break;
   case Controller_Link::State::Online:
     break;

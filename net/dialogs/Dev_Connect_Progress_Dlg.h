@@ -11,8 +11,8 @@ class QProgressBar;
 class QPushButton;
 
 /// Shows how an attempt to connect goes: which one it is, when the next follows, the log-on. Closes when the link is
-/// up; a refusal stays with its reason until it is closed, so nobody else needs to tell it. Closing before ends the
-/// attempt.
+/// up and when the attempt is ended elsewhere; a refusal stays with its reason until it is closed, so nobody else needs
+/// to tell it. Closing before ends the attempt. The parent's commands keep their keys.
 class Dev_Connect_Progress_Dlg : public QDialog {
   Q_OBJECT
 

@@ -42,6 +42,7 @@ Dev_Connection_Assistant::Dev_Connection_Assistant(Project_Session& session, App
   connect(&client, qOverload<Network_Message*, uchar*>(&Main_Network_Client::onProcessNetworkRead), this,
           &Dev_Connection_Assistant::onNetworkRead);
   connect(&client, &Main_Network_Client::onProcessNetworkConnect, this, &Dev_Connection_Assistant::onNetworkConnect);
+  connect(&session, &Project_Session::aboutToClose, this, &QDialog::reject);
   connect(this, &QWizard::currentIdChanged, this, &Dev_Connection_Assistant::onPageChanged);
   connect(this, &QDialog::finished, this, [this] {
     mSearch->stopSearch();

@@ -14,7 +14,8 @@ class Project_Session;
 struct Network_Message;
 
 /// Leads to a connection: finds the controllers of the local networks or takes an address, tests it, asks for a name,
-/// and adds the connection to the project, selected, as one undo step. Searching ends with the dialog.
+/// and adds the connection to the project, selected, as one undo step. Searching ends with the dialog,
+/// which closes with the project.
 class Dev_Connection_Assistant : public QWizard {
   Q_OBJECT
 

@@ -5,6 +5,7 @@
 #include "net/dialogs/Controller_Clock_Reader.h"
 #include "net/dialogs/Controller_Number_Panel.h"
 
+#include <QDateTime>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -17,6 +18,7 @@ namespace {
 constexpr int cGap = 8;
 constexpr int cGroupGap = 12;
 constexpr QSize cSize(820, 600);
+constexpr qsizetype cMostCharacters = 200; // of what a controller says of itself
 
 QLabel* addValue(QFormLayout& form, const QString& title) {
   auto* const label = new QLabel;
@@ -30,7 +32,7 @@ QLabel* addValue(QFormLayout& form, const QString& title) {
 /// What is empty is told too.
 void setValues(const QList<QLabel*>& labels, const QStringList& values) {
   for (qsizetype i = 0; i < labels.size(); ++i) {
-    labels[i]->setText(values[i].isEmpty() ? QStringLiteral("–") : values[i]);
+    labels[i]->setText(values[i].isEmpty() ? QStringLiteral("–") : values[i].left(cMostCharacters));
   }
 }
 
@@ -118,9 +120,10 @@ void Dev_Controller_Dlg::updateState() {
 }
 
 void Dev_Controller_Dlg::showInformation(const DB_Controller_Informations& informations) {
-  const QString time = informations.mProjectTimestamp == 0
-                           ? QString()
-                           : Controller_Clock_Reader::text(informations.mProjectTimestamp * 1000);
+  const QString time =
+      informations.mProjectTimestamp == 0
+          ? QString()
+          : Controller_Clock_Reader::text(QDateTime::fromSecsSinceEpoch(informations.mProjectTimestamp));
   setValues(mInformation,
             {informations.mName, informations.mSerialNumber, informations.mRuntimeVersion, informations.mSystemVersion,
              informations.mProjectName, time, informations.mIsRunning ? tr("läuft") : tr("steht")});

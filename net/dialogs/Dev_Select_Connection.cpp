@@ -30,10 +30,12 @@ namespace {
 constexpr int cGap = 8;
 constexpr int cGroupGap = 12;
 constexpr QSize cSize(960, 440);
-constexpr int cNumberWidth = 72;
-constexpr int cNameWidth = 180;
-constexpr int cAddressWidth = 150;
+constexpr int cNumberWidth = 80;
+constexpr int cNameWidth = 150;
+constexpr int cAddressWidth = 130;
 constexpr int cKindWidth = 140;
+constexpr int cUserWidth = 80;
+constexpr int cSelectedWidth = 95;
 const QString cGeometry = QStringLiteral("net:Dev_Select_Connection");
 
 } // namespace
@@ -111,6 +113,8 @@ QWidget* Dev_Select_Connection::makeList() {
   mList->header().resizeSection(Connection_List_Model::cName, cNameWidth);
   mList->header().resizeSection(Connection_List_Model::cAddress, cAddressWidth);
   mList->header().resizeSection(Connection_List_Model::cKind, cKindWidth);
+  mList->header().resizeSection(Connection_List_Model::cUser, cUserWidth);
+  mList->header().resizeSection(Connection_List_Model::cSelected, cSelectedWidth);
   connect(mList, &Result_List::chosen, this, &Dev_Select_Connection::onEdit);
   connect(mList, &Result_List::selectionChanged, this, &Dev_Select_Connection::updateState);
   auto* const remove = new QShortcut(QKeySequence::Delete, &mList->view(), nullptr, nullptr, Qt::WidgetShortcut);

@@ -40,10 +40,15 @@ void Dev_Write_Persistent_Project_Dlg::onSucceeded() {
   }
 }
 
-/// Too late to keep the old project there: that must be known.
+/// Too late to keep the old project there, or perhaps: that must be known.
 void Dev_Write_Persistent_Project_Dlg::onCancelled() {
-  const bool hasStarted = static_cast<Project_Transfer*>(exchange())->hasStarted();
-  if (!hasStarted || tell(tr("Das Projekt läuft auf der Steuerung. Die Übertragung der Ressourcen ist abgebrochen."))) {
+  const auto& transfer = static_cast<const Project_Transfer&>(*exchange());
+  const QString text =
+      transfer.hasStarted() ? tr("Das Projekt läuft auf der Steuerung. Die Übertragung der Ressourcen ist abgebrochen.")
+      : transfer.isStarting() ? tr("Die Steuerung hat den Start des Projekts noch nicht bestätigt. Welches Projekt sie "
+                                   "ausführt, zeigt \"Projekt mit Steuerung vergleichen\".")
+                              : QString();
+  if (text.isEmpty() || tell(text)) {
     QDialog::reject();
   }
 }

@@ -18,6 +18,7 @@ constexpr int cGroupGap = 12;
 constexpr int cWidth = 400;
 constexpr int cSignSize = 24;
 constexpr int cTextLines = 2;
+constexpr qsizetype cMostCharacters = 400; // of what a controller gives as a reason
 
 } // namespace
 
@@ -112,8 +113,11 @@ void Exchange_Dialog::onFinished(Controller_Exchange::End end) {
     onCancelled();
     return;
   default:
-    mText->setText(mExchange->errorText());
+    mText->setText(mExchange->errorText().isEmpty() ? tr("Die Steuerung lehnt es ab und nennt keinen Grund.")
+                                                    : mExchange->errorText().left(cMostCharacters));
     showFailure(true);
+    // This window is in front of what dials again.
+    mRetry->setVisible(end != Controller_Exchange::End::NoLink);
     show();
   }
 }

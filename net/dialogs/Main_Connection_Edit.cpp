@@ -65,6 +65,10 @@ Main_Connection_Edit::Main_Connection_Edit(Project_Session& session, Controller_
   for (QLabel* const label : labels) {
     label->setMinimumWidth(labelWidth);
   }
+  connect(&session, &Project_Session::aboutToClose, this, &QDialog::reject);
+  // The index may be that of another connection by then.
+  connect(&session.database(), &ProjectDatabase::recordChanged, this,
+          [this](DB_Table table) { mIsOutdated |= mIndex != cNew && table == DB_Table::Connections; });
   onKindChanged();
   mName->selectAll();
   mName->setFocus();
@@ -202,6 +206,11 @@ void Main_Connection_Edit::onTest() {
 }
 
 void Main_Connection_Edit::accept() {
+  if (mIsOutdated) {
+    Message_Box::showMessage(this, tr("Die Verbindungen des Projekts wurden inzwischen an anderer Stelle geändert. Was "
+                                      "hier steht, lässt sich nicht mehr übernehmen."));
+    return;
+  }
   const Edit_Result edit = mIndex == cNew ? Connection_Edits::add(mSession, connection())
                                           : Connection_Edits::change(mSession, mIndex, connection());
   if (!edit) {

@@ -18,7 +18,8 @@ class QPlainTextEdit;
 class QPushButton;
 
 /// The editor of one connection. What may not be is marked while it is typed; only the fields of the chosen kind can be
-/// used. Accepting changes the project, as one undo step. Passwords are typed blind.
+/// used. Accepting changes the project, as one undo step, unless the list was changed elsewhere meanwhile.
+/// Passwords are typed blind. Closes with the project.
 class Main_Connection_Edit : public QDialog {
   Q_OBJECT
 
@@ -48,6 +49,7 @@ private:
   Controller_Link& mLink;
   int mIndex;
   DB_Connections::ITEM mItem; ///< as it was
+  bool mIsOutdated = false;   ///< the list was changed elsewhere since
   std::vector<Checked_Line_Edit*> mChecked;
   QComboBox* mKind = nullptr;
   Checked_Line_Edit* mName = nullptr;

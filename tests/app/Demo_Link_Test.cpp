@@ -59,7 +59,7 @@ private slots:
     QTRY_VERIFY_WITH_TIMEOUT(told.contains(u"Projekt erfolgreich gespeichert"_s), 20'000);
     QCOMPARE(server.controller().project().header().mProjectId, database.mProject.mProjectId);
 
-    const Group_Address address = server.controller().values().addresses().at(0).mAddress;
+    const Group_Address address(1, 0, 1);
     const QUuid key = database.mAddresses.subGroup(address)->mKey;
     const QByteArray payload = server.controller().values().value(address);
     server.controller().writeValue(address, payload, 1, 1, 20);

@@ -113,6 +113,30 @@ private slots:
     QCOMPARE(bytesOf(mCopy), QByteArray("das alte Projekt"));
   }
 
+  void cutNames_data() {
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("kept");
+    QTest::newRow("in a character of two bytes") << QByteArray("b\xc3") << QStringLiteral("b");
+    QTest::newRow("in one of four") << QByteArray("b\xf0\x9f\x98") << QStringLiteral("b");
+    QTest::newRow("wrong in the middle") << QByteArray("a\xffz") << QString::fromUtf8("a\xef\xbf\xbdz");
+    QTest::newRow("path") << QByteArray("../../etc/passwd") << QStringLiteral("../../etc/passwd");
+  }
+
+  /// A resource is found by the name that the list tells.
+  void cutNames() {
+    QFETCH(QByteArray, name);
+    QFETCH(QString, kept);
+    QVERIFY(Project_Image::writeFile(
+        row(DB_Table::Project, cItem) + row(DB_Table::Resources, name + QByteArray("\0Inhalt", 7)), mCopy));
+    ProjectDatabase copy;
+    QVERIFY(copy.openProject(mCopy, true));
+    QStringList names;
+    QByteArray bytes;
+    QVERIFY(copy.ressourceList(names) && copy.ressourceReadRaw(names.value(0), bytes));
+    QCOMPARE(names, QStringList{kept});
+    QCOMPARE(bytes, QByteArray("Inhalt"));
+  }
+
   void folderThatIsMissing() {
     QString error;
     QVERIFY(!Project_Image::writeFile(row(DB_Table::Project, cItem), mFolder->filePath("fehlt/a.zpro"), &error));

@@ -104,6 +104,30 @@ private slots:
     QCOMPARE(link.state(), Controller_Link::State::Offline);
   }
 
+  void aRelayServiceOfTheUsersOwnIsTheOneThatIsAsked() {
+    Session_Rig rig;
+    Controller_Link link(rig.mSession);
+    Scripted_Peer peer;
+    peer.mOnMessage = [&peer](const Scripted_Peer::Message& message) {
+      const bool isFirst = message.mCommand == Command::Relay_Dns_Check;
+      peer.send(isFirst ? Command::Relay_Dns_Reply : Command::Relay_Check_Reply, isFirst ? "ok;1\0"_ba : "\0"_ba);
+    };
+    link.client().setRelay({}, peer.port());
+    DB_Connections::ITEM connection;
+    connection.mKind = DB_Connections::ITEM::cRelay;
+    connection.mRelayDns = u"haus.example"_s;
+    connection.mRelayHost = u"127.0.0.1"_s;
+    Connection_Test test(link, connection, {1, 400});
+    connect(&link.client(), qOverload<Network_Message*, uchar*>(&Main_Network_Client::onProcessNetworkRead), &test,
+            &Connection_Test::onNetworkRead);
+    connect(&link.client(), &Main_Network_Client::onProcessNetworkConnect, &test, &Connection_Test::onNetworkConnect);
+    QSignalSpy ends(&test, &Connection_Test::finished);
+    test.start();
+    QTRY_COMPARE(ends.size(), 1);
+    QVERIFY(ends.first().first().toBool());
+    QCOMPARE(peer.mAccepted, 2);
+  }
+
   void nobodyListens() {
     Session_Rig rig;
     Controller_Link link(rig.mSession);

@@ -28,7 +28,10 @@ public:
     };
     QObject::connect(mLink, &Controller_Link::refused, mLink, [this](const QString& text) { mRefused.append(text); });
     QObject::connect(mLink, &Controller_Link::lost, mLink, [this] { ++mLost; });
-    QObject::connect(mLink, &Controller_Link::stateChanged, mLink, [this](State state) { mStates.append(state); });
+    QObject::connect(mLink, &Controller_Link::stateChanged, mLink, [this](State state) {
+      mStates.append(state);
+      mTexts.append(mLink->connectionText());
+    });
   }
   ~Rig() { delete mLink; }
   Q_DISABLE_COPY_MOVE(Rig)
@@ -48,6 +51,7 @@ public:
   QStringList mRefused;
   int mLost = 0;
   QList<State> mStates;
+  QStringList mTexts; ///< of the connection, at each state
 };
 
 } // namespace
@@ -70,7 +74,7 @@ private slots:
     logOn.setData(rig.mPeer.last(Controller_Command::Log_On));
     logOn.fromData();
     QCOMPARE(logOn.mUser + u'/' + logOn.mPassword, QStringLiteral("root/geheim"));
-    QCOMPARE(rig.mLink->connectionText(), QStringLiteral("Test (%1)").arg(rig.mPeer.address()));
+    QCOMPARE(rig.mTexts, QStringList(3, QStringLiteral("Test (%1)").arg(rig.mPeer.address())));
     QCOMPARE(rig.mStates, (QList<State>{State::Dialling, State::LoggingOn, State::Online}));
     // Dialled while connected: the old link goes first, and that is no loss.
     Scripted_Peer other;

@@ -1,6 +1,7 @@
 #include "db/Project_Image.h"
 #include "net/Project_Transfer.h"
 #include "tests/db/Project_Dump.h"
+#include "tests/db/Project_Sample.h"
 #include "tests/net/Transfer_Rig.h"
 
 using namespace Controller_Command;
@@ -184,6 +185,33 @@ private slots:
       QCOMPARE(mTransfer->errorText(), QStringLiteral("Kein Platz."));
       QCOMPARE(mRig->commands().contains(Transfer_Abort), !mTransfer->hasStarted());
     }
+  }
+
+  /// They are none, whatever they stand for.
+  void repliesWithoutContent() {
+    addFiles({"a.png", "b.wav"});
+    mRig->mBefore = [this](const Scripted_Peer::Message& message) {
+      if (message.mCommand == Project_Start) {
+        mRig->mPeer.send(Project_Started);
+        mRig->mPeer.send(Project_Started, QByteArray(1, '\0'));
+      } else if (message.mCommand == Resource) {
+        mRig->mPeer.send(Resource_Stored);
+      }
+    };
+    QCOMPARE(run({}), End::Done);
+    QCOMPARE(mRig->commands(), cWithFiles);
+    QCOMPARE(store().mProject.mControllerProjectId, QStringLiteral("K-4711"));
+    QCOMPARE(mRig->mLabels.count("Übertrage Ressourcen 1/2"), 1);
+  }
+
+  void savingFails() {
+    const QString path = mRig->mSession.path();
+    const QByteArray before = Session_Rig::bytesOf(path);
+    QVERIFY(QFile::remove(path) && QDir().mkpath(path));
+    QCOMPARE(run({}), End::Failed);
+    QVERIFY(mTransfer->errorText().startsWith(u"Das Projekt konnte nicht gespeichert werden"));
+    QVERIFY(mRig->commands().isEmpty());
+    QVERIFY(QDir().rmdir(path) && Project_Sample::writeFile(path, before));
   }
 
   /// What is edited meanwhile belongs to the next write; a resource that goes meanwhile is not waited for.

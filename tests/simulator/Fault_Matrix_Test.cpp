@@ -1,10 +1,13 @@
 // Faults of the controller against what the studio does with it: nothing hangs or crashes, and everything ends with
-// success or with the text that is due.
+// success or with the text that is due. With STUDIO_FAULT_MATRIX=FILE what came of each is written there as a table.
+#include "db/Project_Image.h"
 #include "net/Controller_Command.h"
 #include "net/Controller_Request.h"
+#include "net/Persistent_Values.h"
 #include "net/Program_Transfer.h"
 #include "net/Project_Transfer.h"
 #include "net/Stream_Load.h"
+#include "simulator/Simulator_Backups.h"
 #include "tests/simulator/Simulator_Rig.h"
 
 #include <QtTest>
@@ -21,14 +24,28 @@ const QString cRefused = QStringLiteral("auf Wunsch");
 constexpr int cShortMs = 150;
 constexpr int cLongMs = 5000;
 constexpr int cTelegrams = 10;
+constexpr int cLostMs = 2000; // so soon a lost link ends everything
+constexpr qsizetype cResource = 6000;
 
 using Make = std::unique_ptr<Controller_Exchange> (*)(Simulator_Rig& rig);
+/// Whether all of the answer arrived; the generation is that of the controller's project before.
+using Proof = bool (*)(Simulator_Rig& rig, Controller_Exchange& exchange, int generation);
 
 struct Operation {
   const char* mName;
   quint32 mCommand; ///< the one that is answered
   Make mMake;
+  Proof mProof;
 };
+
+template <class Record>
+bool isAnswer(Controller_Exchange& exchange, const Record& expected) {
+  return static_cast<Controller_Request&>(exchange).replyRecord<Record>().isEqual(expected);
+}
+
+QByteArray loaded(Controller_Exchange& exchange) {
+  return static_cast<Stream_Load&>(exchange).bytes();
+}
 
 std::unique_ptr<Controller_Exchange> streamLoad(Simulator_Rig& rig, quint32 command, quint32 begin, quint32 data,
                                                 const QString& text) {
@@ -40,25 +57,46 @@ const Operation cOperations[] = {
      [](Simulator_Rig& rig) -> std::unique_ptr<Controller_Exchange> {
        return std::make_unique<Controller_Request>(rig.client(), Information, QByteArray(), Information_Reply,
                                                    QString());
+     },
+     [](Simulator_Rig& rig, Controller_Exchange& exchange, int) {
+       return isAnswer(exchange, rig.controller().informations());
      }},
     {"backup list", Backup_List,
      [](Simulator_Rig& rig) -> std::unique_ptr<Controller_Exchange> {
        return std::make_unique<Controller_Request>(rig.client(), Backup_List, QByteArray(), Backup_List_Reply,
                                                    QString());
+     },
+     [](Simulator_Rig& rig, Controller_Exchange& exchange, int) {
+       return isAnswer(exchange, Simulator_Backups(rig.controller()).list());
      }},
     {"load project", Load,
-     [](Simulator_Rig& rig) { return streamLoad(rig, Load, Load_Begin, Load_Data, QStringLiteral("project")); }},
+     [](Simulator_Rig& rig) { return streamLoad(rig, Load, Load_Begin, Load_Data, QStringLiteral("project")); },
+     [](Simulator_Rig& rig, Controller_Exchange& exchange, int) {
+       return loaded(exchange) == rig.controller().project().image();
+     }},
     {"load values", Persistent_Load,
      [](Simulator_Rig& rig) {
        return streamLoad(rig, Persistent_Load, Persistent_Load_Begin, Persistent_Load_Data, {});
+     },
+     [](Simulator_Rig& rig, Controller_Exchange& exchange, int) {
+       return !loaded(exchange).isEmpty() && loaded(exchange) == rig.controller().values().persistent().toBytes();
      }},
     {"program", Program_Start,
      [](Simulator_Rig& rig) -> std::unique_ptr<Controller_Exchange> {
        return std::make_unique<Program_Transfer>(rig.client(), rig.mSession, Program_Transfer::Options{true, true});
+     },
+     [](Simulator_Rig& rig, Controller_Exchange& exchange, int) {
+       return static_cast<Program_Transfer&>(exchange).wasSent() &&
+              rig.controller().project().mProgram == Project_Image::program(rig.mSession.database()).toBytes();
      }},
     {"project write", Project_Start,
      [](Simulator_Rig& rig) -> std::unique_ptr<Controller_Exchange> {
        return std::make_unique<Project_Transfer>(rig.client(), rig.mSession, Project_Transfer::Options());
+     },
+     [](Simulator_Rig& rig, Controller_Exchange& exchange, int generation) {
+       return rig.controller().project().header().mGeneration == generation + 1 &&
+              static_cast<Project_Transfer&>(exchange).generation() == generation + 1 &&
+              rig.controller().project().mResources.value("plan.png").size() == cResource;
      }},
 };
 
@@ -116,25 +154,37 @@ private slots:
     Simulator_Rig& rig = *mRig;
     QVERIFY(rig.goOnline());
     QVERIFY(addAll(rig, wrong.mSpecs, wanted.mCommand));
+    const int generation = rig.controller().project().header().mGeneration;
     const std::unique_ptr<Controller_Exchange> exchange = wanted.mMake(rig);
     exchange->setTimeout(wrong.mOutcome == cNoAnswer ? cShortMs : cLongMs);
     int ends = 0;
     connect(exchange.get(), &Controller_Exchange::finished, this, [&ends] { ++ends; });
     exchange->start();
-    QTRY_COMPARE_WITH_TIMEOUT(ends, 1, cLongMs + cShortMs);
+    QTRY_COMPARE_WITH_TIMEOUT(ends, 1, wrong.mOutcome == cNoLink ? cLostMs : cLongMs + cShortMs);
+    mOutcomes.append(exchange->errorText().isEmpty() ? QStringLiteral("done") : exchange->errorText());
+    QVERIFY(exchange->isFinished() && rig.mServer.faults().hits() > 0);
+    QCOMPARE(rig.mLink.isOnline(), wrong.mOutcome != cNoLink);
+    rig.mServer.faults().clear();
     if (wrong.mOutcome.isEmpty()) {
       QCOMPARE(exchange->errorText(), QString());
-    } else {
-      QVERIFY2(exchange->errorText().contains(wrong.mOutcome), qPrintable(exchange->errorText()));
+      QVERIFY(wanted.mProof(rig, *exchange, generation));
+      return;
     }
-    // And what comes after is in order: the same again, on a controller that behaves.
-    rig.mServer.faults().clear();
+    QVERIFY2(exchange->errorText().contains(wrong.mOutcome), qPrintable(exchange->errorText()));
+    if (wrong.mOutcome != cNoLink) {
+      // What was sent behind a refusal, or comes too late, belongs to nobody any more.
+      rig.mLink.disconnectLink();
+    }
+    // The same again, on a controller that behaves.
     QVERIFY(rig.goOnline());
     QTRY_VERIFY(rig.controller().isRunning());
+    const int generationAgain = rig.controller().project().header().mGeneration;
     const std::unique_ptr<Controller_Exchange> again = wanted.mMake(rig);
     again->start();
     QTRY_VERIFY(again->isFinished());
     QCOMPARE(again->errorText(), QString());
+    QVERIFY(wanted.mProof(rig, *again, generationAgain));
+    QCOMPARE(ends, 1);
   }
 
   void logOn_data() {
@@ -160,6 +210,7 @@ private slots:
     rig.mLink.connectTo(rig.connection());
     QTRY_VERIFY(rig.mLink.isOnline() || !reason.isEmpty());
     QCOMPARE(rig.mLink.isOnline(), outcome.isEmpty());
+    QVERIFY(rig.mServer.faults().hits() > 0);
     QVERIFY2(reason.contains(outcome), qPrintable(reason));
   }
 
@@ -217,8 +268,8 @@ private slots:
 
   void initTestCase() {
     mRig = std::make_unique<Simulator_Rig>();
-    QVERIFY(mRig->addAddress({1, 2, 3}, QStringLiteral("Licht")));
-    QVERIFY(mRig->mSession.database().ressourceWriteRaw(QStringLiteral("plan.png"), QByteArray(6000, 'p')));
+    mRig->addAddress({1, 2, 3}, QStringLiteral("Licht"))->mDpt = {1, 1};
+    QVERIFY(mRig->mSession.database().ressourceWriteRaw(QStringLiteral("plan.png"), QByteArray(cResource, 'p')));
     QVERIFY(mRig->goOnline());
     const auto write = cOperations[std::size(cOperations) - 1].mMake(*mRig);
     write->start();
@@ -237,9 +288,31 @@ private slots:
     }
   }
 
-  void cleanupTestCase() { mRig.reset(); }
+  /// A line for each operation, a column for each fault.
+  void cleanupTestCase() {
+    mRig.reset();
+    QFile file(qEnvironmentVariable("STUDIO_FAULT_MATRIX"));
+    if (file.fileName().isEmpty() ||
+        mOutcomes.size() != static_cast<qsizetype>(std::size(cOperations) * std::size(cFaults))) {
+      return;
+    }
+    QByteArray table = "| Fault |";
+    for (const Operation& operation : cOperations) {
+      table += QByteArray(" ") + operation.mName + " |";
+    }
+    table += "\n|---|" + QByteArray("---|").repeated(static_cast<qsizetype>(std::size(cOperations))) + '\n';
+    for (size_t fault = 0; fault < std::size(cFaults); ++fault) {
+      table += QByteArray("| ") + cFaults[fault].mName + " |";
+      for (size_t operation = 0; operation < std::size(cOperations); ++operation) {
+        table += ' ' + mOutcomes.at(static_cast<qsizetype>(operation * std::size(cFaults) + fault)).toUtf8() + " |";
+      }
+      table += '\n';
+    }
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(table) == table.size());
+  }
 
 private:
+  QStringList mOutcomes; ///< in the order of the rows
   QObject mContext;
   std::unique_ptr<Simulator_Rig> mRig;
 };

@@ -55,6 +55,37 @@ private slots:
     QVERIFY(loaded.ressourceReadRaw("bild ä.png", bytes) && bytes == QByteArray(300'000, '\1'));
   }
 
+  /// Whatever becomes of the resources here, the controller has these afterwards and no others.
+  void changedResources_data() {
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("none any more") << QStringList();
+    QTest::newRow("another one") << QStringList{"neu.png"};
+    QTest::newRow("name cut in a character") << QStringList{u'a' + QString(200, u'ä')};
+    QTest::newRow("name that looks like a path") << QStringList{"../../etc/passwd"};
+  }
+
+  void changedResources() {
+    QFETCH(QStringList, names);
+    Project_Transfer first(mRig->client(), mRig->mSession, {});
+    QCOMPARE(run(first), End::Done);
+    QVERIFY(store().ressourceDeleteAll());
+    for (const QString& name : names) {
+      QVERIFY(store().ressourceWriteRaw(name, "neu"));
+    }
+    QCOMPARE(compare(), Verdict::Different);
+    Project_Transfer second(mRig->client(), mRig->mSession, {});
+    QCOMPARE(run(second), End::Done);
+    QCOMPARE(compare(), Verdict::Same);
+    QCOMPARE(mRig->controller().project().mResources.size(), names.size());
+
+    Stream_Load load(mRig->client(), {Load, "project", Load_Begin, Load_Data, "Warte", "Lade"});
+    QCOMPARE(run(load), End::Done);
+    const QString path = mRig->path(QStringLiteral("geladen.zpro"));
+    QVERIFY(Project_Image::writeFile(load.bytes(), path));
+    QVERIFY(mRig->mSession.open(path));
+    QCOMPARE(compare(), Verdict::Same);
+  }
+
   /// A changed program goes over alone; a changed record does not.
   void changedProgram() {
     Project_Transfer first(mRig->client(), mRig->mSession, {});

@@ -1,5 +1,9 @@
+#include "db/DB_Controller_Informations.h"
+#include "net/Byte_Stream.h"
 #include "net/Controller_Command.h"
+#include "net/Controller_Records.h"
 #include "net/DB_Address_Network_Telegram.h"
+#include "net/DB_Discovery_Answer.h"
 #include "net/Network_Frame.h"
 #include "simulator/Simulator_Commands.h"
 
@@ -37,6 +41,27 @@ private slots:
     for (quint32 command = 0; command < 8000; ++command) {
       const QRegularExpression number(QStringLiteral("\\b%1\\b").arg(command));
       QVERIFY2(!Simulator_Commands::find(command) || mText.contains(number), qPrintable(QString::number(command)));
+    }
+  }
+
+  /// So is each field of the records that only travel.
+  void fields() {
+    DB_Log_On logOn;
+    DB_Refusal refusal;
+    DB_Controller_Informations informations;
+    DB_Controller_Project project;
+    DB_Backup_List backups;
+    DB_Group_Status group;
+    DB_Network_Settings network;
+    DB_Stream_Begin stream;
+    DB_Discovery_Answer answer;
+    for (DB_Data_Base* const record : std::initializer_list<DB_Data_Base*>{
+             &logOn, &refusal, &informations, &project, &backups, &group, &network, &stream, &answer}) {
+      const DB_Fields::Keys keys = DB_Fields::keys(*record);
+      for (const QByteArray& key : keys.mPlain + keys.mLists) {
+        const QByteArray name = key.startsWith("mProject.") ? "mProject." : key.split('.').last();
+        QVERIFY2(mText.contains(QString::fromLatin1('`' + name)), key.constData());
+      }
     }
   }
 

@@ -1,10 +1,13 @@
 #include "db/Project_Image.h"
+#include "net/Byte_Stream.h"
 #include "net/Controller_Command.h"
 #include "net/Controller_Records.h"
 #include "net/Controller_Request.h"
 #include "net/DB_Discovery_Answer.h"
 #include "net/Network_Frame.h"
+#include "net/Persistent_Values.h"
 #include "net/Project_Transfer.h"
+#include "simulator/Simulator_Backups.h"
 #include "simulator/Simulator_Discovery.h"
 #include "simulator/Simulator_Frame_Reader.h"
 #include "tests/simulator/Simulator_Rig.h"
@@ -89,7 +92,10 @@ private slots:
     QCOMPARE(rig.controller().values().value({1, 2, 3}), QByteArray(1, '\1'));
     QCOMPARE(rig.controller().project().header().mGeneration, 2);
     // Another process would find the same.
-    Simulator_Controller again(rig.controller().options());
+    options.mFolder = folder.path();
+    QVERIFY(QFile::copy(folder.filePath(QStringLiteral("data/project.bin")),
+                        folder.filePath(QStringLiteral("project.bin"))));
+    Simulator_Controller again(options);
     QCOMPARE(again.project().image(), rig.controller().project().image());
   }
 
@@ -187,6 +193,20 @@ private slots:
     row("endless", "while true do end", "rechnet zu lange", "");
     row("endless and catching", "while true do pcall(function() while true do end end) end", "rechnet zu lange", "");
     row("memory", "s = 'x' while true do s = s .. s end", "not enough memory", "");
+    row("memory in few bytes", "t = {} while pcall(table.insert, t, {}) do end", "not enough memory", "");
+    row("long repetition", "string.rep('', 1 << 62)", "not enough memory", "");
+    row("long pattern", "('a'):rep(30):find(('a-'):rep(20) .. 'b')", "Das Muster ist", "");
+    row("long table", "table.insert(setmetatable({}, {__len = function() return 1 << 60 end}), 1, 1)", "Länge selbst",
+        "");
+    row("long move", "table.move({}, 1, 1 << 60, 2)", "zu lang", "");
+    row("finaliser", "setmetatable({}, {__gc = function() while true do end end})", "__gc gibt es", "");
+    row("endless handler", "xpcall(error, function() while true do end end)", "rechnet zu lange", "");
+    row("deep", "function f() return 1 + f() end f()", "not enough memory", "");
+    row("error in a text", "sys_alias(setmetatable({}, {__tostring = function() error('nein') end}), 'a')", "nein", "");
+    row("patterns", "for k in ('a=1;b=2'):gmatch('%w+') do sys_debug_print(k) end", "", "a1b2");
+    row("caught", "sys_debug_print(xpcall(error, function(e) return e .. '!' end, 'x'))", "", "falsex!");
+    row("endless answers", "function onEvent() sys_set_value('1/2/3', 1, true) end sys_set_value('1/2/3', 1, true)", "",
+        "");
     row("no files", "io.open('/etc/passwd')", "global 'io'", "");
     row("no bytecode", "load('\\27Lua')", "global 'load'", "");
     row("error in callback", "function onTimerEvent100ms() error('x') end", "", "Das Script ist angehalten");
@@ -213,6 +233,110 @@ private slots:
     const QString told = QString::fromUtf8(request.reply().sliced(guid.size()));
     QVERIFY2(error.isEmpty() ? told.isEmpty() : told.contains(error), qPrintable(told));
     QTRY_VERIFY2(written.contains(line), qPrintable(written));
+  }
+
+  void relay() {
+    Simulator_Options options;
+    options.mIsRelay = true;
+    options.mRelayName = QStringLiteral("haus");
+    Simulator_Rig rig(options);
+    QVERIFY(rig.mServer.controller().isLogOnRight(rig.connection().mUser, rig.connection().mPassword));
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress::LocalHost, rig.mServer.port());
+    DB_Log_On who;
+    who.mUser = rig.connection().mUser;
+    who.mPassword = rig.connection().mPassword;
+    for (const auto& [command, payload] :
+         {std::pair(Relay_Dns_Check, QByteArray("haus")), std::pair(Relay_Check, QByteArray("haus")),
+          std::pair(Relay_Check, QByteArray("hof")), std::pair(Log_On, who.toData()),
+          std::pair(Relay_Log_On, who.toData())}) {
+      socket.write(Network_Frame::pack(command, payload));
+    }
+    QList<QByteArray> told;
+    Simulator_Frame_Reader reader;
+    QTRY_VERIFY(([&] {
+      reader.append(socket.readAll());
+      while (const auto message = reader.next()) {
+        told.append(QByteArray::number(message->mCommand) + ' ' + message->mPayload.left(2).simplified());
+      }
+      return told.size() == 5;
+    }()));
+    told.last().truncate(2);
+    QCOMPARE(told, QList<QByteArray>({"1002 ok", QByteArray("1009 ") + '\0', "1009 Be", "12 Hi", "11"}));
+  }
+
+  void cycle() {
+    Simulator_Rig rig;
+    for (const int sub : {1, 2, 3}) {
+      rig.addAddress({1, 1, sub}, QString::number(sub))->mDpt = {1, 1};
+    }
+    QVERIFY(rig.goOnline());
+    Project_Transfer write(rig.client(), rig.mSession, {});
+    write.start();
+    QTRY_VERIFY(write.isFinished());
+    QList<int> heard;
+    connect(&rig.client(), qOverload<Group_Telegram>(&Main_Network_Client::onProcessNetworkRead), this,
+            [&heard](const Group_Telegram& telegram) {
+              heard.append(telegram.address().sub() * 10 + telegram.mData.at(0));
+            });
+    QCOMPARE(ask(rig, Cycle, "1", Cycle_Reply), QByteArray());
+    QTRY_VERIFY(heard.size() >= 6);
+    QCOMPARE(heard.first(6), QList<int>({11, 21, 31, 10, 20, 30}));
+    QCOMPARE(ask(rig, Cycle, "0", Cycle_Reply), QByteArray());
+    const qsizetype before = heard.size();
+    QTest::qWait(30);
+    QCOMPARE(heard.size(), before);
+    QVERIFY(ask(rig, Cycle, "-1", Cycle_Reply).contains("Periode"));
+  }
+
+  /// What is told of numbers reaches the partner, and only one on this machine.
+  void numbers() {
+    Simulator_Rig rig;
+    Simulator_Rig partner;
+    QVERIFY(rig.goOnline());
+    QCOMPARE(ask(rig, Number_Set, "7", Number_Set_Reply), QByteArray("7\0", 2));
+    QVERIFY(ask(rig, Number_Set, "256", Number_Set_Reply).contains("1 bis 255"));
+    const QByteArray address = "127.0.0.1:" + QByteArray::number(partner.mServer.port());
+    QCOMPARE(ask(rig, Partner_Number_Set, address + "#9", Partner_Number_Set_Reply), address + QByteArray("#9\0", 3));
+    QCOMPARE(partner.controller().settings().mNumber, 9);
+    QCOMPARE(ask(rig, Partner_Number_Clear, address, Partner_Number_Clear_Reply), QByteArray());
+    QCOMPARE(partner.controller().settings().mNumber, 0);
+    QVERIFY(ask(rig, Partner_Number_Set, "192.0.2.1#9", Partner_Number_Set_Reply).contains("nicht erreichbar"));
+    QCOMPARE(rig.controller().settings().mNumber, 7);
+  }
+
+  /// Values that nothing could keep are none; the others are there again when they are taken back.
+  void persistentValues() {
+    Simulator_Rig rig;
+    QVERIFY(rig.goOnline());
+    for (const Group_Telegram& telegram : {Group_Telegram::to({1, 2, 3}, Group_Telegram::Write, "a"),
+                                           Group_Telegram::to({1, 2, 4}, Group_Telegram::Write, {}),
+                                           Group_Telegram::to({32, 0, 0}, Group_Telegram::Write, "b")}) {
+      rig.client().sendTelegram(telegram);
+    }
+    QCOMPARE(ask(rig, Persistent_Store, {}, Persistent_Stored), QByteArray());
+    QCOMPARE(rig.controller().values().persistent().toBytes(), QByteArray("1/2/3;61\n"));
+    DB_Backup_List made;
+    made.setData(ask(rig, Backup_Make, {}, Backup_Made));
+    const QByteArray values = "1/2/3;62\n1/2/5;63\n";
+    const QByteArray begin = Byte_Stream::announce(values).toData();
+    rig.client().sendMessage(Persistent_Send_Begin, static_cast<quint32>(begin.size()), begin.constData());
+    QCOMPARE(ask(rig, Persistent_Send_Data, values, Persistent_Taken), QByteArray("2\0", 2));
+    QCOMPARE(rig.controller().values().persistent().toBytes(), values);
+    QVERIFY(ask(rig, Backup_Restore, "../x#all", Backup_Restored).contains("gibt es nicht"));
+    QCOMPARE(ask(rig, Backup_Restore, made.mBackups.front().mId.toUtf8() + "#persistent", Backup_Restored),
+             QByteArray());
+    QCOMPARE(rig.controller().values().count(), 0); // without a program there are no addresses
+  }
+
+  void remoteSearch() {
+    Simulator_Options options;
+    const Simulator_Controller usual(options);
+    options.mAnswersRemoteSearch = true;
+    const Simulator_Controller open(options);
+    const QHostAddress other(QStringLiteral("192.0.2.1"));
+    QVERIFY(!Simulator_Discovery(usual).isAnswered(other) && Simulator_Discovery(open).isAnswered(other));
+    QVERIFY(Simulator_Discovery(usual).isAnswered(QHostAddress(QHostAddress::LocalHost)));
   }
 
   void search() {

@@ -4,6 +4,7 @@
 #include "fb/lua/FB_Lua_Completion.h"
 #include "fb/lua/FB_Lua_Find_Bar.h"
 #include "fb/lua/FB_Lua_Script_Editor.h"
+#include "fb/lua/FB_Lua_Trace_View.h"
 #include "tests/fb/Logic_Rig.h"
 #include "ui/Theme.h"
 
@@ -16,6 +17,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTimer>
 #include <QToolBar>
 
@@ -171,6 +173,30 @@ private slots:
     QTest::keyClick(mEdit, Qt::Key_Tab);
     QCOMPARE(mEditor->script(), QString());
     QVERIFY(!mEditor->findChild<QToolBar*>("toolbar")->actions().constFirst()->isEnabled());
+  }
+
+  /// The first ones go, and the table is not built line by line.
+  void aFloodOfLinesIsShownTogether() {
+    FB_Lua_Trace_View view(QString(), {"A"}, nullptr);
+    view.show();
+    QSignalSpy changes(view.findChild<QTableView*>()->model(), &QAbstractItemModel::rowsRemoved);
+    for (int i = 0; i < FB_Lua_Trace_View::cMostRows + 5; ++i) {
+      view.append({QString::number(i)});
+    }
+    QTRY_COMPARE(view.rowCount(), FB_Lua_Trace_View::cMostRows);
+    for (int i = 0; i < 7; ++i) {
+      view.append({"x"});
+    }
+    view.copy();
+    const QStringList lines = QApplication::clipboard()->text().split('\n');
+    QCOMPARE(lines.size(), FB_Lua_Trace_View::cMostRows);
+    QCOMPARE(lines.first(), QString("12"));
+    QCOMPARE(lines.last(), QString("x"));
+    QCOMPARE(changes.size(), 1);
+    view.append({"y"});
+    view.clear();
+    QTest::qWait(200);
+    QCOMPARE(view.rowCount(), 0);
   }
 
   void traceAndVariables() {

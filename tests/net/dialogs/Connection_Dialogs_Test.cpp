@@ -15,6 +15,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QTextEdit>
+#include <QTimer>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QUdpSocket>
@@ -177,14 +179,49 @@ private slots:
     QCOMPARE(rig.connections().mSelected, 0);
   }
 
+  void dialogsCloseWithTheProject() {
+    Rig rig;
+    QVERIFY(rig.mIsReady);
+    Main_Connection_Edit editor(rig.mSession, rig.mLink, 0, nullptr);
+    Dev_Connection_Assistant assistant(rig.mSession, rig.mSettings, rig.mLink, {0, 20}, nullptr);
+    editor.show();
+    assistant.show();
+    rig.mSession.close();
+    QVERIFY(!editor.isVisible() && !assistant.isVisible());
+  }
+
+  void theEditorKeepsAwayFromAListThatChanged() {
+    Rig rig;
+    QVERIFY(rig.mIsReady);
+    Main_Connection_Edit dialog(rig.mSession, rig.mLink, 0, nullptr);
+    dialog.show();
+    DB_Connections::ITEM other = rig.connections().mItems.front();
+    other.mName = u"Andere"_s;
+    QVERIFY(Connection_Edits::add(rig.mSession, other));
+    QVERIFY(Connection_Edits::move(rig.mSession, 1, 0));
+    QString told;
+    QTimer::singleShot(0, &dialog, [&told] {
+      auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      told = box->findChild<QTextEdit*>()->toPlainText();
+      box->reject();
+    });
+    button(dialog, u"Übernehmen"_s)->click();
+    QVERIFY2(told.contains(u"inzwischen"_s), qPrintable(told));
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(names(rig.connections()), (QStringList{u"Andere"_s, u"Steuerung"_s}));
+  }
+
   void progress_data() {
     QTest::addColumn<quint32>("reply");
-    QTest::newRow("accepted") << quint32(Command::Log_On_Accepted);
-    QTest::newRow("refused") << quint32(Command::Log_On_Refused);
-    QTest::newRow("cancelled") << quint32(0);
+    QTest::addColumn<bool>("isEndedElsewhere");
+    QTest::newRow("accepted") << quint32(Command::Log_On_Accepted) << false;
+    QTest::newRow("refused") << quint32(Command::Log_On_Refused) << false;
+    QTest::newRow("cancelled") << quint32(0) << false;
+    QTest::newRow("ended elsewhere") << quint32(0) << true;
   }
   void progress() {
     QFETCH(quint32, reply);
+    QFETCH(bool, isEndedElsewhere);
     Rig rig;
     QVERIFY(rig.mIsReady);
     Scripted_Peer peer;
@@ -208,8 +245,12 @@ private slots:
       QVERIFY(dialog.isVisible());
       QVERIFY(dialog.findChildren<QLabel*>().at(1)->text().contains(u"falsches Passwort"_s));
     }
-    dialog.reject();
-    QVERIFY(!dialog.isVisible());
+    if (isEndedElsewhere) {
+      rig.mLink.disconnectLink();
+    } else {
+      dialog.reject();
+    }
+    QTRY_VERIFY(!dialog.isVisible());
     QCOMPARE(rig.mLink.state(), Controller_Link::State::Offline);
     QVERIFY(!rig.mLink.client().isWanted());
   }

@@ -53,7 +53,7 @@ private slots:
     Commands_Rig rig;
     QVERIFY(rig.goOnline());
     QFile values(rig.mRig.folder() + u"/werte.zval"_s);
-    QVERIFY(values.open(QIODevice::WriteOnly) && values.write("x") == 1);
+    QVERIFY(values.open(QIODevice::WriteOnly) && values.write("1/2/3;00") == 8);
     values.close();
     // Whatever is asked: agreed, or this file, which is not there yet or is replaced.
     const bool sends = command == &Controller_Commands::uploadPersistentValues;
@@ -155,7 +155,8 @@ private slots:
     QVERIFY(std::any_of(labels.begin(), labels.end(),
                         [&](const QLabel* label) { return label->isVisible() && label->text() == text; }));
     QVERIFY(!dialog->findChild<QProgressBar*>()->isVisible());
-    // It can be tried again, and ends without a word.
+    // It can be tried again where that makes sense, and ends without a word.
+    QCOMPARE(Commands_Rig::button(*dialog, u"Erneut versuchen"_s)->isVisible(), how != u"lost");
     if (how == u"silence") {
       Commands_Rig::button(*dialog, u"Erneut versuchen"_s)->click();
       QVERIFY(rig.isHeard(quint32(number), 2));
@@ -291,14 +292,19 @@ private slots:
     QVERIFY(image);
     rig.mAnswers[Load] = Commands_Rig::stream(Load_Begin, Load_Data, image->toBytes());
     const QString path = rig.mRig.folder() + u"/geladen"_s;
-    // The open project is not replaced; a name without an ending gets one.
-    rig.mQuestions.mAnswers = {rig.mRig.path(), path};
+    // A project that is open here or elsewhere is not replaced; a name without an ending gets one.
+    Session_State elsewhere;
+    Project_Session another(elsewhere);
+    const QString used = rig.mRig.folder() + u"/anderes.zpro"_s;
+    QVERIFY(another.create(used, {}));
+    rig.mQuestions.mAnswers = {rig.mRig.path(), used, path};
     QSignalSpy loaded(rig.mCommands.get(), &Controller_Commands::projectLoaded);
     rig.mCommands->downloadProject();
     QVERIFY(loaded.wait());
     QCOMPARE(loaded.value(0).value(0).toString(), path + u".zpro"_s);
     QCOMPARE(rig.mPeer.last(Load), Commands_Rig::text(u"project"_s));
-    QCOMPARE(rig.mQuestions.mTold.size(), 1);
+    QCOMPARE(rig.mQuestions.mTold.size(), 2);
+    QVERIFY(rig.mQuestions.mTold.at(1).contains(u"in einem anderen Studio geöffnet"));
     Session_State state;
     Project_Session other(state);
     QVERIFY2(other.open(path + u".zpro"_s), qPrintable(other.lastError()));
@@ -308,7 +314,10 @@ private slots:
   void valuesGoIntoAFileAndBack() {
     Commands_Rig rig;
     QVERIFY(rig.goOnline());
-    const QByteArray bytes(200'000, 'w');
+    QByteArray bytes;
+    for (int sub = 0; sub < 255; ++sub) {
+      bytes += "1/2/" + QByteArray::number(sub) + ';' + QByteArray(500, '0') + '\n';
+    }
     rig.mAnswers[Persistent_Load] = Commands_Rig::stream(Persistent_Load_Begin, Persistent_Load_Data, bytes);
     const QString path = rig.mRig.folder() + u"/werte.zval"_s;
     rig.mQuestions.mAnswers = {u"Ja"_s, path};
@@ -330,6 +339,30 @@ private slots:
     QCOMPARE(sent, bytes);
     rig.mPeer.send(Persistent_Taken, Commands_Rig::text(u"12"_s));
     QVERIFY(rig.isTold(u"Die Steuerung hat 12 persistente Werte übernommen."_s));
+  }
+
+  /// What is no list of values does not travel.
+  void otherFilesStayHere() {
+    Commands_Rig rig;
+    QVERIFY(rig.goOnline());
+    rig.mQuestions.mAnswers = {rig.mRig.path(), u"Ja"_s};
+    rig.mCommands->uploadPersistentValues();
+    QVERIFY(rig.mQuestions.mTold.value(0).startsWith(u"Zeile 1 der persistenten Werte"));
+    QVERIFY(!rig.mCommands->isBusy());
+    QCOMPARE(rig.mPeer.count(Persistent_Send_Begin), 0);
+  }
+
+  /// Nobody here knows which project the controller runs then.
+  void cancelledWhileItStarts() {
+    Commands_Rig rig;
+    QVERIFY(rig.goOnline());
+    rig.mAnswers = {{Program_End, {{Program_Staged, {}}}}};
+    rig.mQuestions.mAnswers = {u"Ja"_s};
+    rig.mCommands->writeProject();
+    QVERIFY(rig.isHeard(Project_Start));
+    rig.mWindow.findChild<Exchange_Dialog*>()->reject();
+    QVERIFY(rig.isIdle());
+    QVERIFY(rig.mQuestions.mTold.constLast().startsWith(u"Die Steuerung hat den Start des Projekts noch nicht"));
   }
 
   void clocks_data() {

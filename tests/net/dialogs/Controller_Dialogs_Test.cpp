@@ -7,6 +7,7 @@
 #include "tests/net/dialogs/Commands_Rig.h"
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -104,6 +105,40 @@ private slots:
     QCOMPARE(rig.mDialogsSeen, 1); // none of it took long
   }
 
+  /// Whatever a controller says, it is shown as text, soon, and breaks nothing.
+  void hostileController() {
+    constexpr qint64 cMost = std::numeric_limits<qint64>::max();
+    Commands_Rig rig;
+    QVERIFY(rig.goOnline());
+    DB_Backup_List list;
+    list.mBackups.assign(50'000, {u"x"_s, -cMost, u"<h1>&fett</h1>"_s, QString(5'000, u'W'), -cMost});
+    rig.mAnswers[Backup_List] = {{Backup_List_Reply, list.toData()}};
+    QElapsedTimer time;
+    time.start();
+    rig.mCommands->backup();
+    QDialog& dialog = *Commands_Rig::shown();
+    QVERIFY(selectFirst(dialog));
+    QVERIFY2(time.elapsed() < 30'000, qPrintable(QString::number(time.elapsed())));
+    const QAbstractItemModel& model = *dialog.findChild<QTreeView*>()->model();
+    QCOMPARE(model.index(0, 1).data().toString(), u"<h1>&fett</h1>"_s);
+    QVERIFY(!model.index(0, 1).data(Qt::ToolTipRole).toString().contains(u"<h1>"));
+    dialog.reject();
+    QVERIFY(rig.isIdle());
+
+    DB_Controller_Informations informations;
+    informations.mName = QString(100'000, u'W');
+    informations.mProjectTimestamp = cMost;
+    rig.mAnswers[Information] = {{Information_Reply, informations.toData()}};
+    rig.mAnswers[Network_Settings] = {{Network_Settings_Reply, "x\x02\x03\x03"}};
+    rig.mAnswers[Clock_Get] = {{Clock_Reply, QByteArray::number(-cMost)}};
+    rig.mAnswers[Number_Get] = {{Number_Get_Reply, QByteArray::number(cMost)}};
+    rig.mAnswers[Group_Status] = {{Group_Status_Reply, "mMember_0.mIndex\x02-9\x03"}};
+    rig.mCommands->showInformation();
+    QDialog& shown = *Commands_Rig::shown();
+    QVERIFY(QTest::qWaitFor([&] { return Commands_Rig::button(shown, u"Nummer setzen"_s)->isEnabled(); }));
+    QVERIFY(shown.minimumSizeHint().width() < 4'000);
+  }
+
   void linkLostWhileTheListIsOpen() {
     Commands_Rig rig;
     QVERIFY(rig.goOnline());
@@ -115,6 +150,7 @@ private slots:
     QVERIFY(QTest::qWaitFor([remove] { return remove->isEnabled(); }));
     rig.mPeer.close();
     QVERIFY(isShown(dialog, u"Steuerung nicht verbunden"_s));
+    QVERIFY(!hasText(dialog, u"Keine Verbindung zur Steuerung"_s)); // once is enough
     QVERIFY(!remove->isEnabled());
     QVERIFY(rig.goOnline()); // and it is read again
     QVERIFY(QTest::qWaitFor([remove] { return remove->isEnabled(); }));
