@@ -60,12 +60,11 @@ void Program_Play::onFinished(Controller_Exchange::End end) {
     }
     emit ended();
     mSession.state().setOperatingMode(true);
-    const QString text = mWasSent ? tr("Bedienmodus: Die Steuerung führt das neue Programm aus.")
-                                  : tr("Bedienmodus: Die Steuerung führt dieses Programm bereits aus.");
-    emit info(isOwn ? text
-                    : text + u' ' +
-                          tr("Ihre Einstellungen und Ressourcen sind nicht die dieses Projekts; \"Bootprojekt "
-                             "erzeugen\" überträgt sie."));
+    // What fits into the status bar of a small window.
+    emit info(!isOwn ? tr("Bedienmodus: Das Programm läuft, die Einstellungen dieses Projekts fehlen der Steuerung: "
+                          "Bootprojekt erzeugen.")
+              : mWasSent ? tr("Bedienmodus: Die Steuerung führt das neue Programm aus.")
+                         : tr("Bedienmodus: Die Steuerung führt dieses Programm bereits aus."));
     return;
   }
   emit ended();

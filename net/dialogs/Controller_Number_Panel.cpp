@@ -87,8 +87,8 @@ QLayout* Controller_Number_Panel::makeOwn() {
 QLayout* Controller_Number_Panel::makePartners() {
   mModel.setRows(Partner_Model::rowsOf(mAccess.mSession.database().mProject.mControllers, {}));
   mPartners->setNames(tr("Steuerungen des Projekts"), QStringLiteral("net:mPartnerHeader"));
-  mPartners->setHint(tr("Das Projekt nennt keine weiteren Steuerungen. Sie stehen unter Projekt, Einstellungen, "
-                        "Verteiltes Projekt."));
+  mPartners->setHint(tr("Das Projekt nennt keine weiteren Steuerungen. Sie stehen im Menü Bearbeiten, "
+                        "Projekteinstellungen, Verteiltes Projekt."));
   mPartners->setMinimumHeight(cListHeight);
   mPartners->header().resizeSection(Partner_Model::cNumber, cNumberWidth);
   mPartners->header().resizeSection(Partner_Model::cName, cTextWidth);
