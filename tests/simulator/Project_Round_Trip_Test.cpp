@@ -139,7 +139,7 @@ private:
 
   static End run(Controller_Exchange& exchange) {
     exchange.start();
-    if (!QTest::qWaitFor([&exchange] { return exchange.isFinished(); }, 20'000)) {
+    if (!Simulator_Rig::waitFor([&exchange] { return exchange.isFinished(); }, 20'000)) {
       qFatal("no end");
     }
     return exchange.end();

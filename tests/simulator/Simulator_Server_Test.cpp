@@ -365,7 +365,7 @@ private:
   static QByteArray ask(Simulator_Rig& rig, quint32 command, const QByteArray& payload, quint32 reply) {
     Controller_Request request(rig.client(), command, payload, reply, {});
     request.start();
-    const bool isFinished = QTest::qWaitFor([&] { return request.isFinished(); }, 3000);
+    const bool isFinished = Simulator_Rig::waitFor([&] { return request.isFinished(); }, 3000);
     return isFinished && request.errorText().isEmpty() ? request.reply() : request.errorText().toUtf8() + '?';
   }
 };
