@@ -10,7 +10,7 @@ namespace {
 
 constexpr int cIconSize = 16;
 constexpr int cGap = 4;
-constexpr int cMostCharacters = 48; ///< of a name that would push out the other texts of the status bar
+constexpr int cMostCharacters = 64; ///< of a name that would push out the other texts of the status bar
 
 using State = Controller_Link::State;
 

@@ -13,8 +13,9 @@ class Main_Network_Client;
 struct Network_Message;
 
 /// Tries a connection without logging on: through the relay service first whether that knows the controller's DNS name
-/// (command 1000) and then reaches it (1008), directly whether the controller answers command 9. It borrows the client
-/// of the link and leaves it disconnected; it ends when the link is told to connect or disconnect meanwhile.
+/// (command 1000) and then reaches it (1008), directly whether the controller answers command 9. The service is the
+/// connection's own, or the built-in one when it names none. It borrows the client of the link and leaves it
+/// disconnected; it ends when the link is told to connect or disconnect meanwhile.
 ///
 /// Its owner connects the client's signals to the two slots. Its own signals come from the event loop.
 class Connection_Test : public QObject {

@@ -15,6 +15,7 @@ FB_Lua_Notice::FB_Lua_Notice(QWidget* parent) : QWidget(parent), mText(new QLabe
   auto* const icon = new QLabel;
   icon->setPixmap(Theme::icon(QStringLiteral("warning_white")).pixmap(cIconSize));
   mText->setWordWrap(true);
+  mText->setTextFormat(Qt::PlainText); // part of it may come from a controller
   auto* const layout = new QHBoxLayout(this);
   layout->setContentsMargins(cMargin, cMargin / 2, cMargin, cMargin / 2);
   layout->addWidget(icon);

@@ -48,6 +48,9 @@ Assistant_Name_Page::Assistant_Name_Page(QWidget* parent)
 }
 
 void Assistant_Name_Page::setConnection(const DB_Connections::ITEM& connection) {
+  if (connection.mAddress == mConnection.mAddress && connection.mSerialNumber == mConnection.mSerialNumber) {
+    return; // who went back for a test finds here what was typed
+  }
   mConnection = connection;
   mAddress->setText(connection.mAddress);
   mSerialNumber->setText(connection.mSerialNumber.isEmpty() ? tr("nicht bekannt") : connection.mSerialNumber);

@@ -15,6 +15,7 @@ class Assistant_Name_Page : public QWizardPage {
 public:
   explicit Assistant_Name_Page(QWidget* parent = nullptr);
 
+  /// What was typed for the same controller stays.
   void setConnection(const DB_Connections::ITEM& connection);
   [[nodiscard]] DB_Connections::ITEM connection() const;
   [[nodiscard]] bool isComplete() const override;

@@ -306,8 +306,9 @@ private slots:
     rig.mPeer.send(Script_Console, Script_Message::ofLine({QUuid::createUuid(), 1000, u"anderswo"_s}));
     const auto views = editor->findChildren<FB_Lua_Trace_View*>();
     QTRY_VERIFY(views.at(0)->rowCount() == 1 && views.at(1)->rowCount() == 1);
-    QTRY_VERIFY(std::ranges::any_of(editor->findChildren<QLabel*>(),
-                                    [](const QLabel* label) { return label->text().contains(u"Zeile 7: falsch"_s); }));
+    QTRY_VERIFY(std::ranges::any_of(editor->findChildren<QLabel*>(), [](const QLabel* label) {
+      return label->textFormat() == Qt::PlainText && label->text().contains(u"Zeile 7: falsch"_s);
+    }));
     editor->onSave();
     delete editor.data(); // before the reply
     QTRY_COMPARE(rig.mPeer.count(Script_Run), 2);

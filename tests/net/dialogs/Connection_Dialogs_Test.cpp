@@ -170,8 +170,13 @@ private slots:
     QTRY_VERIFY(!view.isRunning());
     QVERIFY(view.isRight() && next.isEnabled());
     dialog.next();
+    auto& name = *dialog.currentPage()->findChild<Checked_Line_Edit*>();
+    QCOMPARE(name.text(), u"Keller"_s);
+    name.setText(u"Haus"_s);
+    dialog.back();
+    dialog.next();
     dialog.accept();
-    QCOMPARE(names(rig.connections()), (QStringList{u"Steuerung"_s, u"Keller"_s}));
+    QCOMPARE(names(rig.connections()), (QStringList{u"Steuerung"_s, u"Haus"_s}));
     QCOMPARE(rig.connections().mSelected, 1);
     QCOMPARE(rig.connections().mItems.back().mAddress, peer.address());
     QVERIFY(rig.mSession.history().undo());
