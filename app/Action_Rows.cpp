@@ -392,7 +392,7 @@ constexpr Action_Row cRows[] = {
         .in(Menu::Online, 0).bar(Bar::Online).when(When::Open).changes(Effect::Dialog),
     Row("onControllerConnect", QT_TRANSLATE_NOOP("Action_Table", "Verbinden\tF11"), u'b', ":/icons/control_offline.png",
         QT_TRANSLATE_NOOP("Action_Table", "Verbindet mit der Steuerung oder trennt die Verbindung"))
-        .in(Menu::Online, 0).keys("F11").bar(Bar::Online).when(When::Open).changes(Effect::Link),
+        .in(Menu::Online, 0).checks(Check::Link).keys("F11").bar(Bar::Online).when(When::Open).changes(Effect::Link),
     Row("onControlPlay", QT_TRANSLATE_NOOP("Action_Table", "Play"), u'P', ":/icons/hs_simulation-play-gray.png",
         QT_TRANSLATE_NOOP("Action_Table", "Zwischen Bearbeitungsmodus und Bedienemodus umschalten"))
         .in(Menu::Online, 1).keys("F5").bar(Bar::Online).toolTip(cPlayTip).checks(Check::Operating).when(When::Open)

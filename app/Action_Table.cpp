@@ -221,6 +221,8 @@ bool Action_Table::isChecked(const Action_Row& row, const Action_State& state) {
     return state.mKeepsOutputs;
   case Action_Check::Order:
     return state.mIsOrderShown;
+  case Action_Check::Link:
+    return state.mIsLinkWanted;
   }
   return false;
 }

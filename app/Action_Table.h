@@ -63,6 +63,7 @@ enum class Action_Check {
   Values,    ///< the values at the pins are shown
   KeepOutputs,
   Order, ///< the order of execution is shown
+  Link,  ///< a link to the controller stands or is dialled
 };
 
 /// What an action that can be used changes.

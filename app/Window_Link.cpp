@@ -148,13 +148,8 @@ void Window_Link::onLost() {
   }
   mIsLost = true;
   onStateChanged();
-  const QString text = tr("Die Verbindung zu %1 ist verloren. F11 verbindet wieder.").arg(mConnection);
-  // What ran on it says so itself.
-  if (mPlay->isRunning() || mCommands->isBusy()) {
-    emit info(text);
-  } else {
-    tell(text);
-  }
+  // No box: it would come in the middle of whatever the user does, and keep F11 from working.
+  emit info(tr("Die Verbindung zu %1 ist verloren. F11 verbindet wieder.").arg(mConnection));
 }
 
 void Window_Link::tell(const QString& text) {

@@ -31,6 +31,17 @@ std::optional<Persistent_Values::Value> readLine(QByteArrayView line) {
   return Persistent_Values::Value{*address, QByteArray::fromHex(digits.toByteArray())};
 }
 
+/// The line's beginning without what a message cannot show.
+QString shown(QByteArrayView line) {
+  QString text = QString::fromUtf8(line.first(std::min(cShown, line.size())));
+  for (QChar& character : text) {
+    if (!character.isPrint() || character == QChar::ReplacementCharacter) {
+      character = u'·';
+    }
+  }
+  return text;
+}
+
 } // namespace
 
 QByteArray Persistent_Values::toBytes() const {
@@ -62,7 +73,7 @@ std::optional<Persistent_Values> Persistent_Values::fromBytes(QByteArrayView byt
                         "Persistent_Values", "Zeile %1 der persistenten Werte nennt eine Gruppenadresse nochmals: %2")
                   : QCoreApplication::translate("Persistent_Values",
                                                 "Zeile %1 der persistenten Werte ist nicht lesbar: %2");
-        *error = text.arg(QString::number(number), QString::fromUtf8(line.first(std::min(cShown, line.size()))));
+        *error = text.arg(QString::number(number), shown(line));
       }
       return std::nullopt;
     }

@@ -18,5 +18,8 @@ public:
   [[nodiscard]] bool isComplete() const override;
 
 private:
+  void onStateChanged();
+
   Connection_Test_View* mView;
+  bool mIsRunning = false;
 };

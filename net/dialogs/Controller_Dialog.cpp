@@ -4,8 +4,10 @@
 #include "net/Controller_Link.h"
 #include "ui/Theme.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
@@ -26,7 +28,8 @@ Controller_Dialog::Controller_Dialog(const Controller_Access& access, const QStr
       mQueue(new Request_Queue(access, this)),
       mRows(new QVBoxLayout),
       mNote(new QLabel),
-      mRefresh(new QPushButton(tr("&Aktualisieren"))) {
+      mRefresh(new QPushButton(tr("&Aktualisieren"))),
+      mClose(new QPushButton(tr("S&chließen"))) {
   setWindowTitle(title);
   setObjectName(name);
   setWindowModality(Qt::WindowModal);
@@ -34,14 +37,13 @@ Controller_Dialog::Controller_Dialog(const Controller_Access& access, const QStr
   mNote->setWordWrap(true);
   mRefresh->setShortcut(QKeySequence::Refresh);
   mRefresh->setAutoDefault(false);
-  auto* const close = new QPushButton(tr("S&chließen"));
-  close->setDefault(true);
+  mClose->setDefault(true);
 
   auto* const buttons = new QHBoxLayout;
   buttons->setSpacing(cGap);
   buttons->addWidget(mNote, 1);
   buttons->addWidget(mRefresh);
-  buttons->addWidget(close);
+  buttons->addWidget(mClose);
   auto* const layout = new QVBoxLayout(this);
   layout->setSpacing(cGroupGap);
   mRows->setSpacing(cGroupGap);
@@ -50,7 +52,7 @@ Controller_Dialog::Controller_Dialog(const Controller_Access& access, const QStr
   resize(size.boundedTo(screen()->availableSize()));
   restoreGeometry(mAccess.mSettings.viewState(name));
 
-  connect(close, &QPushButton::clicked, this, &QDialog::reject);
+  connect(mClose, &QPushButton::clicked, this, &QDialog::reject);
   connect(mRefresh, &QPushButton::clicked, this, &Controller_Dialog::readAgain);
   connect(mQueue, &Request_Queue::finished, this, &Controller_Dialog::updateAll);
   connect(mQueue, &Request_Queue::failed, this, [this](const QString& text) {
@@ -58,6 +60,20 @@ Controller_Dialog::Controller_Dialog(const Controller_Access& access, const QStr
     updateAll();
   });
   connect(&mAccess.mLink, &Controller_Link::stateChanged, this, &Controller_Dialog::onLinkChanged);
+}
+
+void Controller_Dialog::giveEnter(QLineEdit& field, QPushButton& button) {
+  mEnterButton = &button;
+  field.installEventFilter(this);
+}
+
+bool Controller_Dialog::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) {
+    mEnterButton->setDefault(true);
+  } else if (event->type() == QEvent::FocusOut) {
+    mClose->setDefault(true);
+  }
+  return QDialog::eventFilter(object, event);
 }
 
 Controller_Dialog::~Controller_Dialog() {

@@ -7,6 +7,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
 
@@ -42,6 +43,9 @@ protected:
   [[nodiscard]] QVBoxLayout& rows() { return *mRows; }
 
   void showEvent(QShowEvent* event) override;
+  /// While that field has the keyboard, Enter presses the button instead of closing the dialog.
+  void giveEnter(QLineEdit& field, QPushButton& button);
+  bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
   void onLinkChanged();
@@ -53,4 +57,6 @@ private:
   QVBoxLayout* mRows;
   QLabel* mNote;
   QPushButton* mRefresh;
+  QPushButton* mClose;
+  QPushButton* mEnterButton = nullptr;
 };

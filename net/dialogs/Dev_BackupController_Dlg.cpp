@@ -34,6 +34,8 @@ Dev_BackupController_Dlg::Dev_BackupController_Dlg(const Controller_Access& acce
   row->addWidget(mMake);
   rows().insertLayout(0, row);
   setTabOrder(mDescription, mMake);
+  giveEnter(*mDescription, *mMake);
+  mDescription->setFocus();
   setTabOrder(mMake, &list());
 
   addCommand(tr("In &Datei speichern…"), QStringLiteral("file_save_as_white"),

@@ -28,7 +28,7 @@ Dev_Connection_Assistant::Dev_Connection_Assistant(Project_Session& session, App
       mName(new Assistant_Name_Page) {
   setWindowTitle(tr("Verbindungsassistent"));
   setWizardStyle(QWizard::ClassicStyle);
-  setOptions(QWizard::NoBackButtonOnStartPage | QWizard::NoDefaultButton);
+  setOptions(QWizard::NoBackButtonOnStartPage);
   setButtonText(QWizard::BackButton, tr("&Zurück"));
   setButtonText(QWizard::NextButton, tr("&Weiter"));
   setButtonText(QWizard::FinishButton, tr("&Übernehmen"));

@@ -96,9 +96,10 @@ private slots:
     for (QLineEdit* const edit : dialog.findChildren<QLineEdit*>()) {
       if (edit->maxLength() == 200) {
         edit->setText(u" vor  dem Fest "_s);
+        edit->setFocus();
+        QTest::keyClick(edit, Qt::Key_Return);
       }
     }
-    QVERIFY(press(dialog, u"Sicherung erstellen"_s));
     QVERIFY(isShown(dialog, u"2 Sicherungen"_s));
     QCOMPARE(rig.mPeer.last(Backup_Make), Commands_Rig::text(u"vor dem Fest"_s));
     QVERIFY(hasText(dialog, u"Die Sicherung vom %1 ist erstellt."_s.arg(time(1'750'000'000))));
