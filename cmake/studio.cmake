@@ -108,6 +108,7 @@ function(studio_fuzz name)
   add_executable(fuzz_${name} ${CMAKE_SOURCE_DIR}/fuzz/${name}.cpp)
   set_target_properties(fuzz_${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/fuzz)
   studio_link(fuzz_${name} PRIVATE "${arg_DEPENDS}" "${arg_LIBS}")
+  set_target_properties(fuzz_${name} PROPERTIES AUTOMOC OFF) # none declares a QObject
   if(STUDIO_FUZZ)
     target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
     add_dependencies(fuzzers fuzz_${name})

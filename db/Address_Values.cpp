@@ -14,7 +14,7 @@ const Address_Value* Address_Values::find(const QUuid& key) const {
 }
 
 void Address_Values::set(const QUuid& key, Address_Value value) {
-  mValues.insert(key, std::move(value));
+  mValues[key] = std::move(value);
   note(key);
 }
 

@@ -149,7 +149,7 @@ Item Connection_Edits::proposal(const DB_Connections& connections) {
 }
 
 Edit_Result Connection_Edits::add(Project_Session& session, Item item, bool isSelected) {
-  if (const Edit_Result fault = faulty(item); !fault) {
+  if (Edit_Result fault = faulty(item); !fault) {
     return fault;
   }
   tidy(item);
@@ -165,7 +165,7 @@ Edit_Result Connection_Edits::change(Project_Session& session, int index, Item i
   if (!has(session, index)) {
     return noSuch(index);
   }
-  if (const Edit_Result fault = faulty(item); !fault) {
+  if (Edit_Result fault = faulty(item); !fault) {
     return fault;
   }
   tidy(item);

@@ -20,7 +20,7 @@ public:
 /// the announced number has come. Pure, no socket.
 class Byte_Stream {
 public:
-  static constexpr qsizetype cChunk = 64 * 1024;
+  static constexpr qsizetype cChunk = qsizetype(64) * 1024;
   static constexpr qint64 cMost = 1024LL * 1024 * 1024; ///< more is refused
 
   [[nodiscard]] static DB_Stream_Begin announce(QByteArrayView bytes, const QString& name = {});

@@ -57,16 +57,22 @@ QByteArray Telegram::toBytes() const {
 }
 
 Telegram Telegram::fromBytes(QByteArrayView bytes) {
+  Telegram telegram;
+  telegram.read(bytes);
+  return telegram;
+}
+
+void Telegram::read(QByteArrayView bytes) {
   const QByteArrayView record = bytes.first(std::min(bytes.size(), cSize));
   const QByteArrayView data = record.sliced(std::min(record.size(), cHead));
   std::array<char, cHead> head{};
   std::ranges::copy(record.first(record.size() - data.size()), head.begin());
-  Telegram telegram;
   for (const Word& word : cWords) {
-    telegram.*word.mField = qFromLittleEndian<quint32>(head.data() + word.mAt);
+    this->*word.mField = qFromLittleEndian<quint32>(head.data() + word.mAt);
   }
   const auto length = static_cast<qsizetype>(qFromLittleEndian<quint32>(head.data() + cLengthAt));
-  telegram.mIsValid = static_cast<quint8>(head[cValidAt]);
-  telegram.mData = data.first(std::min(data.size(), length)).toByteArray();
-  return telegram;
+  mIsValid = static_cast<quint8>(head[cValidAt]);
+  const QByteArrayView used = data.first(std::min(data.size(), length));
+  mData.resize(used.size());
+  std::ranges::copy(used, mData.begin());
 }

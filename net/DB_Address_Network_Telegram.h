@@ -56,6 +56,8 @@ struct DB_Address_Network_Telegram {
   [[nodiscard]] QByteArray toBytes() const;
   /// Reads at most 300 bytes; what is missing counts as 0. A data length above what is there is cut.
   [[nodiscard]] static DB_Address_Network_Telegram fromBytes(QByteArrayView bytes);
+  /// The same into this one, whose memory is used again.
+  void read(QByteArrayView bytes);
 
   friend bool operator==(const DB_Address_Network_Telegram&, const DB_Address_Network_Telegram&) = default;
 };

@@ -160,6 +160,7 @@ private:
   int mInSocket = 0;       ///< signals of the socket that are being handled
   quint64 mLinkCount = 0;  ///< tells whether the link is still the one it was before others were called
   Message_Reader mReader;
-  int mDelivered = 0;  ///< telegrams since the last yield
-  QElapsedTimer mPass; ///< since reading began
+  DB_Address_Network_Telegram mTelegram; ///< that last came, kept for its memory
+  int mDelivered = 0;                    ///< telegrams since the last yield
+  QElapsedTimer mPass;                   ///< since reading began
 };

@@ -117,7 +117,8 @@ void Main_Network_Client::dispatch(Network_Message& message, QByteArray& payload
   }
   if (message.mCommand == Controller_Command::Telegram) {
     if (message.mDataLength >= DB_Address_Network_Telegram::cHead) {
-      deliver(DB_Address_Network_Telegram::fromBytes(QByteArrayView(payload).first(message.mDataLength)), link);
+      mTelegram.read(QByteArrayView(payload).first(message.mDataLength));
+      deliver(mTelegram, link);
     }
     return;
   }

@@ -10,7 +10,7 @@
 namespace {
 
 /// What a payload's memory is kept for the next one.
-constexpr qsizetype cKept = 64 * 1024;
+constexpr qsizetype cKept = qsizetype(64) * 1024;
 
 } // namespace
 

@@ -16,7 +16,7 @@ public:
   /// Sends the next message; false when none is left.
   using Send_Next = std::function<bool()>;
   /// No further message while the socket holds so many bytes.
-  static constexpr qint64 cMostWaiting = 256 * 1024;
+  static constexpr qint64 cMostWaiting = 256LL * 1024;
 
   /// The client outlives the sender.
   explicit Paced_Sender(Main_Network_Client& client, QObject* parent = nullptr);

@@ -14,5 +14,5 @@ struct Simulator_Program {
   QHash<QUuid, DB_FB_Control> mScripts;        ///< by the GUIDs of their blocks
 
   /// Of an image that is none nothing is understood.
-  [[nodiscard]] static Simulator_Program read(const QByteArray& image);
+  [[nodiscard]] static Simulator_Program read(const QByteArray& bytes);
 };

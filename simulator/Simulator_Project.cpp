@@ -39,7 +39,7 @@ DB_Project Simulator_Project::header() const {
   return project;
 }
 
-void Simulator_Project::setHeader(DB_Project header) {
+void Simulator_Project::setHeader(const DB_Project& header) {
   mRecords[Controller_Command::Record_Project] = header.toData();
 }
 

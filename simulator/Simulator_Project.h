@@ -20,7 +20,7 @@ struct Simulator_Project {
 
   [[nodiscard]] bool isEmpty() const { return mRecords.isEmpty() && mProgram.isEmpty(); }
   [[nodiscard]] DB_Project header() const;
-  void setHeader(DB_Project header);
+  void setHeader(const DB_Project& header);
   /// What is wrong with the records (German); empty when they make a project.
   [[nodiscard]] QString fault() const;
   [[nodiscard]] DB_Controller_Project told(bool isRunning) const;

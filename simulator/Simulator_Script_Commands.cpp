@@ -13,7 +13,7 @@ using Simulator_Commands::Access;
 using Simulator_Commands::Request;
 
 constexpr qsizetype cGuid = 16;
-constexpr qsizetype cMostScript = 1024 * 1024;
+constexpr qsizetype cMostScript = qsizetype(1024) * 1024;
 
 void script(const Request& request) {
   if (request.mPayload.size() < cGuid) {

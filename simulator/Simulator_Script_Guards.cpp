@@ -1,11 +1,12 @@
 #include "simulator/Simulator_Script_Guards.h"
 
+#include <QByteArrayView>
+
 #include <lua.hpp>
 
 #include <chrono>
 #include <cmath>
 #include <cstddef>
-#include <cstring>
 #include <new>
 
 // An error of the language leaves a function without its destructors: no function here has objects that need them.
@@ -18,6 +19,7 @@ constexpr int cStep = 1000; // instructions from one look at the clock to the ne
 constexpr int cMostSteps = 5000;
 constexpr Clock::duration cMostTime = std::chrono::seconds(2);
 constexpr double cMostComparisons = 2e8;
+constexpr QByteArrayView cRepetitions = "*+-?";
 constexpr lua_Integer cMostRepeated = 1 << 25;  // more than the memory holds anyway
 constexpr lua_Integer cMostEntries = 4'000'000; // the same
 constexpr const char* cTooMany = "Die Tabelle ist zu lang.";
@@ -66,7 +68,7 @@ int matching(lua_State* lua) {
   const char* const pattern = luaL_checklstring(lua, 2, &patternSize);
   double comparisons = static_cast<double>(size) + 1;
   for (std::size_t i = 0; i < patternSize && comparisons <= cMostComparisons; ++i) {
-    if (std::memchr("*+-?", pattern[i], 4)) {
+    if (cRepetitions.contains(pattern[i])) {
       comparisons *= static_cast<double>(size) + 1;
     }
   }

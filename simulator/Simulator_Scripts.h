@@ -20,7 +20,7 @@ public:
   explicit Simulator_Scripts(Simulator_Controller& controller, QObject* parent = nullptr);
 
   /// In place of the one that the block has. What is wrong with it; empty when it runs.
-  [[nodiscard]] QString run(const QUuid& block, const QString& script);
+  [[nodiscard]] QString run(const QUuid& block, const QString& text);
   void clear();
 
 signals:

@@ -22,12 +22,12 @@ class Simulator_Session : public QObject {
   Q_OBJECT
 
 public:
-  static constexpr quint32 cMostBeforeLogOn = 64 * 1024;
-  static constexpr int cMostRefusedLogOns = 3;             ///< then the connection ends
-  static constexpr int cLogOnMs = 60'000;                  ///< without a log-on until then it ends, too
-  static constexpr qint64 cMostWaiting = 16 * 1024 * 1024; ///< bytes to go out above which no request is taken
-  static constexpr qint64 cMostTold = 64 * 1024 * 1024;    ///< of them, what was told without being asked for
-  static constexpr qint64 cReadBuffer = 1024 * 1024;
+  static constexpr quint32 cMostBeforeLogOn = 64U * 1024;
+  static constexpr int cMostRefusedLogOns = 3;               ///< then the connection ends
+  static constexpr int cLogOnMs = 60'000;                    ///< without a log-on until then it ends, too
+  static constexpr qint64 cMostWaiting = 16LL * 1024 * 1024; ///< bytes to go out above which no request is taken
+  static constexpr qint64 cMostTold = 64LL * 1024 * 1024;    ///< of them, what was told without being asked for
+  static constexpr qint64 cReadBuffer = 1024LL * 1024;
 
   /// Takes the socket over. The server outlives it.
   Simulator_Session(QTcpSocket* socket, Simulator_Server& server, QObject* parent = nullptr);

@@ -25,8 +25,7 @@ Dev_Connect_Progress_Dlg::Dev_Connect_Progress_Dlg(Controller_Link& link, QWidge
       mTarget(link.connectionText()),
       mTitle(new QLabel),
       mDetail(new QLabel),
-      mProgress(new QProgressBar),
-      mButton(nullptr) {
+      mProgress(new QProgressBar) {
   setWindowTitle(tr("Verbinden"));
   setMinimumWidth(cWidth);
   for (QLabel* const label : {mTitle, mDetail}) {

@@ -40,5 +40,5 @@ private:
   QLabel* mTitle;
   QLabel* mDetail;
   QProgressBar* mProgress;
-  QPushButton* mButton;
+  QPushButton* mButton = nullptr;
 };

@@ -42,8 +42,6 @@ Dev_Controller_Dlg::Dev_Controller_Dlg(const Controller_Access& access, QWidget*
     : Controller_Dialog(access, tr("Steuerungsinformationen"), QStringLiteral("net:Dev_Controller_Dlg"), cSize, parent),
       mReader(new Controller_Clock_Reader(access, queue(), this)),
       mNumbers(new Controller_Number_Panel(access, queue(), runner())),
-      mTime(nullptr),
-      mDifference(nullptr),
       mSetClock(new QPushButton(tr("Uhrzeit &stellen"))) {
   auto* const columns = new QHBoxLayout;
   columns->setSpacing(cGroupGap);

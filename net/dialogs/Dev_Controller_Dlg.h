@@ -34,7 +34,7 @@ private:
   Controller_Number_Panel* mNumbers;
   QList<QLabel*> mInformation; ///< in the order of the rows
   QList<QLabel*> mNetwork;
-  QLabel* mTime;
-  QLabel* mDifference;
+  QLabel* mTime = nullptr;
+  QLabel* mDifference = nullptr;
   QPushButton* mSetClock;
 };

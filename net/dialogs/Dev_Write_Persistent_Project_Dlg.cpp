@@ -49,6 +49,6 @@ void Dev_Write_Persistent_Project_Dlg::onCancelled() {
                                    "ausführt, zeigt \"Projekt mit Steuerung vergleichen\".")
                               : QString();
   if (text.isEmpty() || tell(text)) {
-    QDialog::reject();
+    Exchange_Dialog::reject();
   }
 }
