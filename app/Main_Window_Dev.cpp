@@ -25,6 +25,7 @@
 #include "fb/FB_Block_Editors.h"
 #include "fb/FB_Page.h"
 #include "fb/FB_Page_List_Commands.h"
+#include "mcp/MCP_Server.h"
 #include "ui/Address_Search_Dialog.h"
 #include "ui/Address_View.h"
 #include "ui/Invalid_Address_Dialog.h"
@@ -48,7 +49,8 @@ constexpr int cOverviewPercent = 80;
 
 } // namespace
 
-Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& settings, Session_State& state, bool isKiosk)
+Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& settings, Session_State& state, bool isKiosk,
+                                 int mcpPort)
     : Main_Window_Base(session, settings, isKiosk),
       mState(state),
       mDialogs(std::make_unique<Window_Dialogs>(*this)),
@@ -77,6 +79,7 @@ Main_Window_Dev::Main_Window_Dev(Project_Session& session, App_Settings& setting
   connectProjectLists();
   connectPalette();
   makeAutosave();
+  startAssistant(mcpPort < 0 ? mSettings.value(Setting::McpPort) : mcpPort);
   updateActions();
   updateProjectLists();
 }
@@ -87,6 +90,7 @@ Main_Window_Dev::~Main_Window_Dev() {
                                                                            &mState, mEditTarget, &pageTabs()}) {
     disconnect(sender, nullptr, this, nullptr);
   }
+  delete mServer; // no request any more
   mLink->shutDown();
   delete takeCentralWidget();
 }

@@ -9,6 +9,7 @@
 
 class Address_Exchange;
 class Address_Search_Dialog;
+class Assistant_Studio;
 class Command_Palette;
 class Dev_Select_Connection;
 class Edit_Target;
@@ -19,6 +20,7 @@ class FB_Page;
 class FB_Page_List_Commands;
 class FB_Usages_Dialog;
 class Invalid_Address_Dialog;
+class MCP_Server;
 class Project_Lifecycle;
 class Project_Search_Dialog;
 class QLabel;
@@ -34,11 +36,15 @@ class Main_Window_Dev : public Main_Window_Base {
   Q_OBJECT
 
 public:
-  /// All of them must outlive the window. On a kiosk the operating mode is on.
-  Main_Window_Dev(Project_Session& session, App_Settings& settings, Session_State& state, bool isKiosk);
+  /// All of them must outlive the window. On a kiosk the operating mode is on. `mcpPort` is the port of the assistant's
+  /// server for this run, -1 for that of the settings.
+  Main_Window_Dev(Project_Session& session, App_Settings& settings, Session_State& state, bool isKiosk,
+                  int mcpPort = -1);
   ~Main_Window_Dev() override;
 
   [[nodiscard]] Project_Lifecycle& lifecycle() { return *mLifecycle; }
+  /// The studio as an assistant's tools see it.
+  [[nodiscard]] Assistant_Studio& assistant() { return *mAssistant; }
 
 public slots:
   void onMenuFileNew();
@@ -134,6 +140,7 @@ private:
   void toggle(Setting setting);
   void connectPageCommands();
   void connectLink();
+  void startAssistant(int port);
   void connectLogicPage(FB_Page& page);
   void followSelection(FB_Page& page);
   void followStep(const std::vector<History::Applied>& records);
@@ -162,6 +169,8 @@ private:
   FB_Page_List_Commands* mPageCommands;
   FB_Block_Editors* mEditors;
   Window_Link* mLink;
+  Assistant_Studio* mAssistant = nullptr;
+  MCP_Server* mServer = nullptr; ///< none when no port is set
   Edit_Target* mEditTarget;
   Command_Palette* mPalette;
   QLabel* mModeMark = nullptr;                     ///< seen while the operating mode is on

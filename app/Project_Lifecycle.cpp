@@ -64,7 +64,7 @@ public:
     if (owner.mIsBusy) {
       return;
     }
-    if (owner.mState.toolCallRunning()) {
+    if (owner.mState.toolCallRunning() && !owner.mIsAssistant) {
       emit owner.info(tr("Nicht möglich, solange der KI-Assistent arbeitet."));
       return;
     }
@@ -102,15 +102,21 @@ bool Project_Lifecycle::newProject() {
   }
   const QString suggestion = folder() + u'/' + tr("Neues Projekt") + cExtension;
   const QString chosen = mDialogs.chooseSaveFile(tr("Neues Projekt"), suggestion, filter());
-  return !chosen.isEmpty() && create(withExtension(chosen));
+  return !chosen.isEmpty() && isReplacingAccepted(withExtension(chosen)) && create(withExtension(chosen), {});
 }
 
-bool Project_Lifecycle::create(const QString& path) {
-  if (!isReplacingAccepted(path) || !isOverwritingAccepted(path)) {
+bool Project_Lifecycle::newProject(const QString& path, const New_Project::Options& options) {
+  const Operation operation(*this);
+  return operation && settleUnsaved() && create(withExtension(path), options);
+}
+
+bool Project_Lifecycle::create(const QString& path, New_Project::Options options) {
+  if (!isOverwritingAccepted(path)) {
     return false;
   }
-  New_Project::Options options;
-  options.mConnectionName = mSettings.text(Setting::AppDefaultConnection);
+  if (options.mConnectionName.isEmpty()) {
+    options.mConnectionName = mSettings.text(Setting::AppDefaultConnection);
+  }
   if (!mSession.create(path, options)) {
     mDialogs.showMessage(tr("Fehler beim Speichern der Datei") + u'\n' + mSession.lastError());
     return false;
@@ -197,14 +203,19 @@ bool Project_Lifecycle::saveAs() {
   if (chosen.isEmpty()) {
     return false;
   }
-  const QString path = withExtension(chosen);
+  return saveCopy(withExtension(chosen));
+}
+
+bool Project_Lifecycle::saveAs(const QString& path) {
+  const Operation operation(*this);
+  return operation && mSession.isOpen() && saveCopy(withExtension(path));
+}
+
+bool Project_Lifecycle::saveCopy(const QString& path) {
   if (QFileInfo(path) == QFileInfo(mSession.path())) {
     return saveFile();
   }
-  if (!isReplacingAccepted(path)) {
-    return false;
-  }
-  if (!isOverwritingAccepted(path)) {
+  if (!isReplacingAccepted(path) || !isOverwritingAccepted(path)) {
     return false;
   }
   if (!finishSaving(mSession.saveAs(path))) {
@@ -223,6 +234,13 @@ bool Project_Lifecycle::close() {
   mSession.close();
   emit info(tr("Geschlossen: %1").arg(native(path)));
   return true;
+}
+
+bool Project_Lifecycle::asAssistant(const std::function<bool()>& operation) {
+  mIsAssistant = true;
+  const bool isDone = operation();
+  mIsAssistant = false;
+  return isDone;
 }
 
 bool Project_Lifecycle::mayQuit() {

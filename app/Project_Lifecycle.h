@@ -25,17 +25,25 @@ public:
                     QObject* parent = nullptr);
 
   bool newProject();
+  /// Without a file dialog.
+  bool newProject(const QString& path, const New_Project::Options& options);
   bool open();
   bool open(const QString& path);
   /// The demo project in its place in the user's data folder, built there when it is missing or cannot be read.
   bool openDemo();
   bool save();
   bool saveAs();
+  /// Without a file dialog; the extension is added when it is missing.
+  bool saveAs(const QString& path);
   /// For who saves without this: hands over what is typed and asks what `save` asks before. False calls it off.
   bool maySave();
   bool close();
   /// Asks about unsaved changes; the project stays open.
   bool mayQuit();
+
+  /// Runs an operation for an assistant's tool call, which else keeps every operation from starting. What would be
+  /// asked is answered with its default then, see Message_Box.
+  bool asAssistant(const std::function<bool()>& operation);
 
   /// Asked at the beginning of each operation, before anything else: whoever edits in a window of its own hands over
   /// what is typed there. False calls the operation off.
@@ -81,7 +89,8 @@ private:
   [[nodiscard]] bool mayOverwrite();
   bool saveFile();
   bool finishSaving(Project_Session::Save_Result result);
-  bool create(const QString& path);
+  bool create(const QString& path, New_Project::Options options);
+  bool saveCopy(const QString& path);
   void remember(const QString& path);
   [[nodiscard]] QString folder() const;
 
@@ -92,5 +101,6 @@ private:
   std::function<bool()> mMayBegin;
   bool mIsBusy = false;
   bool mIsKiosk = false;
-  bool mIsDamaged = false; ///< the project file holds what could not be read and would be lost by saving
+  bool mIsAssistant = false; ///< the operation that starts is the tool call's own
+  bool mIsDamaged = false;   ///< the project file holds what could not be read and would be lost by saving
 };

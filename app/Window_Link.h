@@ -43,6 +43,8 @@ public:
 
   /// Dials with the project's selected connection, or ends the link, whether it stands or not yet.
   void toggle();
+  /// Gives up what is on its way and ends the link.
+  void end();
   [[nodiscard]] bool isWanted() const { return mLink->state() != Controller_Link::State::Offline; }
   [[nodiscard]] bool isOnline() const { return mLink->isOnline(); }
   /// The connected controller's own number; none without a link, and for one that has none.
@@ -64,7 +66,6 @@ private:
   void connectLink();
   void connectScripts();
   void connectPlay();
-  void end();
   void onStateChanged();
   void onLost();
   void tell(const QString& text);

@@ -103,7 +103,7 @@ int main(int argc, char* argv[]) {
 
   // Declared so that the end destroys the window first, then the project, then the settings.
   Project_Session session(Session_State::process());
-  Main_Window_Dev window(session, *settings, Session_State::process(), line.mKiosk);
+  Main_Window_Dev window(session, *settings, Session_State::process(), line.mKiosk, line.mMcpPort);
   window.showAsRemembered();
   if (!settings->warning().isEmpty()) {
     window.showInfo(settings->warning());

@@ -26,11 +26,13 @@ void Session_State::beginToolCall(qint64 nowMs) {
   mToolCallSeen = true;
   mToolCallEndMs = nowMs;
   mSuppressedMessage.clear();
+  emit toolCallRunningChanged(true);
 }
 
 void Session_State::endToolCall(qint64 nowMs) {
   mToolCallRunning = false;
   mToolCallEndMs = nowMs;
+  emit toolCallRunningChanged(false);
 }
 
 bool Session_State::assistantActive(qint64 nowMs) const {

@@ -35,6 +35,7 @@ public:
 
 signals:
   void operatingModeChanged(bool on);
+  void toolCallRunningChanged(bool isRunning);
 
 private:
   bool mOperatingMode = false;

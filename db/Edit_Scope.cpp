@@ -48,3 +48,8 @@ void Edit_Scope::deleted(Undo_Adapter& owner, const QUuid& id) {
     mHistory.record({&owner, History::Kind::Deleted, id, owner.placeOf(id), std::move(record)});
   }
 }
+
+void Edit_Scope::revert() {
+  Q_ASSERT(mIsAllowed);
+  mHistory.revertScope();
+}

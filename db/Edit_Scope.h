@@ -49,6 +49,10 @@ public:
   /// Before a record is deleted.
   void deleted(Undo_Adapter& owner, const QUuid& id);
 
+  /// Takes back what was changed since the outermost scope was entered, as if nothing had been: for an edit of several
+  /// parts of which a later one is refused. Of a scope of its own only.
+  void revert();
+
 private:
   History& mHistory;
   QString mRefusal;

@@ -74,6 +74,15 @@ void History::leaveScope() {
   }
 }
 
+/// Its own step holds nothing from before it.
+void History::revertScope() {
+  Q_ASSERT(mOwnScope);
+  Step step{mPendingText, std::exchange(mPending, {}), 0};
+  mPendingKnown.clear();
+  static_cast<void>(applyStep(step)); // nobody is led anywhere
+  emit changed();
+}
+
 /// Of an entry that modified a record and left it at its place.
 bool History::isWithoutEffect(const Entry& entry) {
   const std::unique_ptr<DB_Data_Base> present = entry.mOwner->find(entry.mId);

@@ -108,6 +108,7 @@ private:
   void record(Entry entry, bool isAgain = false);
   void enterScope(const QString& text, bool isOwn, quint64 merge);
   void leaveScope();
+  void revertScope();
   [[nodiscard]] static bool isWithoutEffect(const Entry& entry);
   static void dropWithoutEffect(Entries& entries);
   [[nodiscard]] static bool isOnlyModified(const Entries& entries);

@@ -1,0 +1,5 @@
+#include "mcp/tools/Address_Tools.h"
+
+std::vector<MCP_Tool> Address_Tools::all() {
+  return {};
+}

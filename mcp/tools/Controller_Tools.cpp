@@ -1,0 +1,5 @@
+#include "mcp/tools/Controller_Tools.h"
+
+std::vector<MCP_Tool> Controller_Tools::all() {
+  return {};
+}

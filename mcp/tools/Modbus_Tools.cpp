@@ -1,0 +1,5 @@
+#include "mcp/tools/Modbus_Tools.h"
+
+std::vector<MCP_Tool> Modbus_Tools::all() {
+  return {};
+}
