@@ -54,7 +54,9 @@ public:
 /// Calls tools as an assistant does, on a project of its own.
 class Tool_Rig : public Session_Rig {
 public:
-  Tool_Rig() {
+  explicit Tool_Rig(MCP_Catalogue catalogue = MCP_Catalogue())
+      : mStudio(mSession),
+        mDispatcher(mStudio, mState, std::move(catalogue)) {
     if (!create()) {
       qFatal("no project");
     }
@@ -76,6 +78,6 @@ public:
     return call(tool, arguments).value(QStringLiteral("error")).toString();
   }
 
-  Windowless_Studio mStudio{mSession};
-  MCP_Dispatcher mDispatcher{mStudio, mState};
+  Windowless_Studio mStudio;
+  MCP_Dispatcher mDispatcher;
 };
