@@ -10,7 +10,7 @@
 #include "fb/FB_Block_Editors.h"
 #include "fb/model/FB_Page_Edits.h"
 #include "ui/Message_Dialog.h"
-#include "ui/Project_Tree_View.h"
+#include "ui/Page_Tree_View.h"
 
 #include <QAction>
 #include <QApplication>
@@ -118,7 +118,11 @@ class Assistant_Test : public QObject {
 
 private slots:
   void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-  void cleanup() { Session_State::process().setOperatingMode(false); }
+  void cleanup() {
+    if (Session_State::process().toolCallRunning()) { // a failed test
+      Session_State::process().endToolCall(now());
+    }
+  }
 
   void worksOnTheWindow() {
     Assistant_Rig rig;
@@ -136,7 +140,7 @@ private slots:
     QVERIFY(rig.tabs().isVisible());
     QCOMPARE(rig.tabs().currentPage().toString(), page[u"guid"_s].toString());
     QCOMPARE(rig.tabs().tabText(rig.tabs().currentIndex()), u"Visu quer"_s);
-    QCOMPARE(rig.mWindow.findChild<Project_Tree_View*>()->currentIndex().data().toString(), u"Visu quer"_s);
+    QCOMPARE(rig.mWindow.findChild<Page_Tree_View*>()->currentIndex().data().toString(), u"Visu quer"_s);
   }
 
   void undoneByTheUser() {
@@ -287,6 +291,8 @@ private slots:
     if (command == "drop") {
       QMimeData data;
       data.setUrls({QUrl::fromLocalFile(rig.path(u"Zwei.zpro"_s))});
+      QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(&rig.mWindow, &enter);
       QDropEvent drop({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
       QApplication::sendEvent(&rig.mWindow, &drop);
     } else if (command == "recent") {
