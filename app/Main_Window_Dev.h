@@ -135,6 +135,7 @@ private:
   void updateActions();
   void updateProjectLists();
   void onOpenPath(const QString& path);
+  void openLoaded(const QString& path);
   void onCommand(const QString& slot);
   void onBuildEditors(int percent);
   void toggle(Setting setting);

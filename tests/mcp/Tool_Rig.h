@@ -13,6 +13,7 @@ public:
   explicit Windowless_Studio(Project_Session& session) : mSession(session) {}
 
   [[nodiscard]] Project_Session& session() override { return mSession; }
+  [[nodiscard]] bool hasWindow() const override { return mHasWindow; }
   Edit_Result saveProject() override {
     return mSession.save() == Project_Session::Save_Result::Saved ? Edit_Result::done()
                                                                   : Edit_Result::refused(mSession.lastError());
@@ -48,6 +49,7 @@ public:
   Project_Session& mSession;
   Controller_Link* mLink = nullptr;
   QUuid mShownPage;
+  bool mHasWindow = true;
   bool mIsRecordingDialogOpen = false;
 };
 
