@@ -6,13 +6,15 @@
 #include "app/Window_Link.h"
 #include "base/App_Settings.h"
 #include "mcp/MCP_Server.h"
+#include "ui/Dev_Statistic_Dlg.h"
 
 #include <QStatusBar>
 
 void Main_Window_Dev::startAssistant(int port) {
-  mAssistant = new Assistant_Studio(
-      {mSession, mState, *mLifecycle, *mLink, [this](const QUuid& page) { showPage(page); }, [] { return false; }},
-      this);
+  mAssistant =
+      new Assistant_Studio({mSession, mState, *mLifecycle, *mLink, [this](const QUuid& page) { showPage(page); },
+                            [this] { return findChild<Dev_Statistic_Dlg*>() != nullptr; }},
+                           this);
   if (port <= 0 || isKiosk()) {
     return;
   }

@@ -98,6 +98,7 @@ public slots:
   void onProgramRasterVertical();
   void onProgramAlign_Raster();
   void onEdit_MultipleUsedOutputs();
+  void onEditStatistic();
   void onControllerList();
   void onControllerSelectConnection();
   void onControllerConnect();
