@@ -22,6 +22,7 @@ public:
     Window_Link& mLink;
     std::function<void(const QUuid& page)> mShowPage;
     std::function<bool()> mIsRecordingDialogOpen;
+    std::function<void()> mCommitEdits; ///< what the user is typing becomes part of the project
   };
   explicit Assistant_Studio(Parts parts, QObject* parent = nullptr);
 
@@ -42,6 +43,7 @@ public:
   void runOutsideReading(QObject* receiver, const std::function<void()>& what) override;
 
 private:
+  void followLink();
   [[nodiscard]] Edit_Result run(const std::function<bool()>& operation);
 
   Parts mParts;

@@ -1,5 +1,6 @@
 // What the main window's assistant server works on.
 #include "app/Assistant_Studio.h"
+#include "app/Edit_Target.h"
 #include "app/Main_Window_Dev.h"
 #include "app/Project_Lifecycle.h"
 #include "app/Window_Link.h"
@@ -7,9 +8,10 @@
 #include "mcp/MCP_Server.h"
 
 void Main_Window_Dev::startAssistant(int port) {
-  mAssistant = new Assistant_Studio(
-      {mSession, mState, *mLifecycle, *mLink, [this](const QUuid& page) { showPage(page); }, [] { return false; }},
-      this);
+  mAssistant =
+      new Assistant_Studio({mSession, mState, *mLifecycle, *mLink, [this](const QUuid& page) { showPage(page); },
+                            [] { return false; }, [this] { mEditTarget->commit(); }},
+                           this);
   if (port <= 0 || isKiosk()) {
     return;
   }
