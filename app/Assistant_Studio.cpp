@@ -2,10 +2,12 @@
 
 #include "app/Program_Play.h"
 #include "app/Project_Lifecycle.h"
+#include "app/Project_Write.h"
 #include "app/Window_Link.h"
 #include "base/Session_State.h"
 #include "base/Version.h"
 #include "net/Main_Network_Client.h"
+#include "net/dialogs/Controller_Commands.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -13,6 +15,11 @@
 #include <QWidget>
 
 namespace {
+
+QString busy() {
+  return QStringLiteral("Im Studio laeuft gerade ein anderer Vorgang mit der Steuerung - bitte das Ende abwarten und "
+                        "erneut aufrufen");
+}
 
 /// What keeps the project from being replaced: the event loop runs in the middle of what the user does, and that goes
 /// on with pages of the project afterwards. Empty when nothing does.
@@ -48,7 +55,15 @@ QString faultOf(const QString& path) {
 Assistant_Studio::Assistant_Studio(Parts parts, QWidget* window)
     : MCP_Studio(window),
       mParts(std::move(parts)),
-      mWindow(window) {}
+      mWindow(window) {
+  followLink();
+}
+
+void Assistant_Studio::followLink() {
+  connect(&mParts.mLink.play(), &Program_Play::settled, this, &MCP_Studio::playSettled);
+  connect(&mParts.mLink.write(), &Project_Write::started, this, &MCP_Studio::projectStarted);
+  connect(&mParts.mLink.write(), &Project_Write::ended, this, &MCP_Studio::projectWriteEnded);
+}
 
 bool Assistant_Studio::hasWindow() const {
   const bool isClosed = mWindow->isHidden() && mWindow->testAttribute(Qt::WA_WState_ExplicitShowHide);
@@ -136,17 +151,25 @@ Controller_Link* Assistant_Studio::link() {
 
 Edit_Result Assistant_Studio::connectLink() {
   QString error;
-  return mParts.mLink.link().connectToSelected(&error) ? Edit_Result::done() : Edit_Result::refused(error);
+  return mParts.mLink.dialQuietly(&error) ? Edit_Result::done() : Edit_Result::refused(error);
 }
 
 void Assistant_Studio::disconnectLink() {
-  mParts.mLink.end();
+  if (mParts.mLink.mayEnd()) {
+    mParts.mLink.end();
+  }
 }
 
 Edit_Result Assistant_Studio::setPlayMode(bool on, bool force) {
-  Q_UNUSED(on)
-  Q_UNUSED(force)
-  return Edit_Result::refused(QStringLiteral("Noch nicht verfuegbar"));
+  Program_Play& play = mParts.mLink.play();
+  if (on && (mParts.mLink.isSending() || (mParts.mLink.isOnline() && mParts.mLink.commands().isBusy()))) {
+    return Edit_Result::refused(busy());
+  }
+  if (on && mParts.mCommitEdits) {
+    mParts.mCommitEdits();
+  }
+  play.setOn(on, force);
+  return Edit_Result::done();
 }
 
 bool Assistant_Studio::isPlayPending() const {
@@ -154,11 +177,28 @@ bool Assistant_Studio::isPlayPending() const {
 }
 
 Edit_Result Assistant_Studio::writeProject() {
-  return Edit_Result::refused(QStringLiteral("Noch nicht verfuegbar"));
+  Window_Link& link = mParts.mLink;
+  if (!link.isOnline()) {
+    return Edit_Result::refused(QStringLiteral("Keine Verbindung zur Steuerung"));
+  }
+  if (link.write().isRunning()) {
+    return Edit_Result::refused(
+        QStringLiteral("Das Projekt wird bereits auf die Steuerung geschrieben - bitte das Ende "
+                       "abwarten"));
+  }
+  if (link.isSending() || link.commands().isBusy()) {
+    return Edit_Result::refused(busy());
+  }
+  // The transfer saves it: what saving would ask is asked, and its default is to leave the file alone.
+  if (const Edit_Result mayBegin = run([this] { return mParts.mLifecycle.maySave(); }); !mayBegin) {
+    return mayBegin;
+  }
+  link.write().start();
+  return Edit_Result::done();
 }
 
 bool Assistant_Studio::isWritingProject() const {
-  return false;
+  return mParts.mLink.write().isRunning();
 }
 
 bool Assistant_Studio::isRecordingDialogOpen() const {

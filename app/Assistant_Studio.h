@@ -24,6 +24,7 @@ public:
     Window_Link& mLink;
     std::function<void(const QUuid& page)> mShowPage;
     std::function<bool()> mIsRecordingDialogOpen;
+    std::function<void()> mCommitEdits; ///< what the user is typing becomes part of the project
   };
   /// `window` outlives it, too.
   explicit Assistant_Studio(Parts parts, QWidget* window);
@@ -46,6 +47,7 @@ public:
   void runOutsideReading(QObject* receiver, const std::function<void()>& what) override;
 
 private:
+  void followLink();
   using Operation = std::function<bool()>;
   [[nodiscard]] Edit_Result run(const Operation& operation);
   [[nodiscard]] Edit_Result replace(const Operation& operation);

@@ -1,6 +1,7 @@
 // What the main window's assistant server works on.
 #include "app/Assistant_Status.h"
 #include "app/Assistant_Studio.h"
+#include "app/Edit_Target.h"
 #include "app/Main_Window_Dev.h"
 #include "app/Project_Lifecycle.h"
 #include "app/Window_Link.h"
@@ -11,10 +12,10 @@
 #include <QStatusBar>
 
 void Main_Window_Dev::startAssistant(int port) {
-  mAssistant =
-      new Assistant_Studio({mSession, mState, *mLifecycle, *mLink, [this](const QUuid& page) { showPage(page); },
-                            [this] { return findChild<Dev_Statistic_Dlg*>() != nullptr; }},
-                           this);
+  mAssistant = new Assistant_Studio(
+      {mSession, mState, *mLifecycle, *mLink, [this](const QUuid& page) { showPage(page); },
+       [this] { return findChild<Dev_Statistic_Dlg*>() != nullptr; }, [this] { mEditTarget->commit(); }},
+      this);
   if (port <= 0 || isKiosk()) {
     return;
   }

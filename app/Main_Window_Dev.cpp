@@ -204,7 +204,7 @@ Action_State Main_Window_Dev::actionState() const {
   state.mIsOrderShown = pageTabs().isOrderShown();
   state.mIsLinkWanted = mLink->isWanted();
   state.mIsOnline = mLink->isOnline();
-  state.mIsProgramOnItsWay = mLink->play().isRunning();
+  state.mIsProgramOnItsWay = mLink->isSending();
   state.mLinkText = mLink->stateText();
   state.mCanCut = mEditTarget->can(Command::Cut);
   state.mCanCopy = mEditTarget->can(Command::Copy);

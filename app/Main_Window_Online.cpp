@@ -4,6 +4,7 @@
 #include "app/Page_Tabs.h"
 #include "app/Program_Play.h"
 #include "app/Project_Lifecycle.h"
+#include "app/Project_Write.h"
 #include "app/Window_Link.h"
 #include "base/Session_State.h"
 #include "net/dialogs/Controller_Commands.h"
@@ -40,6 +41,10 @@ void Main_Window_Dev::onControllerConnect() {
 }
 
 void Main_Window_Dev::onControlPlay() {
+  if (mLink->write().isRunning()) {
+    showInfo(tr("Das Projekt wird gerade auf die Steuerung geschrieben. Danach geht F5 wieder."));
+    return;
+  }
   mEditTarget->commit();
   mLink->play().toggle();
 }

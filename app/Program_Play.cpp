@@ -20,13 +20,31 @@ void Program_Play::toggle() {
     cancel();
   } else if (state.operatingMode()) {
     state.setOperatingMode(false);
-  } else if (mLink.isOnline()) {
+  } else {
+    mIsForced = mIsQuiet = false;
+    enter();
+  }
+}
+
+void Program_Play::setOn(bool isOn, bool isForced) {
+  if (isOn && !isRunning()) {
+    mIsForced = isForced;
+    mIsQuiet = true;
+    enter();
+  } else if (!isOn) {
+    cancel();
+    mSession.state().setOperatingMode(false);
+  }
+}
+
+void Program_Play::enter() {
+  if (mLink.isOnline()) {
     mWasSent = false;
     start();
-  } else {
-    state.setOperatingMode(true);
-    emit info(tr("Bedienmodus ohne Verbindung: Das Programm läuft nicht auf der Steuerung. F11 verbindet."));
+    return;
   }
+  mSession.state().setOperatingMode(true);
+  emit info(tr("Bedienmodus ohne Verbindung: Das Programm läuft nicht auf der Steuerung. F11 verbindet."));
 }
 
 void Program_Play::cancel() {
@@ -38,7 +56,7 @@ void Program_Play::cancel() {
 void Program_Play::start() {
   mSession.history().commit();
   mSent = mSession.history().state();
-  mTransfer = new Program_Transfer(mLink.client(), mSession, {}, this);
+  mTransfer = new Program_Transfer(mLink.client(), mSession, {.mForce = mIsForced}, this);
   mTransfer->setTimeout(mTimeoutMs);
   connect(mTransfer, &Controller_Exchange::progress, this, &Program_Play::progress);
   connect(mTransfer, &Controller_Exchange::finished, this, &Program_Play::onFinished);
@@ -65,12 +83,26 @@ void Program_Play::onFinished(Controller_Exchange::End end) {
                           "Bootprojekt erzeugen.")
               : mWasSent ? tr("Bedienmodus: Die Steuerung führt das neue Programm aus.")
                          : tr("Bedienmodus: Die Steuerung führt dieses Programm bereits aus."));
+    emit settled({});
     return;
   }
   emit ended();
   if (end == Controller_Exchange::End::Cancelled) {
-    emit info(tr("Übertragung des Programms abgebrochen. Der Bedienmodus bleibt ausgeschaltet."));
+    const QString text = tr("Übertragung des Programms abgebrochen. Der Bedienmodus bleibt ausgeschaltet.");
+    emit info(text);
+    emit settled(text);
+  } else if (mSession.state().operatingMode()) {
+    tellFailure(tr("Das Programm ist nicht auf der Steuerung: %1").arg(error));
   } else {
-    emit failed(tr("Das Programm ist nicht auf der Steuerung, der Bedienmodus bleibt ausgeschaltet: %1").arg(error));
+    tellFailure(tr("Das Programm ist nicht auf der Steuerung, der Bedienmodus bleibt ausgeschaltet: %1").arg(error));
+  }
+}
+
+void Program_Play::tellFailure(const QString& text) {
+  emit settled(text);
+  if (mIsQuiet) {
+    emit info(text);
+  } else {
+    emit failed(text);
   }
 }

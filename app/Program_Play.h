@@ -22,6 +22,10 @@ public:
 
   /// Also gives up a program that is on its way.
   void toggle();
+  /// For an assistant, which no box is shown to. Into the mode: with a link the program goes over also when the mode is
+  /// on already, `isForced` even when the controller has it. Out of it: also gives up a program that is on its way.
+  /// Nothing while one is on its way into it.
+  void setOn(bool isOn, bool isForced);
   void cancel();
   [[nodiscard]] bool isRunning() const { return mTransfer != nullptr; }
   /// How long a reply is waited for.
@@ -35,9 +39,13 @@ signals:
   void info(const QString& text);
   /// Why the mode stays off; comes from the event loop.
   void failed(const QString& text);
+  /// Nothing is on its way any more; `error` is empty when the mode is as it was wanted.
+  void settled(const QString& error);
 
 private:
+  void enter();
   void start();
+  void tellFailure(const QString& text);
   void onFinished(Controller_Exchange::End end);
 
   Project_Session& mSession;
@@ -45,5 +53,7 @@ private:
   Program_Transfer* mTransfer = nullptr; ///< on its way
   History::State mSent;                  ///< of the records as they were when they were packed
   bool mWasSent = false;
+  bool mIsForced = false; ///< it is sent even when the controller has it
+  bool mIsQuiet = false;  ///< an assistant wants it
   int mTimeoutMs = Controller_Exchange::cTimeoutMs;
 };

@@ -3,6 +3,7 @@
 #include "app/Lifecycle_Dialogs.h"
 #include "app/Link_Status.h"
 #include "app/Program_Play.h"
+#include "app/Project_Write.h"
 #include "app/Status_Progress.h"
 #include "db/Project_Session.h"
 #include "fb/FB_Block_Editors.h"
@@ -32,6 +33,7 @@ Window_Link::Window_Link(const Parts& parts)
       mValues(new Controller_Values(parts.mSession, *mLink, this)),
       mScripts(new Script_Debug(mLink->client(), this)),
       mPlay(new Program_Play(parts.mSession, *mLink, this)),
+      mWrite(new Project_Write(parts.mSession, *mLink, this)),
       mCommands(new Controller_Commands(parts.mSession, parts.mSettings, *mLink, parts.mWindow, nullptr, this)),
       mStatus(new Link_Status),
       mProgress(new Status_Progress) {
@@ -41,16 +43,12 @@ Window_Link::Window_Link(const Parts& parts)
   connectLink();
   connectScripts();
   connectPlay();
+  connectWrite();
 }
 
 void Window_Link::connectLink() {
   connect(mLink, &Controller_Link::stateChanged, this, &Window_Link::onStateChanged);
-  connect(mLink, &Controller_Link::refused, this, [this](const QString& text) {
-    mIsAwaited = false;
-    if (!Dev_Connect_Progress_Dlg::isShown()) { // else it tells
-      tell(text);
-    }
-  });
+  connect(mLink, &Controller_Link::refused, this, &Window_Link::onRefused);
   connect(mLink, &Controller_Link::lost, this, &Window_Link::onLost);
   connect(mCommands, &Controller_Commands::restarting, this, [this] { mIsAwaited = true; });
   connect(&mParts.mSession, &Project_Session::aboutToClose, this, &Window_Link::end);
@@ -75,13 +73,41 @@ void Window_Link::connectPlay() {
   connect(mProgress, &Status_Progress::cancelled, mPlay, &Program_Play::cancel);
 }
 
+void Window_Link::connectWrite() {
+  connect(mWrite, &Project_Write::progress, mProgress, &Status_Progress::showProgress);
+  connect(mWrite, &Project_Write::progress, this, &Window_Link::changed);
+  connect(mWrite, &Project_Write::ended, mProgress, &QWidget::hide);
+  connect(mWrite, &Project_Write::ended, this, &Window_Link::changed);
+  connect(mWrite, &Project_Write::info, this, &Window_Link::info);
+  connect(mProgress, &Status_Progress::cancelled, mWrite, &Project_Write::cancel);
+}
+
+bool Window_Link::isSending() const {
+  return mPlay->isRunning() || mWrite->isRunning();
+}
+
+void Window_Link::onRefused(const QString& text) {
+  mIsAwaited = false;
+  if (std::exchange(mIsQuiet, false)) {
+    emit info(text);
+  } else if (!Dev_Connect_Progress_Dlg::isShown()) { // else it tells
+    tell(text);
+  }
+}
+
+bool Window_Link::dialQuietly(QString* error) {
+  mIsAwaited = false;
+  mIsQuiet = mLink->connectToSelected(error);
+  return mIsQuiet;
+}
+
 void Window_Link::toggle() {
   if (isWanted()) {
     end();
     emit info(tr("Verbindung zur Steuerung getrennt."));
     return;
   }
-  mIsAwaited = false;
+  mIsAwaited = mIsQuiet = false;
   QString error;
   if (!mLink->connectToSelected(&error)) {
     tell(error);
@@ -93,7 +119,8 @@ void Window_Link::toggle() {
 
 void Window_Link::end() {
   mPlay->cancel();
-  mIsLost = false;
+  mWrite->cancel();
+  mIsLost = mIsQuiet = false;
   mLink->disconnectLink();
   onStateChanged(); // also when only the mark of a lost one goes
 }
@@ -108,19 +135,20 @@ QString Window_Link::stateText() const {
 }
 
 bool Window_Link::mayEnd() {
-  if (!mPlay->isRunning() && !mCommands->isBusy()) {
+  if (!isSending() && !mCommands->isBusy()) {
     return true;
   }
   return mParts.mDialogs.askYesNo(tr("Mit der Steuerung läuft noch ein Vorgang. Ihn abbrechen?"));
 }
 
 void Window_Link::shutDown() {
-  for (const QObject* const sender : std::initializer_list<const QObject*>{mLink, mPlay, mCommands, mScripts}) {
+  for (const QObject* const sender : std::initializer_list<const QObject*>{mLink, mPlay, mWrite, mCommands, mScripts}) {
     disconnect(sender, nullptr, nullptr, nullptr);
   }
   disconnect(&mParts.mSession, nullptr, this, nullptr);
   mCommands->closeAll();
   mPlay->cancel();
+  mWrite->cancel();
   mLink->disconnectLink();
 }
 
@@ -133,6 +161,7 @@ void Window_Link::onStateChanged() {
   mStatus->showState(state, mConnection, mIsLost);
   mParts.mEditors.setConnected(state == State::Online);
   if (state == State::Online) {
+    mIsQuiet = false;
     emit info(tr("Verbunden mit %1.").arg(mConnection));
   }
   emit changed();

@@ -14,6 +14,7 @@ class FB_Block_Editors;
 class Lifecycle_Dialogs;
 class Link_Status;
 class Program_Play;
+class Project_Write;
 class QMainWindow;
 class Script_Debug;
 class Status_Progress;
@@ -39,10 +40,15 @@ public:
 
   [[nodiscard]] Controller_Link& link() { return *mLink; }
   [[nodiscard]] Program_Play& play() { return *mPlay; }
+  [[nodiscard]] Project_Write& write() { return *mWrite; }
   [[nodiscard]] Controller_Commands& commands() { return *mCommands; }
 
   /// Dials with the project's selected connection, or ends the link, whether it stands or not yet.
   void toggle();
+  /// Dials for an assistant: no dialog, and no box when it is refused. False with a German `error` without connection.
+  bool dialQuietly(QString* error);
+  /// A program or project is on its way to the controller, beside what `commands` do.
+  [[nodiscard]] bool isSending() const;
   /// Gives up what is on its way and ends the link.
   void end();
   [[nodiscard]] bool isWanted() const { return mLink->state() != Controller_Link::State::Offline; }
@@ -66,6 +72,8 @@ private:
   void connectLink();
   void connectScripts();
   void connectPlay();
+  void connectWrite();
+  void onRefused(const QString& text);
   void onStateChanged();
   void onLost();
   void tell(const QString& text);
@@ -75,10 +83,12 @@ private:
   Controller_Values* mValues;
   Script_Debug* mScripts;
   Program_Play* mPlay;
+  Project_Write* mWrite;
   Controller_Commands* mCommands;
   Link_Status* mStatus;
   Status_Progress* mProgress;
   QString mConnection;     ///< the last one, as it is shown
   bool mIsLost = false;    ///< since then no other was dialled
+  bool mIsQuiet = false;   ///< it is dialled for an assistant
   bool mIsAwaited = false; ///< the controller restarts and closes the link, as the user wanted
 };

@@ -120,7 +120,9 @@ QString Connection_Edits::faultOf(const Item& item, Field field) {
     return isRelay ? mailFault(item.mRelayMail.trimmed()) : QString();
   case Field::RelayDns:
     if (isRelay && item.mRelayDns.trimmed().isEmpty()) {
-      return tr("Eine Verbindung über den Vermittlungsdienst braucht den DNS-Namen der Steuerung.");
+      return item.mRelayMail.trimmed().isEmpty()
+                 ? tr("Eine Verbindung über den Vermittlungsdienst braucht den DNS-Namen der Steuerung oder das Konto.")
+                 : QString();
     }
     return isRelay ? hostFault(item.mRelayDns.trimmed(), tr("DNS-Name")) : QString();
   case Field::RelayHost:

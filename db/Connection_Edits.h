@@ -27,7 +27,7 @@ struct Fault {
 };
 
 /// A name in one line; of a direct connection an address with or without port, of one through the relay service the
-/// controller's DNS name there, and host and account as far as they are given.
+/// controller's DNS name there or the account, and the host as far as it is given.
 [[nodiscard]] std::vector<Fault> faultsOf(const DB_Connections::ITEM& item);
 /// What is wrong with one field; empty when nothing is.
 [[nodiscard]] QString faultOf(const DB_Connections::ITEM& item, Field field);

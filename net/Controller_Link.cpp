@@ -98,7 +98,8 @@ QString Controller_Link::connectionText() const {
     return {};
   }
   // Not the client's, which has another one until it dials; a relayed one leads to a name at the service.
-  const QString& target = mConnection.isRelay() ? mConnection.mRelayDns : mConnection.mAddress;
+  const QString& name = mConnection.mRelayDns.isEmpty() ? mConnection.mRelayMail : mConnection.mRelayDns;
+  const QString& target = mConnection.isRelay() ? name : mConnection.mAddress;
   return mConnection.mName.isEmpty() ? target : QStringLiteral("%1 (%2)").arg(mConnection.mName, target);
 }
 

@@ -165,7 +165,8 @@ private slots:
     QTest::newRow("port above") << direct(u"10.0.0.1:65536"_s) << QList{int(Field::Address)};
     QTest::newRow("no address") << direct({}) << QList{int(Field::Address)};
     QTest::newRow("relayed") << relayed(u"haus.example"_s, {}, u"ich@haus.example"_s) << none;
-    QTest::newRow("relayed, no DNS name") << relayed({}, {}, {}) << QList{int(Field::RelayDns)};
+    QTest::newRow("relayed, neither DNS name nor account") << relayed({}, {}, {}) << QList{int(Field::RelayDns)};
+    QTest::newRow("relayed, account alone") << relayed({}, {}, u"ich@haus.example"_s) << none;
     QTest::newRow("relayed, host with port")
         << relayed(u"haus"_s, u"10.0.0.1:10003"_s, u"ich"_s) << QList{int(Field::RelayMail), int(Field::RelayHost)};
   }

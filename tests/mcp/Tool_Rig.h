@@ -2,6 +2,7 @@
 
 #include "mcp/MCP_Dispatcher.h"
 #include "mcp/MCP_Studio.h"
+#include "net/Controller_Link.h"
 #include "tests/db/Session_Rig.h"
 
 #include <QJsonArray>
@@ -34,8 +35,15 @@ public:
     return Edit_Result::done();
   }
   [[nodiscard]] Controller_Link* link() override { return mLink; }
-  Edit_Result connectLink() override { return Edit_Result::refused(QStringLiteral("ohne Verbindung")); }
-  void disconnectLink() override {}
+  Edit_Result connectLink() override {
+    QString error = QStringLiteral("ohne Verbindung");
+    return mLink && mLink->connectToSelected(&error) ? Edit_Result::done() : Edit_Result::refused(error);
+  }
+  void disconnectLink() override {
+    if (mLink) {
+      mLink->disconnectLink();
+    }
+  }
   Edit_Result setPlayMode(bool on, bool /*force*/) override {
     mSession.state().setOperatingMode(on);
     return Edit_Result::done();
