@@ -151,6 +151,7 @@ void MCP_Connection::answer(int status, const QByteArray& body) {
     mSocket->disconnectFromHost();
     return;
   }
+  mSocket->flush(); // the client may end its side, and with it what is not sent yet
   // Closed with bytes unread, the client would see a reset while it sends, and not look at the answer.
   QTimer::singleShot(cPatience, this, [this] { mSocket->disconnectFromHost(); });
 }
