@@ -146,13 +146,13 @@ void MCP_Connection::answer(int status, const QByteArray& body) {
     return;
   }
   mSocket->write(Http_Reply::write(status, body));
-  mSocket->flush(); // the client may have ended its side already, which ends the socket when it is read
   mUnread = mRequest.missing();
   if (mUnread == 0) {
     mSocket->disconnectFromHost();
     return;
   }
-  // Closed with bytes unread, the client would see a reset before it has read the answer.
+  mSocket->flush(); // the client may end its side, and with it what is not sent yet
+  // Closed with bytes unread, the client would see a reset while it sends, and not look at the answer.
   QTimer::singleShot(cPatience, this, [this] { mSocket->disconnectFromHost(); });
 }
 

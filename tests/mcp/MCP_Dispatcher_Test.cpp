@@ -132,6 +132,7 @@ void MCP_Dispatcher_Test::arguments_data() {
   row(R"({"registers":[{}]})", {});
   row(R"({"registers":{}})", wrong("registers", "Liste", "Objekt"));
   row(R"({"target":[true,null]})", {});
+  row(R"({"target":)" + QByteArray(900, '[') + QByteArray(900, ']') + "}", {});
   row(R"({"text":1,"count":"x"})", wrong("text", "Text", "Zahl 1"));
 }
 

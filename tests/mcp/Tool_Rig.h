@@ -76,8 +76,7 @@ public:
   QJsonObject call(const QString& tool, const QJsonObject& arguments = {}) {
     const QJsonObject result = mDispatcher.callTool(tool, arguments);
     const QJsonObject content = result.value(QStringLiteral("content")).toArray().first().toObject();
-    const QJsonObject object =
-        QJsonDocument::fromJson(content.value(QStringLiteral("text")).toString().toUtf8()).object();
+    QJsonObject object = QJsonDocument::fromJson(content.value(QStringLiteral("text")).toString().toUtf8()).object();
     // Both tell the same, for every tool.
     if (result.value(QStringLiteral("isError")).toBool() != object.contains(QStringLiteral("error"))) {
       qFatal("isError and error differ");
