@@ -78,13 +78,12 @@ QJsonObject FB_Json::page(const ProjectDatabase& database, const DB_FB_Page& pag
 
 QJsonObject FB_Json::pin(const DB_FB_Control& block, FB_Side side, int index, Pins detail) {
   const DB_FB_Pin& pin = FB_Pins::pins(block, side)[static_cast<size_t>(index)];
-  QJsonObject object{{QStringLiteral("index"), index},
-                     {QStringLiteral("name"), pin.mLongName},
-                     {QStringLiteral("short_name"), pin.mShortName}};
+  QJsonObject object{{QStringLiteral("index"), index}, {QStringLiteral("name"), pin.mLongName}};
   if (pin.mBinding.mKind != Kind::None) {
     object.insert(QStringLiteral("binding"), binding(pin.mBinding));
   }
   if (detail == Pins::Full) {
+    addText(object, QStringLiteral("short_name"), pin.mShortName);
     addText(object, QStringLiteral("dpt"), FB_Pin_Types::usual(block, side, index).toString());
     if (const FB_Pin_Group* const group = FB_Pin_Types::group(block, side, index)) {
       addText(object, QStringLiteral("description"), FB_Types::text(group->mDescription));

@@ -27,8 +27,8 @@ namespace FB_Json {
 [[nodiscard]] QJsonObject page(const ProjectDatabase& database, const DB_FB_Page& page);
 
 enum class Pins {
-  Brief, ///< index, names and binding
-  Full,  ///< also the usual type of data and what the pin is for
+  Brief, ///< index, name and binding
+  Full,  ///< also the short name, the usual type of data and what the pin is for
 };
 [[nodiscard]] QJsonObject pin(const DB_FB_Control& block, FB_Side side, int index, Pins detail);
 
