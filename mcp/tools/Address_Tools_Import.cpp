@@ -9,6 +9,7 @@
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace {
 
@@ -115,8 +116,15 @@ QString readFile(const QString& path, const Choices& choices, Ets_Groups& groups
   return error.isEmpty() ? readDevice(file, choices, groups) : error;
 }
 
-/// The mark of UTF-8 overrules what an XML declares of itself: the text came as characters, whatever the file was.
-QString readText(const QString& text, const Choices& choices, Ets_Groups& groups) {
+/// The text came as characters, whatever the file was encoded in: an XML that declares its encoding must not undo that,
+/// and the other formats are told by the mark in front.
+QString readText(QString text, const Choices& choices, Ets_Groups& groups) {
+  static const QRegularExpression declared(
+      QStringLiteral("^\\x{FEFF}?\\s*<\\?xml\\s[^>]{0,200}?\\bencoding\\s*=\\s*([\"'][^\"'>]{0,40}[\"'])"));
+  const QRegularExpressionMatch match = declared.match(text);
+  if (match.hasMatch()) {
+    text.replace(match.capturedStart(1), match.capturedLength(1), QStringLiteral("\"UTF-8\""));
+  }
   QByteArray bytes = text.toUtf8();
   if (!bytes.isEmpty() && !text.startsWith(QChar::ByteOrderMark)) {
     bytes.prepend("\xef\xbb\xbf");

@@ -43,8 +43,10 @@ Assignment assignmentOf(const MCP_Call& call, const DB_FB_Control& block, const 
   const int index = call.integer("io_index");
   const int last = int(FB_Pins::pins(block, side).size()) - 1;
   if (index < 0 || index > last) {
-    const QString refusal = QStringLiteral("IO-Index ausserhalb des gueltigen Bereichs: %1").arg(index);
-    return {{}, {}, MCP_Result::failed(last < 0 ? refusal : refusal + QStringLiteral(" (max %1)").arg(last))};
+    const QString refusal =
+        last < 0 ? QStringLiteral("IO-Index ausserhalb des gueltigen Bereichs: %1").arg(index)
+                 : QStringLiteral("IO-Index ausserhalb des gueltigen Bereichs: %1 (max %2)").arg(index).arg(last);
+    return {{}, {}, MCP_Result::failed(refusal)};
   }
   const auto group =
       text.isEmpty() ? MCP_Lookup::groupAddress(call, call.arguments()) : MCP_Lookup::groupAddress(call, text);

@@ -59,7 +59,7 @@ struct Address_Rig : Tool_Rig {
     addAddress({1, 2, 5}, u"Reserve"_s);
     addAddress({31, 7, 255}, u"Wert"_s)->mDpt = {20, Datapoint_Id::cAnySub};
     Address_Edits::addMiddleGroup(mSession, 1, 3, {u"leer"_s, {}, {}});
-    const QUuid page = mSession.database().mFbPages.pages()[0]->mGuid;
+    const QUuid page = mSession.database().mFbPages.pages().at(0).mGuid;
     mAnd = FB_Page_Edits::create(mSession, page, cAnd, {}).mBlocks.first();
     mNote = FB_Page_Edits::create(mSession, page, FB_Types::cComment, {}).mBlocks.first();
     FB_Page_Edits::bind(mSession, {mAnd, FB_Side::Input, 0}, mSession.database().mAddresses.subGroup({1, 2, 3})->mKey);
@@ -229,6 +229,7 @@ private slots:
                         "Name='Küche Ω' Address='1/0/1' DPTs='DPST-1-1'/></GroupRange></GroupRange>"
                         "</GroupAddress-Export>"_s;
     const QJsonObject object = rig.call(u"import_knx_addresses"_s, {{u"file_content"_s, xml}});
+    QVERIFY2(!object.contains(u"error"_s), qPrintable(object[u"error"_s].toString()));
     QCOMPARE(difference(json("{'format':'xml','new':1}"), object), QString());
     QCOMPARE(rig.mSession.database().mAddresses.subGroup({1, 0, 1})->mName, u"Küche Ω"_s);
     const QJsonObject again = rig.call(u"import_knx_addresses"_s, {{u"file_content"_s, xml}});
@@ -363,7 +364,7 @@ void Address_Tools_Test::edits_data() {
 
   tool = u"update_address"_s;
   row("{'main':1,'middle':2,'sub':3,'comment':'Lampe','data_type':5001}", {},
-      "{'comment':'Lampe','data_type':5001,'data_type_text':'5.001 Prozent (%)'}");
+      "{'comment':'Lampe','data_type':5001,'data_type_text':'5.001 Prozentwert (0..100 %)'}");
   row("{'main':1,'middle':2,'sub':3,'data_type':0}", {}, "{'comment':'Licht Küche','data_type':0}");
   row("{'main':1,'middle':2,'sub':3}", cAnyError);
   row("{'main':1,'middle':2,'sub':3,'comment':'wird zurueckgenommen','data_type':-5}", cAnyError);
@@ -421,10 +422,12 @@ void Address_Tools_Test::edits_data() {
   row("{'fb_guid':'$NOTE'}", cAnyError);
 
   tool = u"import_knx_addresses"_s;
-  const QByteArray esf = "'file_content':'Haus\\nA.B.1/2/3\\tNeu\\tEIS 5 (2 Byte)\\nA.B.1/2/9\\tDazu\\tUncertain (2 "
-                         "Byte)\\nunfug\\n'";
+  const QByteArray esf =
+      "'file_content':'Haus\\nA.B.1/2/3\\tNeu\\tEIS 5 (2 Byte)\\tLow\\t\\nA.B.1/2/9\\tDazu\\tUncertain (2 "
+      "Byte)\\tLow\\t\\nunfug\\n'";
   row('{' + esf + ",'uncertain_2byte':7001}", {},
-      "{'format':'esf','new':1,'conflicts':1,'not_in_file':3,'faults':1,'fault_list':['Zeile 4: x']}");
+      "{'format':'esf','new':1,'conflicts':1,'not_in_file':3,'faults':1,'fault_list':['Zeile 4: Die Zeile hat 1 statt "
+      "5 Spalten.']}");
   row('{' + esf + ",'keep_type':'ja','keep_comment':'1','import_new_only':'FALSE'}", {}, "{'new':1,'conflicts':0}");
   row('{' + esf + ",'import_new_only':'true'}", {}, "{'new':1,'changed':0,'conflicts':0}");
   row('{' + esf + ",'keep_type':'vielleicht'}",
@@ -455,9 +458,10 @@ void Address_Tools_Test::valuesOffline_data() {
   row(3, "1", {}, "{'value':1,'text':'Ein'}");
   row(3, "2",
       u"Wert 2 passt nicht zum Datentyp 1.001 der Adresse 1/2/3: 2 ist kein Wert dieses Typs. Erlaubt sind "
-      "Aus, Ein."_s);
-  row(3, "0.5", u"Wert 0.5"_s);
-  row(4, "-273", {}, "{'value':-273}");
+      "0=Aus, 1=Ein."_s);
+  row(3, "0.5",
+      u"Wert 0.5 passt nicht zum Datentyp 1.001 der Adresse 1/2/3: 0.5 ist kein Wert dieses Typs. Erlaubt sind 0=Aus, 1=Ein."_s);
+  row(4, "-20.5", {}, "{'value':-20.5,'text':'-20,5 °C'}");
   row(4, "-274",
       u"Wert -274 passt nicht zum Datentyp 9.001 der Adresse 1/2/4: -274 °C liegt nicht im Bereich -273 °C "
       "bis 670433.28 °C."_s);
