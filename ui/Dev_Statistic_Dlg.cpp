@@ -41,7 +41,7 @@ Dev_Statistic_Dlg::Dev_Statistic_Dlg(Project_Session& session, QWidget* parent)
   Theme::setTextRole(*mReason, Theme::Role::ErrorText);
 
   auto* const buttons = new QDialogButtonBox;
-  mAccept = buttons->addButton(tr("Ü&bernehmen"), QDialogButtonBox::AcceptRole);
+  mAccept = buttons->addButton(tr("&Übernehmen"), QDialogButtonBox::AcceptRole);
   mAccept->setDefault(true);
   buttons->addButton(tr("&Abbrechen"), QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -73,7 +73,7 @@ void Dev_Statistic_Dlg::makeTable() {
   mTable->setUniformRowHeights(true);
   mTable->setAlternatingRowColors(true);
   mTable->setAllColumnsShowFocus(false);
-  mTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+  mTable->setSelectionBehavior(QAbstractItemView::SelectItems); // so that the arrow keys go from cell to cell
   mTable->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                           QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
   mTable->setColumnHidden(Model::cController, mSession.database().mProject.mControllers.empty());
