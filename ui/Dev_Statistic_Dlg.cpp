@@ -14,6 +14,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 using Model = Dev_Statistic_Dlg_Model;
@@ -21,6 +23,8 @@ using Model = Dev_Statistic_Dlg_Model;
 constexpr int cGap = 8;
 constexpr int cGroupGap = 12;
 constexpr int cReasonLines = 2;
+constexpr int cListFrame = 48; ///< what a drop-down list needs beside its text
+constexpr int cMostListWidth = 220;
 constexpr QSize cSize(1000, 440);
 
 } // namespace
@@ -82,6 +86,14 @@ void Dev_Statistic_Dlg::makeTable() {
   header.setSectionResizeMode(QHeaderView::ResizeToContents);
   header.setSectionResizeMode(Model::cName, QHeaderView::Stretch);
   header.setSectionResizeMode(Model::cAddress, QHeaderView::Stretch);
+  for (const int column : {Model::cTrigger, Model::cController}) {
+    int width = 0;
+    for (const Model::Choice& choice : mModel->choices(column)) {
+      width = std::max(width, fontMetrics().horizontalAdvance(choice.second));
+    }
+    header.setSectionResizeMode(column, QHeaderView::Interactive);
+    header.resizeSection(column, std::min(width + cListFrame, cMostListWidth));
+  }
 }
 
 QPushButton* Dev_Statistic_Dlg::makeCommand(const QString& text, const QString& icon, QVBoxLayout& layout,

@@ -3,7 +3,7 @@
 #include "ui/Dev_Statistic_Dlg.h"
 #include "ui/Dev_Statistic_Dlg_Model.h"
 
-#include <QLabel>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeView>
@@ -72,6 +72,14 @@ private slots:
     QTest::keyClick(shown.mTable, Qt::Key_Right);
     QTest::keyClick(shown.mTable, Qt::Key_Right);
     QCOMPARE(shown.mTable->currentIndex().column(), Model::cTrigger);
+    QTest::keyClick(shown.mTable, Qt::Key_F2);
+    auto* const list = shown.mTable->findChild<QComboBox*>();
+    QVERIFY(list);
+    QTest::keyClick(list, Qt::Key_Down);
+    QVERIFY(list->isVisible());
+    QTest::keyClick(list, Qt::Key_Return); // not the dialog's default button
+    QVERIFY(shown.mDialog.isVisible());
+    QCOMPARE(shown.text(0, Model::cTrigger), u"Bei jedem Telegramm"_s);
     for (int i = 0; i < 2; ++i) {
       QTest::keyClick(shown.mTable, Qt::Key_Right);
     }
