@@ -14,6 +14,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 using Model = Dev_Statistic_Dlg_Model;
@@ -21,6 +23,8 @@ using Model = Dev_Statistic_Dlg_Model;
 constexpr int cGap = 8;
 constexpr int cGroupGap = 12;
 constexpr int cReasonLines = 2;
+constexpr int cListFrame = 48; ///< what a drop-down list needs beside its text
+constexpr int cMostListWidth = 220;
 constexpr QSize cSize(1000, 440);
 
 } // namespace
@@ -41,7 +45,7 @@ Dev_Statistic_Dlg::Dev_Statistic_Dlg(Project_Session& session, QWidget* parent)
   Theme::setTextRole(*mReason, Theme::Role::ErrorText);
 
   auto* const buttons = new QDialogButtonBox;
-  mAccept = buttons->addButton(tr("Ü&bernehmen"), QDialogButtonBox::AcceptRole);
+  mAccept = buttons->addButton(tr("&Übernehmen"), QDialogButtonBox::AcceptRole);
   mAccept->setDefault(true);
   buttons->addButton(tr("&Abbrechen"), QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -73,7 +77,7 @@ void Dev_Statistic_Dlg::makeTable() {
   mTable->setUniformRowHeights(true);
   mTable->setAlternatingRowColors(true);
   mTable->setAllColumnsShowFocus(false);
-  mTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+  mTable->setSelectionBehavior(QAbstractItemView::SelectItems); // so that the arrow keys go from cell to cell
   mTable->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                           QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
   mTable->setColumnHidden(Model::cController, mSession.database().mProject.mControllers.empty());
@@ -82,6 +86,14 @@ void Dev_Statistic_Dlg::makeTable() {
   header.setSectionResizeMode(QHeaderView::ResizeToContents);
   header.setSectionResizeMode(Model::cName, QHeaderView::Stretch);
   header.setSectionResizeMode(Model::cAddress, QHeaderView::Stretch);
+  for (const int column : {Model::cTrigger, Model::cController}) {
+    int width = 0;
+    for (const Model::Choice& choice : mModel->choices(column)) {
+      width = std::max(width, fontMetrics().horizontalAdvance(choice.second));
+    }
+    header.setSectionResizeMode(column, QHeaderView::Interactive);
+    header.resizeSection(column, std::min(width + cListFrame, cMostListWidth));
+  }
 }
 
 QPushButton* Dev_Statistic_Dlg::makeCommand(const QString& text, const QString& icon, QVBoxLayout& layout,

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QCompleter>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStringListModel>
@@ -56,6 +57,16 @@ void Dev_Statistic_Dlg_Delegate::finish(QWidget* editor) {
   emit closeEditor(editor);
 }
 
+bool Dev_Statistic_Dlg_Delegate::eventFilter(QObject* editor, QEvent* event) {
+  auto* const list = qobject_cast<QComboBox*>(editor);
+  const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+  if (!list || (key != Qt::Key_Return && key != Qt::Key_Enter)) {
+    return QStyledItemDelegate::eventFilter(editor, event);
+  }
+  finish(list);
+  return true;
+}
+
 QWidget* Dev_Statistic_Dlg_Delegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                                   const QModelIndex& index) const {
   const Model& model = modelOf(index);
@@ -69,10 +80,7 @@ QWidget* Dev_Statistic_Dlg_Delegate::createEditor(QWidget* parent, const QStyleO
     return box;
   }
   if (const QList<Model::Choice> choices = model.choices(index.column()); !choices.isEmpty()) {
-    QComboBox* const list = makeList(choices, parent);
-    auto* const self = const_cast<Dev_Statistic_Dlg_Delegate*>(this); // the toolkit asks a constant delegate
-    connect(list, &QComboBox::activated, self, [self, list] { self->finish(list); });
-    return list;
+    return makeList(choices, parent);
   }
   QWidget* const editor = QStyledItemDelegate::createEditor(parent, option, index);
   if (auto* const edit = qobject_cast<QLineEdit*>(editor); edit && index.column() == Model::cName) {

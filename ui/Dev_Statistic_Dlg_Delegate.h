@@ -14,6 +14,10 @@ public:
   void setEditorData(QWidget* editor, const QModelIndex& index) const override;
   void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
+protected:
+  /// Enter takes what is chosen in a list; the list would leave the key to the dialog.
+  bool eventFilter(QObject* editor, QEvent* event) override;
+
 private:
   void finish(QWidget* editor);
 };

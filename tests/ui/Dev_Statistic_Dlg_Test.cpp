@@ -3,7 +3,7 @@
 #include "ui/Dev_Statistic_Dlg.h"
 #include "ui/Dev_Statistic_Dlg_Model.h"
 
-#include <QLabel>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeView>
@@ -60,7 +60,7 @@ private slots:
     Shown shown(*mRig);
     QCOMPARE(shown.mButtons.size(), 7); // each has an access key of its own
     shown.press(u'h');
-    QVERIFY(!shown.mButtons.value(u'b')->isEnabled());
+    QVERIFY(!shown.mButtons.value(u'ü')->isEnabled());
     auto* const edit = shown.mTable->findChild<QLineEdit*>();
     QVERIFY(edit);
     QTest::keyClicks(edit, u"1/2/3"_s);
@@ -69,7 +69,23 @@ private slots:
     QCOMPARE(shown.text(0, Model::cAddress), u"1/2/3 Licht Flur"_s);
     QCOMPARE(shown.text(0, Model::cName), u"Licht Flur"_s);
     QVERIFY(shown.mTable->isColumnHidden(Model::cController));
-    shown.press(u'b');
+    QTest::keyClick(shown.mTable, Qt::Key_Right);
+    QTest::keyClick(shown.mTable, Qt::Key_Right);
+    QCOMPARE(shown.mTable->currentIndex().column(), Model::cTrigger);
+    QTest::keyClick(shown.mTable, Qt::Key_F2);
+    auto* const list = shown.mTable->findChild<QComboBox*>();
+    QVERIFY(list);
+    QTest::keyClick(list, Qt::Key_Down);
+    QVERIFY(list->isVisible());
+    QTest::keyClick(list, Qt::Key_Return); // not the dialog's default button
+    QVERIFY(shown.mDialog.isVisible());
+    QCOMPARE(shown.text(0, Model::cTrigger), u"Bei jedem Telegramm"_s);
+    for (int i = 0; i < 2; ++i) {
+      QTest::keyClick(shown.mTable, Qt::Key_Right);
+    }
+    QTest::keyClick(shown.mTable, Qt::Key_Space);
+    QCOMPARE(shown.mModel.recordings().front().mActive, false);
+    shown.press(u'ü');
     QVERIFY(!shown.mDialog.isVisible());
     QCOMPARE(stored().size(), size_t(1));
     mRig->mSession.history().undo();
@@ -123,7 +139,7 @@ private slots:
     QVERIFY(dialog.set(0, column, typed));
     QCOMPARE(dialog.text(0, column), shown);
     QCOMPARE(dialog.isFaulty(0, column), !isRight);
-    QCOMPARE(dialog.mButtons.value(u'b')->isEnabled(), isRight);
+    QCOMPARE(dialog.mButtons.value(u'ü')->isEnabled(), isRight);
     dialog.mDialog.reject();
     QVERIFY(stored().empty());
     QVERIFY(!mRig->mSession.history().canUndo());
@@ -146,7 +162,7 @@ private slots:
     shown.press(u'd');
     QTest::keyClick(shown.mTable, Qt::Key_Delete);
     QCOMPARE(shown.mModel.rowCount(), 2);
-    shown.press(u'b');
+    shown.press(u'ü');
     QCOMPARE(stored().size(), size_t(2));
     QCOMPARE(stored()[0].mControllerIndex, 4);
     QVERIFY(!stored()[0].mActive);
@@ -159,14 +175,14 @@ private slots:
     shown.press(u'h');
     QVERIFY(shown.set(0, Model::cAddress, u"1/2/3"_s));
     mRig->mState.setOperatingMode(true);
-    shown.press(u'b');
+    shown.press(u'ü');
     QVERIFY(shown.mDialog.isVisible());
     QVERIFY(stored().empty());
     mRig->mState.setOperatingMode(false);
     Address_Tree& tree = mRig->mSession.database().mAddresses;
     tree.take(tree.subGroup({1, 2, 3})->mKey);
     QVERIFY(shown.isFaulty(0, Model::cAddress));
-    QVERIFY(!shown.mButtons.value(u'b')->isEnabled());
+    QVERIFY(!shown.mButtons.value(u'ü')->isEnabled());
     mRig->mSession.close();
     QVERIFY(!shown.mDialog.isVisible());
   }
