@@ -168,7 +168,7 @@ constexpr Action_Row cRows[] = {
         .in(Menu::ProjectSetup, 1).missing(cSetup),
     Row("onEditStatistic", QT_TRANSLATE_NOOP("Action_Table", "Statistik"), u'i', ":/icons/statistic_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Welche Werte die Steuerung aufzeichnet"))
-        .in(Menu::ProjectSetup, 1).missing(cSetup),
+        .in(Menu::ProjectSetup, 1).when(When::Editable).changes(Effect::Dialog),
     Row("onEditSystemAddress", QT_TRANSLATE_NOOP("Action_Table", "Systemadressen"), u'y',
         ":/icons/system_address_white.png",
         QT_TRANSLATE_NOOP("Action_Table", "Adressen, die die Steuerung selbst benutzt"))

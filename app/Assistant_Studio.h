@@ -6,10 +6,12 @@
 
 class Project_Lifecycle;
 class Project_Session;
+class QWidget;
 class Session_State;
 class Window_Link;
 
-/// The studio as an assistant's tools see it: the window's own commands, without their questions.
+/// The studio as an assistant's tools see it: the window's own commands, without their questions. While the user is in
+/// the middle of something (a dialog, a menu, something on the mouse) the project is not replaced by another one.
 class Assistant_Studio : public MCP_Studio {
   Q_OBJECT
 
@@ -23,9 +25,11 @@ public:
     std::function<void(const QUuid& page)> mShowPage;
     std::function<bool()> mIsRecordingDialogOpen;
   };
-  explicit Assistant_Studio(Parts parts, QObject* parent = nullptr);
+  /// `window` outlives it, too.
+  explicit Assistant_Studio(Parts parts, QWidget* window);
 
   [[nodiscard]] Project_Session& session() override { return mParts.mSession; }
+  [[nodiscard]] bool hasWindow() const override;
   Edit_Result saveProject() override;
   Edit_Result openProject(const QString& path) override;
   Edit_Result saveProjectAs(const QString& path) override;
@@ -42,7 +46,12 @@ public:
   void runOutsideReading(QObject* receiver, const std::function<void()>& what) override;
 
 private:
-  [[nodiscard]] Edit_Result run(const std::function<bool()>& operation);
+  using Operation = std::function<bool()>;
+  [[nodiscard]] Edit_Result run(const Operation& operation);
+  [[nodiscard]] Edit_Result replace(const Operation& operation);
+  [[nodiscard]] Edit_Result reopen();
+  [[nodiscard]] QString reason() const;
 
   Parts mParts;
+  const QWidget* mWindow;
 };

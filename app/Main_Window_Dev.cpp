@@ -426,7 +426,7 @@ void Main_Window_Dev::onShowAboutDlg() {
 }
 
 void Main_Window_Dev::closeEvent(QCloseEvent* event) {
-  if (!mLink->mayEnd() || !mLifecycle->mayQuit()) {
+  if (!mLifecycle->isFreeOfAssistant() || !mLink->mayEnd() || !mLifecycle->mayQuit()) {
     event->ignore();
     return;
   }

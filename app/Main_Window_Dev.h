@@ -98,6 +98,7 @@ public slots:
   void onProgramRasterVertical();
   void onProgramAlign_Raster();
   void onEdit_MultipleUsedOutputs();
+  void onEditStatistic();
   void onControllerList();
   void onControllerSelectConnection();
   void onControllerConnect();
@@ -135,6 +136,7 @@ private:
   void updateActions();
   void updateProjectLists();
   void onOpenPath(const QString& path);
+  void openLoaded(const QString& path);
   void onCommand(const QString& slot);
   void onBuildEditors(int percent);
   void toggle(Setting setting);

@@ -5,6 +5,7 @@
 #include "app/Program_Play.h"
 #include "app/Project_Lifecycle.h"
 #include "app/Window_Link.h"
+#include "base/Session_State.h"
 #include "net/dialogs/Controller_Commands.h"
 #include "net/dialogs/Dev_Select_Connection.h"
 
@@ -12,7 +13,18 @@ void Main_Window_Dev::connectLink() {
   connect(mLink, &Window_Link::changed, this, &Main_Window_Dev::updateActions);
   connect(mLink, &Window_Link::changed, this, [this] { pageTabs().setConnectedController(mLink->controllerNumber()); });
   connect(mLink, &Window_Link::info, this, &Main_Window_Dev::showInfo);
-  connect(&mLink->commands(), &Controller_Commands::projectLoaded, this, &Main_Window_Dev::onOpenPath);
+  connect(&mLink->commands(), &Controller_Commands::projectLoaded, this, &Main_Window_Dev::openLoaded);
+}
+
+/// An assistant may work at the moment in which the project has come.
+void Main_Window_Dev::openLoaded(const QString& path) {
+  if (!mState.toolCallRunning()) {
+    onOpenPath(path);
+    return;
+  }
+  connect(
+      &mState, &Session_State::toolCallRunningChanged, this, [this, path] { onOpenPath(path); },
+      Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 void Main_Window_Dev::onControllerSelectConnection() {

@@ -13,6 +13,7 @@
 #include "fb/FB_Usages_Dialog.h"
 #include "fb/properties/FB_Dev_Properties.h"
 #include "ui/Controller_List_Dlg.h"
+#include "ui/Dev_Statistic_Dlg.h"
 #include "ui/Page_View.h"
 
 namespace {
@@ -132,6 +133,10 @@ void Main_Window_Dev::onEditNewPageProgram() {
 
 void Main_Window_Dev::onPageProperties() {
   mPageCommands->onProperties(pageTabs().currentPage());
+}
+
+void Main_Window_Dev::onEditStatistic() {
+  Dev_Statistic_Dlg(mSession, this).exec();
 }
 
 void Main_Window_Dev::onControllerList() {

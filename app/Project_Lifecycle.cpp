@@ -64,8 +64,7 @@ public:
     if (owner.mIsBusy) {
       return;
     }
-    if (owner.mState.toolCallRunning() && !owner.mIsAssistant) {
-      emit owner.info(tr("Nicht möglich, solange der KI-Assistent arbeitet."));
+    if (!owner.mIsAssistant && !owner.isFreeOfAssistant()) {
       return;
     }
     owner.mIsBusy = true;
@@ -236,6 +235,14 @@ bool Project_Lifecycle::close() {
   return true;
 }
 
+bool Project_Lifecycle::isFreeOfAssistant() {
+  if (mState.toolCallRunning()) {
+    emit info(tr("Nicht möglich, solange der KI-Assistent arbeitet."));
+    return false;
+  }
+  return true;
+}
+
 bool Project_Lifecycle::asAssistant(const std::function<bool()>& operation) {
   mIsAssistant = true;
   const bool isDone = operation();
@@ -252,6 +259,9 @@ bool Project_Lifecycle::mayQuit() {
 bool Project_Lifecycle::settleUnsaved() {
   if (!mSession.isModified()) {
     return true;
+  }
+  if (mIsAssistant) {
+    return saveFile();
   }
   const QString name = QFileInfo(mSession.path()).completeBaseName();
   const QString question = tr("Das Projekt \"%1\" wurde geändert. Änderungen speichern?").arg(name);

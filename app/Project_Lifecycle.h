@@ -41,8 +41,10 @@ public:
   /// Asks about unsaved changes; the project stays open.
   bool mayQuit();
 
-  /// Runs an operation for an assistant's tool call, which else keeps every operation from starting. What would be
-  /// asked is answered with its default then, see Message_Box.
+  /// False while an assistant's tool call runs: the user is told that it must end first.
+  [[nodiscard]] bool isFreeOfAssistant();
+  /// Runs an operation for an assistant's tool call, which else keeps every operation from starting. Unsaved changes
+  /// are saved; what else would be asked is answered with its default then, see Message_Box.
   bool asAssistant(const std::function<bool()>& operation);
 
   /// Asked at the beginning of each operation, before anything else: whoever edits in a window of its own hands over

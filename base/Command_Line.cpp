@@ -93,8 +93,7 @@ QString Command_Line::helpText() {
             "  --demo             öffnet das Demo-Projekt\n"
             "  --kiosk            Anzeige ohne Menüs und ohne Bearbeitung, für diesen Lauf\n"
             "  --settings DATEI   liest und schreibt die Einstellungen in dieser INI-Datei\n"
-            "  --mcp-port N       Port des MCP-Servers für diesen Lauf (0 = aus, höchstens 65535);\n"
-            "                     wirkt, sobald der MCP-Server da ist\n"
+            "  --mcp-port N       Port des MCP-Servers für diesen Lauf (0 = aus, höchstens 65535)\n"
             "  --help             zeigt diese Hilfe\n"
             "  --version          zeigt die Version\n");
 }

@@ -9,10 +9,6 @@ namespace {
 using Kind = Setting_Row::Kind;
 using Group = Setting_Group;
 
-constexpr const char* cWithLink =
-    QT_TRANSLATE_NOOP("Setting_Table", "Wirkt, sobald die Verbindung zur Steuerung da ist.");
-constexpr const char* cWithServer = QT_TRANSLATE_NOOP("Setting_Table", "Wirkt, sobald der MCP-Server da ist.");
-
 // clang-format off
 constexpr Setting_Row cRows[] = {
     {Setting::AutosaveProject, "mAutosaveProject", Group::Project, Kind::Switch, 1, 0, 1, u's',
@@ -58,14 +54,14 @@ constexpr Setting_Row cRows[] = {
     {Setting::McpPort, "mMcpPort", Group::Assistant, Kind::Number, 0, 0, 65535, u'P',
      QT_TRANSLATE_NOOP("Setting_Table", "MCP-Server Port (0 = deaktiviert, Neustart nötig)"),
      QT_TRANSLATE_NOOP("Setting_Table", "Über diesen Port dieses Rechners bedient ein KI-Assistent das Studio, 0 bis "
-                                        "65535"), "", "", cWithServer},
+                                        "65535")},
     {Setting::McpDebug, "mMcpDebug", Group::Assistant, Kind::Choice, 0, 0, 1, u'D',
      QT_TRANSLATE_NOOP("Setting_Table", "MCP-Server Debug"),
      QT_TRANSLATE_NOOP("Setting_Table", "Schreibt jeden Aufruf des KI-Assistenten in das Protokoll des Programms"), "",
-     QT_TRANSLATE_NOOP("Setting_Table", "Aus|Ein"), cWithServer},
+     QT_TRANSLATE_NOOP("Setting_Table", "Aus|Ein")},
     {Setting::McpCheckOrigin, "mMcpCheckOrigin", Group::Assistant, Kind::Switch, 1, 0, 1, u'f',
      QT_TRANSLATE_NOOP("Setting_Table", "Anfragen aus Webseiten abweisen"),
-     QT_TRANSLATE_NOOP("Setting_Table", "Eine Webseite im Browser dieses Rechners erreicht den MCP-Server dann nicht"), "", "", cWithServer},
+     QT_TRANSLATE_NOOP("Setting_Table", "Eine Webseite im Browser dieses Rechners erreicht den MCP-Server dann nicht")},
 };
 // clang-format on
 

@@ -11,16 +11,20 @@
 class DB_Statistic : public DB_Record<DB_Statistic> {
 public:
   struct Recording {
+    static constexpr int cOnChange = 0;     ///< when the value has changed by `mTriggerValue` at least
+    static constexpr int cOnTelegram = 1;   ///< with every telegram of the address
+    static constexpr int cPeriodically = 2; ///< every `mTriggerTimeSecs` seconds
+
     QString mName;
-    QUuid mAddressKey;        ///< the recorded group address
-    int mTab = 0;             ///< group of the recording in the view
-    int mControllerIndex = 0; ///< number of the recording controller, 0 for the main one
-    int mTriggerType = 0;     ///< 0 on change, 1 on every telegram, 2 by time
-    double mTriggerValue = 0; ///< least change that is recorded
-    int mTriggerTimeType = 0;
-    int mTriggerTimeSecs = 0; ///< seconds between two records
+    QUuid mAddressKey;            ///< the recorded group address
+    int mTab = 0;                 ///< group of the recording in the view
+    int mControllerIndex = 0;     ///< number of the recording controller, 0 for the main one
+    int mTriggerType = cOnChange; ///< one of the three above
+    double mTriggerValue = 0;     ///< least change that is recorded, 0: each; `cOnChange` only
+    int mTriggerTimeType = 0;     ///< unit that the interval is told in: 0 seconds, 1 minutes, 2 hours, 3 days
+    int mTriggerTimeSecs = 0;     ///< seconds between two records, whatever the unit; `cPeriodically` only
     bool mActive = true;
-    bool mWriteOnly = false;
+    bool mWriteOnly = false; ///< answers to reading are not recorded
 
     void fields(DB_Fields& fields);
   };

@@ -17,7 +17,8 @@ Project_Session::Project_Session(Session_State& state, QObject* parent)
       mBlockUndo(mDatabase.mFbPages),
       mElementUndo(mDatabase.mWidgetPages),
       mProjectUndo(mDatabase, DB_Table::Project),
-      mConnectionsUndo(mDatabase, DB_Table::Connections) {
+      mConnectionsUndo(mDatabase, DB_Table::Connections),
+      mStatisticUndo(mDatabase, DB_Table::Statistics) {
   connect(&mDatabase, &ProjectDatabase::resourcesChanged, &mHistory, &History::setChangedOutside);
   const Address_Tree& tree = mDatabase.mAddresses;
   connect(&tree, &Address_Tree::recordChanged, this, &Project_Session::onAddressChanged);

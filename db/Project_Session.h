@@ -87,6 +87,7 @@ public:
   [[nodiscard]] Undo_Adapter& elementUndo() { return mElementUndo; }
   [[nodiscard]] Undo_Adapter& projectUndo() { return mProjectUndo; }
   [[nodiscard]] Undo_Adapter& connectionsUndo() { return mConnectionsUndo; }
+  [[nodiscard]] Undo_Adapter& statisticUndo() { return mStatisticUndo; }
 
 signals:
   /// The records of the old project are still there; views let go of them.
@@ -127,4 +128,5 @@ private:
       mWorkingState; ///< what the working file holds; none when that is no state of the history
   QString mLastError;
   QPointer<Value_Service> mValueService;
+  Single_Record_Undo mStatisticUndo;
 };

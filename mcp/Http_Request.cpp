@@ -1,18 +1,33 @@
 #include "mcp/Http_Request.h"
 
-#include <QRegularExpression>
+#include <algorithm>
 
 namespace {
 
 constexpr QByteArrayView cBlankLine = "\r\n\r\n";
 constexpr QByteArrayView cContentLength = "content-length:";
-constexpr QByteArrayView cOrigin = "origin:";
-constexpr QByteArrayView cHost = "host:";
 
-/// "localhost:8080"; nothing at all names no other machine.
-bool isHere(const QString& host) {
-  static const QRegularExpression here(QStringLiteral("^(?:(?:localhost|127\\.0\\.0\\.1|\\[::1\\])(?::[0-9]*)?)?$"));
-  return here.match(host).hasMatch();
+bool startsWith(QByteArrayView text, QByteArrayView start) {
+  return text.size() >= start.size() && text.first(start.size()).compare(start, Qt::CaseInsensitive) == 0;
+}
+
+bool isPort(QByteArrayView text) {
+  return text.isEmpty() ||
+         (text.front() == ':' && std::ranges::all_of(text.sliced(1), [](char c) { return c >= '0' && c <= '9'; }));
+}
+
+/// "localhost:8080".
+bool isHere(QByteArrayView host) {
+  constexpr QByteArrayView names[] = {"localhost", "127.0.0.1", "[::1]"};
+  return std::ranges::any_of(
+      names, [host](QByteArrayView name) { return startsWith(host, name) && isPort(host.sliced(name.size())); });
+}
+
+QByteArrayView takeLine(QByteArrayView& lines) {
+  const qsizetype end = lines.indexOf('\n');
+  const QByteArrayView line = lines.first(end < 0 ? lines.size() : end);
+  lines = lines.sliced(end < 0 ? lines.size() : end + 1);
+  return line.trimmed();
 }
 
 } // namespace
@@ -33,30 +48,51 @@ void Http_Request::add(QByteArrayView bytes) {
 }
 
 void Http_Request::parseHead(QByteArrayView head) {
-  const QList<QByteArray> lines = head.toByteArray().split('\n');
-  const QList<QByteArray> words = lines.first().trimmed().split(' ');
-  mMethod = QString::fromUtf8(words.first());
-  mPath = QString::fromUtf8(words.value(1));
-  for (const QByteArray& line : lines.sliced(1)) {
-    parseHeader(line.trimmed().toLower());
+  const QByteArrayView request = takeLine(head);
+  const qsizetype space = request.indexOf(' ');
+  mMethod = QString::fromUtf8(space < 0 ? request : request.first(space));
+  if (space >= 0) {
+    const QByteArrayView rest = request.sliced(space + 1);
+    const qsizetype end = rest.indexOf(' ');
+    mPath = QString::fromUtf8(end < 0 ? rest : rest.first(end));
+  }
+  while (!head.isEmpty()) {
+    parseHeader(takeLine(head));
   }
 }
 
-void Http_Request::parseHeader(const QByteArray& line) {
-  if (line.startsWith(cContentLength) && !mHasContentLength) {
-    mHasContentLength = true;
-    mContentLength = line.sliced(cContentLength.size()).trimmed().toInt();
-  } else if (line.startsWith(cHost)) {
-    mIsForeign = mIsForeign || !isHere(QString::fromUtf8(line.sliced(cHost.size()).trimmed()));
-  } else if (line.startsWith(cOrigin)) {
-    const QString origin = QString::fromUtf8(line.sliced(cOrigin.size()).trimmed());
-    const qsizetype scheme = origin.indexOf(QLatin1String("://"));
-    mIsForeign = mIsForeign || !isHere(scheme < 0 ? origin : origin.sliced(scheme + 3));
+void Http_Request::parseHeader(QByteArrayView line) {
+  if (startsWith(line, cContentLength)) {
+    if (!mHasContentLength) {
+      mHasContentLength = true;
+      mContentLength = line.sliced(cContentLength.size()).trimmed().toInt();
+    }
+    return;
   }
+  const qsizetype colon = line.indexOf(':');
+  if (colon < 0) {
+    return;
+  }
+  // A blank before the colon is no way round the check.
+  const QByteArrayView name = line.first(colon).trimmed();
+  QByteArrayView value = line.sliced(colon + 1).trimmed();
+  if (name.compare("origin", Qt::CaseInsensitive) == 0) {
+    const qsizetype scheme = value.indexOf("://");
+    value = scheme < 0 ? value : value.sliced(scheme + 3);
+  } else if (name.compare("host", Qt::CaseInsensitive) != 0) {
+    return;
+  }
+  const bool namesNothing = colon + 1 == line.size();
+  mIsForeign = mIsForeign || (!namesNothing && !isHere(value));
 }
 
 QString Http_Request::sessionId() const {
   const QString mark = QStringLiteral("sessionId=");
   const qsizetype at = mPath.indexOf(mark);
-  return at < 0 ? QString() : mPath.sliced(at + mark.size()).section(u'&', 0, 0);
+  if (at < 0) {
+    return {};
+  }
+  const qsizetype begin = at + mark.size();
+  const qsizetype end = mPath.indexOf(u'&', begin);
+  return end < 0 ? mPath.sliced(begin) : mPath.sliced(begin, end - begin);
 }

@@ -15,6 +15,8 @@ public:
   [[nodiscard]] bool hasHead() const { return mHasHead; }
   /// And so many bytes of body as announced.
   [[nodiscard]] bool isComplete() const { return mHasHead && mBuffer.size() >= mContentLength; }
+  /// Bytes of the announced body that have not come; of a request that has its head.
+  [[nodiscard]] qsizetype missing() const { return qMax<qsizetype>(0, mContentLength - mBuffer.size()); }
 
   [[nodiscard]] const QString& method() const { return mMethod; }
   /// With the query; empty when the first line has none.
@@ -32,7 +34,7 @@ public:
 
 private:
   void parseHead(QByteArrayView head);
-  void parseHeader(const QByteArray& line);
+  void parseHeader(QByteArrayView line);
 
   QByteArray mBuffer; ///< the head until it is whole, then the body
   QString mMethod;

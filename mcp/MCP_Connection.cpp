@@ -1,6 +1,5 @@
 #include "mcp/MCP_Connection.h"
 
-#include "mcp/Ascii_Json.h"
 #include "mcp/Http_Reply.h"
 #include "mcp/MCP_Dispatcher.h"
 #include "mcp/MCP_Log.h"
@@ -10,7 +9,9 @@
 
 #include <QJsonDocument>
 #include <QTcpSocket>
+#include <QTimer>
 
+#include <chrono>
 #include <utility>
 
 namespace {
@@ -20,6 +21,7 @@ constexpr int cAccepted = 202;
 constexpr int cNoContent = 204;
 constexpr int cForbidden = 403;
 constexpr int cNotFound = 404;
+constexpr std::chrono::seconds cPatience(2);
 
 } // namespace
 
@@ -36,28 +38,40 @@ MCP_Connection::MCP_Connection(qintptr descriptor, MCP_Server& server)
 
 void MCP_Connection::onReadyRead() {
   const QByteArray bytes = mSocket->readAll();
-  if (mIsTaken) {
-    return; // one request per connection
+  if (mIsTaken) { // one request per connection
+    if (mUnread > 0 && (mUnread -= bytes.size()) <= 0) {
+      mSocket->disconnectFromHost();
+    }
+    return;
   }
   mRequest.add(bytes);
-  const bool isStream = mRequest.method() == u"GET" && mRequest.path() == u"/sse";
-  const bool needsBody = mRequest.method() != u"OPTIONS" && !isStream;
-  if (!mRequest.hasHead() ||
-      (needsBody && !mRequest.isComplete() && !(mRequest.isForeign() && mServer.checksOrigin()))) {
+  if (!mRequest.hasHead() || (needsBody() && !mRequest.isComplete())) {
     return;
   }
   mIsTaken = true;
   route();
 }
 
+bool MCP_Connection::isForbidden() const {
+  return mRequest.isForeign() && mServer.checksOrigin();
+}
+
+bool MCP_Connection::opensStream() const {
+  return mRequest.method() == u"GET" && mRequest.path() == u"/sse";
+}
+
+bool MCP_Connection::needsBody() const {
+  return !isForbidden() && !opensStream() && mRequest.method() != u"OPTIONS";
+}
+
 void MCP_Connection::route() {
   const QString& method = mRequest.method();
   const QString& path = mRequest.path();
-  if (mRequest.isForeign() && mServer.checksOrigin()) {
+  if (isForbidden()) {
     answer(cForbidden, R"({"error":"Forbidden"})");
   } else if (method == u"OPTIONS") {
     answer(cNoContent, {});
-  } else if (method == u"GET" && path == u"/sse") {
+  } else if (opensStream()) {
     openStream();
   } else if (method == u"POST" && path == u"/mcp") {
     // A tool may wait for the controller, which it could not while the link is being read.
@@ -73,7 +87,7 @@ void MCP_Connection::route() {
 void MCP_Connection::openStream() {
   mSocket->disconnect(this);
   mSocket->setParent(nullptr);
-  auto* const session = new MCP_SseSession(std::exchange(mSocket, nullptr), mServer.isDebug(), &mServer);
+  auto* const session = new MCP_SseSession(std::exchange(mSocket, nullptr), &mServer);
   log(QStringLiteral("SSE-Verbindung geoeffnet, Session: %1").arg(session->id()));
   mServer.addSession(session);
   session->open();
@@ -84,12 +98,14 @@ void MCP_Connection::onMcp() {
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(mRequest.body(), &error);
   if (!document.isObject()) {
-    log(QStringLiteral("POST /mcp Parse-Fehler: %1").arg(error.errorString()));
+    const bool isOther = error.error == QJsonParseError::NoError;
+    const QString reason = isOther ? QStringLiteral("kein Objekt") : error.errorString();
+    log(QStringLiteral("POST /mcp Parse-Fehler: %1").arg(reason));
     answer(cOk, R"({"jsonrpc":"2.0","id":null,"error":{"code":-32700,"message":"Parse error"}})");
     return;
   }
-  if (const std::optional<QJsonObject> response = dispatch(document.object())) {
-    answer(cOk, Ascii_Json::write(*response));
+  if (const std::optional<QByteArray> response = dispatch(document.object())) {
+    answer(cOk, response->isEmpty() ? QByteArray("{}") : *response);
   }
 }
 
@@ -102,21 +118,21 @@ void MCP_Connection::onMessages() {
   }
   const QJsonDocument document = QJsonDocument::fromJson(mRequest.body());
   if (document.isObject()) {
-    const std::optional<QJsonObject> response = dispatch(document.object());
+    const std::optional<QByteArray> response = dispatch(document.object());
     if (!response) {
       return;
     }
     MCP_SseSession* const session = mServer.session(id); // may have gone meanwhile
     if (session && !response->isEmpty()) {
-      session->send(Ascii_Json::write(*response));
+      session->send(*response);
     }
   }
   answer(cAccepted, {});
 }
 
-std::optional<QJsonObject> MCP_Connection::dispatch(const QJsonObject& request) {
+std::optional<QByteArray> MCP_Connection::dispatch(const QJsonObject& request) {
   mIsDispatching = true;
-  QJsonObject response = mServer.dispatcher().dispatch(request);
+  QByteArray response = mServer.dispatcher().answer(request);
   mIsDispatching = false;
   if (mIsClosedInDispatch) {
     deleteLater();
@@ -126,10 +142,18 @@ std::optional<QJsonObject> MCP_Connection::dispatch(const QJsonObject& request) 
 }
 
 void MCP_Connection::answer(int status, const QByteArray& body) {
-  if (mSocket->state() == QAbstractSocket::ConnectedState) {
-    mSocket->write(Http_Reply::write(status, body));
-    mSocket->disconnectFromHost();
+  if (mSocket->state() != QAbstractSocket::ConnectedState) {
+    return;
   }
+  mSocket->write(Http_Reply::write(status, body));
+  mSocket->flush(); // the client may have ended its side already, which ends the socket when it is read
+  mUnread = mRequest.missing();
+  if (mUnread == 0) {
+    mSocket->disconnectFromHost();
+    return;
+  }
+  // Closed with bytes unread, the client would see a reset before it has read the answer.
+  QTimer::singleShot(cPatience, this, [this] { mSocket->disconnectFromHost(); });
 }
 
 void MCP_Connection::onDisconnected() {

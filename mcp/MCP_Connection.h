@@ -23,18 +23,22 @@ private slots:
   void onDisconnected();
 
 private:
+  [[nodiscard]] bool isForbidden() const;
+  [[nodiscard]] bool opensStream() const;
+  [[nodiscard]] bool needsBody() const;
   void route();
   void openStream();
   void onMcp();
   void onMessages();
-  /// None when the connection was closed meanwhile; it is to go then.
-  [[nodiscard]] std::optional<QJsonObject> dispatch(const QJsonObject& request);
+  /// The response, empty for a notification; none when the connection was closed meanwhile; it is to go then.
+  [[nodiscard]] std::optional<QByteArray> dispatch(const QJsonObject& request);
   void answer(int status, const QByteArray& body);
   void log(const QString& text) const;
 
   MCP_Server& mServer;
   QTcpSocket* mSocket;
   Http_Request mRequest;
+  qsizetype mUnread = 0; ///< of a body that is answered before it has come
   bool mIsTaken = false; ///< the request is whole and is being answered, or is answered
   bool mIsDispatching = false;
   bool mIsClosedInDispatch = false;

@@ -3,6 +3,7 @@
 #include "base/Session_State.h"
 #include "db/Edit_Scope.h"
 #include "db/Project_Session.h"
+#include "mcp/Ascii_Json.h"
 #include "mcp/MCP_Call.h"
 #include "mcp/MCP_Log.h"
 #include "mcp/MCP_Studio.h"
@@ -10,6 +11,8 @@
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <utility>
 
 namespace {
 
@@ -19,6 +22,10 @@ constexpr qsizetype cNamedUnknown = 5;
 
 QByteArray compact(const QJsonObject& object) {
   return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+qint64 idOf(const QJsonObject& request) {
+  return request.value(QStringLiteral("id")).toInteger(-1);
 }
 
 /// An id that is no whole number from 0 up is left out.
@@ -76,11 +83,28 @@ private:
 
 } // namespace
 
-MCP_Dispatcher::MCP_Dispatcher(MCP_Studio& studio, Session_State& state) : mStudio(studio), mState(state) {}
+MCP_Dispatcher::MCP_Dispatcher(MCP_Studio& studio, Session_State& state, MCP_Catalogue catalogue)
+    : mStudio(studio),
+      mState(state),
+      mCatalogue(std::move(catalogue)),
+      mListBytes(Ascii_Json::write(mCatalogue.list())) {}
+
+QByteArray MCP_Dispatcher::answer(const QJsonObject& request) {
+  if (request.value(QStringLiteral("method")).toString() != u"tools/list") {
+    const QJsonObject response = dispatch(request);
+    return response.isEmpty() ? QByteArray() : Ascii_Json::write(response);
+  }
+  log(QStringLiteral("tools/list"), {}, {});
+  QByteArray frame = Ascii_Json::write(response(idOf(request), QStringLiteral("result"), QJsonObject()));
+  constexpr QByteArrayView cEmptyResult = "{}}";
+  Q_ASSERT(frame.endsWith(cEmptyResult));
+  frame.chop(cEmptyResult.size());
+  return frame + mListBytes + '}';
+}
 
 QJsonObject MCP_Dispatcher::dispatch(const QJsonObject& request) {
   const QString method = request.value(QStringLiteral("method")).toString();
-  const qint64 id = request.value(QStringLiteral("id")).toInteger(-1);
+  const qint64 id = idOf(request);
   const QJsonObject parameters = request.value(QStringLiteral("params")).toObject();
   const QString tool = parameters.value(QStringLiteral("name")).toString();
   const QJsonObject arguments = parameters.value(QStringLiteral("arguments")).toObject();

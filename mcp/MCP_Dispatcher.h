@@ -2,6 +2,7 @@
 
 #include "mcp/MCP_Catalogue.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 
 class MCP_Studio;
@@ -11,8 +12,8 @@ class Session_State;
 /// `notifications/initialized`, `tools/list` and `tools/call`.
 class MCP_Dispatcher {
 public:
-  /// Both outlive it.
-  MCP_Dispatcher(MCP_Studio& studio, Session_State& state);
+  /// Studio and state outlive it.
+  MCP_Dispatcher(MCP_Studio& studio, Session_State& state, MCP_Catalogue catalogue = MCP_Catalogue());
 
   /// Whether each request is told in the program's log.
   void setDebug(bool on) { mIsDebug = on; }
@@ -21,6 +22,8 @@ public:
   /// The response; empty for a notification. A tool may wait for the controller in a local event loop, in which further
   /// requests come in: a second `tools/call` is refused then.
   [[nodiscard]] QJsonObject dispatch(const QJsonObject& request);
+  /// The same as it is sent, see `Ascii_Json`; empty for a notification.
+  [[nodiscard]] QByteArray answer(const QJsonObject& request);
   /// The result of `tools/call`: the tool's object as text.
   [[nodiscard]] QJsonObject callTool(const QString& name, const QJsonObject& arguments);
 
@@ -32,5 +35,6 @@ private:
   MCP_Studio& mStudio;
   Session_State& mState;
   MCP_Catalogue mCatalogue;
+  QByteArray mListBytes; ///< of the catalogue: the longest answer by far, and always the same
   bool mIsDebug = false;
 };

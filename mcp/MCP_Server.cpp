@@ -7,15 +7,25 @@
 
 #include <QHostAddress>
 
-MCP_Server::MCP_Server(QObject* parent) : QTcpServer(parent) {}
+#include <utility>
+
+namespace {
+
+constexpr int cBacklog = 1024; ///< clients that wait while a tool works
+
+} // namespace
+
+MCP_Server::MCP_Server(QObject* parent) : QTcpServer(parent) {
+  setListenBacklogSize(cBacklog);
+}
 
 MCP_Server::~MCP_Server() {
   stop();
 }
 
-bool MCP_Server::start(quint16 port, MCP_Studio& studio, Session_State& state) {
+bool MCP_Server::start(quint16 port, MCP_Studio& studio, Session_State& state, MCP_Catalogue catalogue) {
   mStudio = &studio;
-  mDispatcher = std::make_unique<MCP_Dispatcher>(studio, state);
+  mDispatcher = std::make_unique<MCP_Dispatcher>(studio, state, std::move(catalogue));
   mDispatcher->setDebug(mIsDebug);
   if (listen(QHostAddress::LocalHost, port)) {
     return true;
@@ -51,5 +61,8 @@ void MCP_Server::addSession(MCP_SseSession* session) {
 }
 
 void MCP_Server::onSessionClosed(const QString& id) {
+  if (mIsDebug) {
+    MCP_Log::write(QStringLiteral("SSE-Session getrennt: %1").arg(id));
+  }
   mSessions.remove(id);
 }

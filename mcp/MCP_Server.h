@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mcp/MCP_Catalogue.h"
+
 #include <QMap>
 #include <QString>
 #include <QTcpServer>
@@ -23,7 +25,7 @@ public:
 
   /// Listens on 127.0.0.1; port 0 takes a free one. On failure nothing runs, and nobody is told. Studio and state
   /// outlive the server.
-  bool start(quint16 port, MCP_Studio& studio, Session_State& state);
+  bool start(quint16 port, MCP_Studio& studio, Session_State& state, MCP_Catalogue catalogue = MCP_Catalogue());
   void stop();
 
   /// Each request is told in the program's log.

@@ -1,16 +1,14 @@
 #include "mcp/MCP_SseSession.h"
 
 #include "mcp/Http_Reply.h"
-#include "mcp/MCP_Log.h"
 
 #include <QTcpSocket>
 #include <QUuid>
 
-MCP_SseSession::MCP_SseSession(QTcpSocket* socket, bool isDebug, QObject* parent)
+MCP_SseSession::MCP_SseSession(QTcpSocket* socket, QObject* parent)
     : QObject(parent),
       mSocket(socket),
-      mId(QUuid::createUuid().toString(QUuid::Id128)),
-      mIsDebug(isDebug) {
+      mId(QUuid::createUuid().toString(QUuid::Id128)) {
   mSocket->setParent(this);
   connect(mSocket, &QTcpSocket::disconnected, this, &MCP_SseSession::onDisconnected);
   // What the client sends on its stream means nothing, and is not kept.
@@ -31,9 +29,6 @@ void MCP_SseSession::send(const QByteArray& response) {
 }
 
 void MCP_SseSession::onDisconnected() {
-  if (mIsDebug) {
-    MCP_Log::write(QStringLiteral("SSE-Session getrennt: %1").arg(mId));
-  }
   emit sessionClosed(mId);
   deleteLater();
 }

@@ -12,7 +12,7 @@ class MCP_SseSession : public QObject {
 
 public:
   /// Takes the socket over.
-  MCP_SseSession(QTcpSocket* socket, bool isDebug, QObject* parent = nullptr);
+  explicit MCP_SseSession(QTcpSocket* socket, QObject* parent = nullptr);
 
   /// 32 lower-case hexadecimal digits.
   [[nodiscard]] const QString& id() const { return mId; }
@@ -30,5 +30,4 @@ private slots:
 private:
   QTcpSocket* mSocket;
   QString mId;
-  bool mIsDebug;
 };

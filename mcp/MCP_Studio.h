@@ -22,9 +22,12 @@ public:
 
   [[nodiscard]] virtual Project_Session& session() = 0;
 
+  /// False when the window has been closed and the program is about to end.
+  [[nodiscard]] virtual bool hasWindow() const { return true; }
+
   /// As the window's own commands; without their questions, which count as answered with what loses nothing.
   virtual Edit_Result saveProject() = 0;
-  /// Saves and closes what is open before.
+  /// Saves and closes what is open before, and keeps it open when the other cannot be opened.
   virtual Edit_Result openProject(const QString& path) = 0;
   virtual Edit_Result saveProjectAs(const QString& path) = 0;
   virtual Edit_Result createProject(const QString& path, const New_Project::Options& options) = 0;

@@ -19,6 +19,8 @@ constexpr FB_Help::Topic cTopics[] = {
     {FB_Help::cLogicPages, QT_TRANSLATE_NOOP("FB_Help", "Programmseiten")},
     {FB_Help::cProperties, QT_TRANSLATE_NOOP("FB_Help", "Eigenschaften")},
     {FB_Help::cGroupAddresses, QT_TRANSLATE_NOOP("FB_Help", "Gruppenadressen")},
+    {"variable.html", QT_TRANSLATE_NOOP("FB_Help", "Datentypen und Variablen")},
+    {"format.html", QT_TRANSLATE_NOOP("FB_Help", "Schreibweise der Werte")},
     {"formula_language.html", QT_TRANSLATE_NOOP("FB_Help", "Sprache der Formeln"), &FB_Formula_Language::referenceHtml},
     {"lua_functions.html", QT_TRANSLATE_NOOP("FB_Help", "Funktionen der Scripts"), &FB_Lua_Functions::html},
 };

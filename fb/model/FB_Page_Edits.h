@@ -72,6 +72,8 @@ Edit_Result bindVariable(Project_Session& session, const FB_Pin_Ref& pin, const 
 /// To a new internal variable. Refuses a name that one has already.
 Edit_Result bindNewVariable(Project_Session& session, const FB_Pin_Ref& pin, const QString& name);
 Edit_Result unbind(Project_Session& session, const FB_Pin_Ref& pin);
+/// Each of the pins, or with one that is not there none.
+Edit_Result unbind(Project_Session& session, const QList<FB_Pin_Ref>& pins);
 
 /// The block's own title; of a comment block its text, of several lines.
 Edit_Result setTitle(Project_Session& session, const QUuid& block, const QString& title);

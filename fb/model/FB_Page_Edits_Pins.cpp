@@ -38,7 +38,7 @@ bool isConnection(const FB_Edit& edit, const FB_Connection& connection) {
 }
 
 /// Gives pins another binding; the variables that they had and that nothing reads then go.
-void rebind(FB_Edit& edit, const std::initializer_list<FB_Pin_Ref>& pins, const DB_Address_Binding& binding) {
+void rebind(FB_Edit& edit, const QList<FB_Pin_Ref>& pins, const DB_Address_Binding& binding) {
   QSet<QUuid> before;
   for (const FB_Pin_Ref& pin : pins) {
     const DB_Address_Binding& old = edit.pin(pin)->mBinding;
@@ -192,13 +192,19 @@ Edit_Result FB_Page_Edits::bindNewVariable(Project_Session& session, const FB_Pi
 }
 
 Edit_Result FB_Page_Edits::unbind(Project_Session& session, const FB_Pin_Ref& pin) {
-  FB_Edit edit(session, tr("Verknüpfung lösen"));
+  return unbind(session, QList<FB_Pin_Ref>{pin});
+}
+
+Edit_Result FB_Page_Edits::unbind(Project_Session& session, const QList<FB_Pin_Ref>& pins) {
+  FB_Edit edit(session, pins.size() == 1 ? tr("Verknüpfung lösen") : tr("Verknüpfungen lösen"));
   if (!edit) {
     return edit.refusal();
   }
-  Edit_Result result = edit.check(pin);
-  if (result) {
-    rebind(edit, {pin}, {});
+  for (const FB_Pin_Ref& pin : pins) {
+    if (Edit_Result check = edit.check(pin); !check) {
+      return check;
+    }
   }
-  return result;
+  rebind(edit, pins, {});
+  return Edit_Result::done();
 }

@@ -65,6 +65,54 @@ private slots:
     QCOMPARE(name(mLight), QStringLiteral("A"));
   }
 
+  void aRevertedScopeLeavesNoTrace_data() {
+    QTest::addColumn<QList<int>>("edits");
+    for (int edit = 0; edit < cEdits; ++edit) {
+      QTest::addRow("edit %d", edit) << QList<int>{edit};
+    }
+    QTest::newRow("all") << QList<int>{0, 1, 2, 3, 4, 5, 6, 7};
+    QTest::newRow("again and again") << QList<int>{7, 5, 6, 7, 6, 5, 7, 6};
+  }
+
+  void aRevertedScopeLeavesNoTrace() {
+    QFETCH(const QList<int>, edits);
+    apply(7, 1); // blocks to move and delete
+    QCOMPARE(session().save(), Project_Session::Save_Result::Saved);
+    apply(0, 2);
+    history().commit();
+    const QByteArray undone = dump();
+    QVERIFY(history().undo());
+    const QByteArray before = dump();
+    const size_t position = history().position();
+    {
+      Edit_Scope scope(history(), QStringLiteral("Gescheitert"), Grouping::Own);
+      for (int number = 0; number < edits.size(); ++number) {
+        apply(edits.at(number), 10 + number);
+      }
+      QVERIFY(dump() != before);
+      scope.revert();
+      QCOMPARE(dump(), before);
+    }
+    QVERIFY(!session().isModified());
+    QCOMPARE(history().position(), position);
+    QVERIFY2(history().redo(), "what was undone can still be done again");
+    QCOMPARE(dump(), undone);
+  }
+
+  void whatFollowsARevertIsAStep() {
+    const QByteArray before = dump();
+    {
+      Edit_Scope scope(history(), QStringLiteral("Zweiter Versuch"), Grouping::Own);
+      apply(5, 1);
+      scope.revert();
+      apply(0, 2);
+    }
+    QCOMPARE(history().position(), size_t(1));
+    QCOMPARE(name(mLight), QStringLiteral("Neu 2"));
+    QVERIFY(history().undo());
+    QCOMPARE(dump(), before);
+  }
+
   void editsOfAFieldAreOneStep_data() {
     QTest::addColumn<QString>("edits");
     QTest::addColumn<QStringList>("names");

@@ -13,6 +13,7 @@ public:
   explicit Windowless_Studio(Project_Session& session) : mSession(session) {}
 
   [[nodiscard]] Project_Session& session() override { return mSession; }
+  [[nodiscard]] bool hasWindow() const override { return mHasWindow; }
   Edit_Result saveProject() override {
     return mSession.save() == Project_Session::Save_Result::Saved ? Edit_Result::done()
                                                                   : Edit_Result::refused(mSession.lastError());
@@ -48,13 +49,16 @@ public:
   Project_Session& mSession;
   Controller_Link* mLink = nullptr;
   QUuid mShownPage;
+  bool mHasWindow = true;
   bool mIsRecordingDialogOpen = false;
 };
 
 /// Calls tools as an assistant does, on a project of its own.
 class Tool_Rig : public Session_Rig {
 public:
-  Tool_Rig() {
+  explicit Tool_Rig(MCP_Catalogue catalogue = MCP_Catalogue())
+      : mStudio(mSession),
+        mDispatcher(mStudio, mState, std::move(catalogue)) {
     if (!create()) {
       qFatal("no project");
     }
@@ -76,6 +80,6 @@ public:
     return call(tool, arguments).value(QStringLiteral("error")).toString();
   }
 
-  Windowless_Studio mStudio{mSession};
-  MCP_Dispatcher mDispatcher{mStudio, mState};
+  Windowless_Studio mStudio;
+  MCP_Dispatcher mDispatcher;
 };

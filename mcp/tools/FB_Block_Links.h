@@ -1,0 +1,31 @@
+#pragma once
+
+#include "fb/model/FB_Pin_Ref.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <vector>
+
+class Address_Usage;
+class DB_FB_Control;
+class ProjectDatabase;
+
+/// What a block hangs on, as tools answer it.
+namespace FB_Block_Links {
+
+/// The bound pins, inputs first, each with its binding and what else is bound to it.
+[[nodiscard]] QJsonArray boundPins(const ProjectDatabase& database, const Address_Usage& usage,
+                                   const DB_FB_Control& block);
+/// Adds to a pin's object what else is bound to the same, with the count.
+void addOthers(QJsonObject& object, const ProjectDatabase& database, const Address_Usage& usage, const FB_Pin_Ref& pin);
+
+/// Pins of other blocks that share an internal variable with the block: those that an edit of it may release.
+[[nodiscard]] std::vector<FB_Pin_Ref> sharingVariables(const Address_Usage& usage, const DB_FB_Control& block);
+/// Those of the pins that are bound to nothing now.
+[[nodiscard]] QJsonArray released(const ProjectDatabase& database, const std::vector<FB_Pin_Ref>& pins);
+
+/// Elements of visualisation pages with a parameter that names the block.
+[[nodiscard]] QJsonArray elementsOf(const ProjectDatabase& database, const QUuid& block);
+
+} // namespace FB_Block_Links
