@@ -18,6 +18,7 @@ public:
     define("PAGE", made.value("fb_pages").toArray().first().toObject().value("guid").toString());
     must(u"create_address"_s, parsed(R"({"main":1,"middle":1,"sub":1,"comment":"Licht an"})"));
     must(u"create_address"_s, parsed(R"({"main":1,"middle":1,"sub":2,"comment":"Licht aus"})"));
+    must(u"create_address"_s, parsed(R"({"main":1,"middle":2,"sub":1,"comment":"Hausmodus","data_type":5010})"));
     addBlock("AND", 50, 64);
     addBlock("LUA", 900, 256);
     addBlock("MODBUS", 1917, 448);
@@ -42,6 +43,9 @@ public:
     return document.object();
   }
   QJsonObject must(const QString& tool, const QJsonObject& arguments) {
+    if (!mDispatcher.catalogue().find(tool)) {
+      return {};
+    }
     const QJsonObject object = call(tool, arguments);
     if (object.contains("error")) {
       qFatal("%s: %s", qPrintable(tool), qPrintable(object.value("error").toString()));

@@ -26,7 +26,7 @@ export class Assistant {
   static async connect(transportName, url, transcript) {
     const assistant = new Assistant();
     assistant.#transcript = transcript;
-    assistant.#write(`\n=== ${transportName} ===`);
+    assistant.transport = transportName;
     const transport = transports[transportName](url);
     assistant.#listenTo(transport);
     assistant.client = new Client({ name: 'end-to-end-test', version: '1.0.0' });
@@ -63,7 +63,7 @@ export class Assistant {
   }
 
   #write(line) {
-    appendFileSync(this.#transcript, `${line}\n`);
+    appendFileSync(this.#transcript, `${this.transport.split('/')[1]} ${line}\n`);
   }
 
   #listenTo(transport) {
