@@ -121,6 +121,7 @@ private:
   Child_Undo<DB_Widget_Page> mElementUndo;
   Single_Record_Undo mProjectUndo;
   Single_Record_Undo mConnectionsUndo;
+  Single_Record_Undo mStatisticUndo;
   Working_Copy mWorkingCopy;
   QString mPath;
   File_State mFileState; ///< of the project file when its content was last read or written
@@ -128,5 +129,4 @@ private:
       mWorkingState; ///< what the working file holds; none when that is no state of the history
   QString mLastError;
   QPointer<Value_Service> mValueService;
-  Single_Record_Undo mStatisticUndo;
 };

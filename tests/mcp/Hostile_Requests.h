@@ -149,7 +149,7 @@ private:
   /// Of the declared type more often than not.
   [[nodiscard]] QJsonValue argument(const QString& type) {
     for (int attempt = 0; attempt < 40; ++attempt) {
-      const QJsonValue value = any(3);
+      QJsonValue value = any(3);
       if ((type == u"string" && value.isString()) || (type == u"boolean" && value.isBool()) ||
           (type == u"array" && value.isArray()) || (type == u"object" && (value.isObject() || value.isArray())) ||
           ((type == u"integer" || type == u"number") && value.isDouble()) || below(20) == 0) {
