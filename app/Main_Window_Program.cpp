@@ -16,6 +16,8 @@
 #include "ui/Dev_Statistic_Dlg.h"
 #include "ui/Page_View.h"
 
+#include <QApplication>
+
 namespace {
 constexpr double cPercent = 100;
 } // namespace
@@ -73,6 +75,10 @@ void Main_Window_Dev::followSelection(FB_Page& page) {
     }
   }
   if (&page == pageTabs().logicPage()) {
+    // The fields go with the last block. Who types in one, while an assistant deletes it, must not press a button next.
+    if (blocks.isEmpty() && properties().isAncestorOf(QApplication::focusWidget())) {
+      page.setFocus(Qt::OtherFocusReason);
+    }
     properties().showBlocks(page);
   }
   updateActions();

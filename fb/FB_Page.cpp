@@ -73,15 +73,12 @@ void FB_Page::follow(const QSet<QUuid>& changed, bool arePagesChanged) {
     cancelGesture();
     const QList<QUuid> before = selectedBlocks();
     const QList<QUuid> made = mBlocks.follow(changed);
+    mLastMade = {made.begin(), made.end()};
     rebuildConnections();
     updateSize();
     viewChanged();
-    if (!made.isEmpty()) {
-      select(made);
-      if (isVisible()) {
-        bringIntoView(mBlocks.extent(made));
-      }
-    } else if (before != selectedBlocks()) {
+    // Blocks that an assistant makes leave the user the selection, and the panel in which he may be typing.
+    if (before != selectedBlocks()) {
       tellSelection();
     }
     emit pageChanged();
@@ -97,9 +94,23 @@ void FB_Page::refreshBindings() {
   update();
 }
 
-/// What undo or redo has changed comes into the visible part when nothing of it is there.
+/// Blocks that undo or redo brings are selected; what it has changed comes into the visible part when nothing of it is
+/// there.
 void FB_Page::onStepApplied(const std::vector<History::Applied>& records) {
   mFollower->flush();
+  QList<QUuid> made;
+  for (const History::Applied& record : records) {
+    if (mLastMade.contains(record.mId) && mBlocks.indexOf(record.mId) >= 0) {
+      made.append(record.mId);
+    }
+  }
+  mLastMade.clear();
+  if (!made.isEmpty()) {
+    select(made);
+    if (isVisible()) {
+      bringIntoView(mBlocks.extent(made));
+    }
+  }
   QRectF changed;
   for (const History::Applied& record : records) {
     const int index = record.mPage == mGuid ? mBlocks.indexOf(record.mId) : -1;

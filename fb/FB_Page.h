@@ -244,6 +244,7 @@ private:
   QUuid mGuid;
   int mTenths = 10; ///< the zoom in steps, so that it never drifts
   FB_Page_Blocks mBlocks;
+  QSet<QUuid> mLastMade; ///< blocks that came with the last changes of the records
   FB_Page_Follower* mFollower;
   FB_Page_Overlay* mOverlay;
   FB_Page_Commands* mCommands;

@@ -62,8 +62,17 @@ void FB_Page_List_Commands::onProperties(const QUuid& page) {
     return;
   }
   FB_Page_Properties_Dlg dialog(mSession, page, mWindow);
-  if (dialog.exec() == QDialog::Accepted) {
-    tell(FB_Page_List_Edits::setProperties(mSession, page, dialog.properties()));
+  const FB_Page_List_Edits::Properties shown = dialog.properties();
+  while (dialog.exec() == QDialog::Accepted) {
+    // An assistant may have worked on the page, and on what may be edited at all.
+    const FB_Page_List_Edits::Properties now = FB_Page_List_Edits::properties(mSession, page);
+    const Edit_Result result =
+        FB_Page_List_Edits::setProperties(mSession, page, FB_Page_List_Edits::merged(shown, dialog.properties(), now));
+    if (result || !mSession.database().mFbPages.page(page)) {
+      tell(result);
+      return;
+    }
+    Message_Box::showMessage(mWindow, result.mError); // what was typed is still there
   }
 }
 

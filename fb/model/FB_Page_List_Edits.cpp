@@ -247,3 +247,10 @@ Edit_Result FB_Page_List_Edits::setProperties(Project_Session& session, const QU
   });
   return Edit_Result::done();
 }
+
+FB_Page_List_Edits::Properties FB_Page_List_Edits::merged(const Properties& shown, const Properties& edited,
+                                                          const Properties& now) {
+  const auto take = [&](auto member) { return edited.*member == shown.*member ? now.*member : edited.*member; };
+  return {take(&Properties::mCaption),    take(&Properties::mComment), take(&Properties::mIsActive),
+          take(&Properties::mController), take(&Properties::mWidth),   take(&Properties::mHeight)};
+}

@@ -42,5 +42,7 @@ Edit_Result remove(Project_Session& session, const QUuid& page);
 Edit_Result move(Project_Session& session, const QUuid& page, qsizetype place);
 [[nodiscard]] Properties properties(const Project_Session& session, const QUuid& page);
 Edit_Result setProperties(Project_Session& session, const QUuid& page, const Properties& properties);
+/// What a user made of the properties that were shown, on top of what somebody else has made of them meanwhile.
+[[nodiscard]] Properties merged(const Properties& shown, const Properties& edited, const Properties& now);
 
 } // namespace FB_Page_List_Edits

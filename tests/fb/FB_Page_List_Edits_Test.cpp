@@ -14,6 +14,17 @@ class FB_Page_List_Edits_Test : public QObject {
   using Edit = std::function<QString(Project_Session& session, const QUuid& first, const QUuid& second)>;
 
 private slots:
+  void onlyWhatTheUserChangedIsWritten() {
+    const Edits::Properties shown{u"B"_s, u"Text"_s, true, 2, 800, 600};
+    const Edits::Properties now{u"B"_s, u"Anders"_s, true, 1, 800, 900};
+    QCOMPARE(Edits::merged(shown, shown, now), now);
+    Edits::Properties edited = shown;
+    edited.mCaption = u"C"_s;
+    edited.mHeight = 700;
+    const Edits::Properties wanted{u"C"_s, u"Anders"_s, true, 1, 800, 700};
+    QCOMPARE(Edits::merged(shown, edited, now), wanted);
+  }
+
   void edits_data() {
     QTest::addColumn<Edit>("edit");
     QTest::addColumn<QString>("captions");

@@ -239,6 +239,17 @@ private slots:
     QVERIFY(!QApplication::activePopupWidget());
   }
 
+  void whoMakesABlockElsewhereLeavesTheSelection() {
+    mPage->select({mFirst});
+    const FB_Page_Edits::Result made = FB_Page_Edits::create(mRig->mSession, mGuid, 50, {960, 960});
+    QTRY_VERIFY(mPage->blocks().find(made.mBlocks.value(0)));
+    QCOMPARE(mPage->selectedBlocks(), {mFirst});
+    QVERIFY(mRig->mSession.history().undo());
+    QCOMPARE(mPage->selectedBlocks(), {mFirst});
+    QVERIFY(mRig->mSession.history().redo()); // who asks for it, looks for it
+    QCOMPARE(mPage->selectedBlocks(), made.mBlocks);
+  }
+
   void dropsBeyondTheEdgeStayReachable() {
     pages().changePage(mGuid, [](DB_FB_Page& page) { page.mWidth = 800; });
     QTRY_COMPARE(mPage->width(), 800);
