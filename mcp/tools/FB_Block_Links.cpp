@@ -73,6 +73,20 @@ std::vector<FB_Pin_Ref> FB_Block_Links::sharingVariables(const Address_Usage& us
   return pins;
 }
 
+std::vector<FB_Pin_Ref> FB_Block_Links::sharingVariable(const ProjectDatabase& database,
+                                                        const DB_Address_Binding& binding) {
+  std::vector<FB_Pin_Ref> pins;
+  if (binding.mKind == Kind::Internal) {
+    const Address_Usage usage(database);
+    for (const Address_Use& use : usage.uses(binding.mKey)) {
+      if (FB_Use_Json::isPin(use)) {
+        pins.push_back(FB_Use_Json::pinOf(use));
+      }
+    }
+  }
+  return pins;
+}
+
 QJsonArray FB_Block_Links::released(const ProjectDatabase& database, const std::vector<FB_Pin_Ref>& pins) {
   QJsonArray array;
   for (const FB_Pin_Ref& pin : pins) {
@@ -82,6 +96,13 @@ QJsonArray FB_Block_Links::released(const ProjectDatabase& database, const std::
     }
   }
   return array;
+}
+
+void FB_Block_Links::addReleased(QJsonObject& object, const ProjectDatabase& database,
+                                 const std::vector<FB_Pin_Ref>& pins) {
+  if (const QJsonArray array = released(database, pins); !array.isEmpty()) {
+    object.insert(QStringLiteral("released"), array);
+  }
 }
 
 QJsonArray FB_Block_Links::elementsOf(const ProjectDatabase& database, const QUuid& block) {

@@ -9,6 +9,7 @@
 
 class Address_Usage;
 class DB_FB_Control;
+struct DB_Address_Binding;
 class ProjectDatabase;
 
 /// What a block hangs on, as tools answer it.
@@ -22,8 +23,13 @@ void addOthers(QJsonObject& object, const ProjectDatabase& database, const Addre
 
 /// Pins of other blocks that share an internal variable with the block: those that an edit of it may release.
 [[nodiscard]] std::vector<FB_Pin_Ref> sharingVariables(const Address_Usage& usage, const DB_FB_Control& block);
+/// Pins that are bound to that internal variable; none for another binding.
+[[nodiscard]] std::vector<FB_Pin_Ref> sharingVariable(const ProjectDatabase& database,
+                                                      const DB_Address_Binding& binding);
 /// Those of the pins that are bound to nothing now.
 [[nodiscard]] QJsonArray released(const ProjectDatabase& database, const std::vector<FB_Pin_Ref>& pins);
+/// Adds them to what is answered, when there are some.
+void addReleased(QJsonObject& object, const ProjectDatabase& database, const std::vector<FB_Pin_Ref>& pins);
 
 /// Elements of visualisation pages with a parameter that names the block.
 [[nodiscard]] QJsonArray elementsOf(const ProjectDatabase& database, const QUuid& block);

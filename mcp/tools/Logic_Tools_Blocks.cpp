@@ -33,11 +33,7 @@ void warnOfNew(MCP_Call& call, const DB_FB_Page& page, const DB_FB_Control& bloc
     call.warn(QStringLiteral("Ein-/Ausgaenge und Parameter dieses Typs sind dem Studio nicht bekannt: der Baustein hat "
                              "hier keine und laesst sich nicht verbinden."));
   }
-  if (!QRectF(0, 0, page.mWidth, page.mHeight).contains(FB_Geometry::rect(block))) {
-    call.warn(QStringLiteral("Der Baustein liegt nicht ganz auf der Seite (%1 x %2 Pixel).")
-                  .arg(page.mWidth)
-                  .arg(page.mHeight));
-  }
+  FB_Json::warnOfPlace(call, page, block);
 }
 
 /// Gives the new block's pins addresses; how many came is told in `object`.
