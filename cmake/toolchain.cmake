@@ -8,7 +8,8 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 # Programs are compiled like libraries, so that both can share one precompiled header.
 set(CMAKE_CXX_COMPILE_OPTIONS_PIE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
-# One target `autogen` runs every moc without building the libraries first; ./lint needs just that.
+# One target `autogen` runs every moc of the rooms without building the libraries first; ./lint needs just that and
+# `test_mocs`.
 set(CMAKE_GLOBAL_AUTOGEN_TARGET ON)
 set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
 

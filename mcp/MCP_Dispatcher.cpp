@@ -19,6 +19,7 @@ namespace {
 constexpr int cMethodNotFound = -32601;
 constexpr qsizetype cLoggedArguments = 200;
 constexpr qsizetype cNamedUnknown = 5;
+constexpr qsizetype cLongestMessage = 2000;
 
 QByteArray compact(const QJsonObject& object) {
   return QJsonDocument(object).toJson(QJsonDocument::Compact);
@@ -37,9 +38,21 @@ QJsonObject response(qint64 id, const QString& member, const QJsonValue& value) 
   return object;
 }
 
+/// Failures and warnings quote what was sent, which may be huge: an assistant has to read the answer.
+QJsonObject withShortMessages(const MCP_Result& result) {
+  QJsonObject object = result.mObject;
+  for (auto member = object.begin(); member != object.end(); ++member) {
+    const QString text = member.value().toString();
+    if (text.size() > cLongestMessage && (result.mIsError || member.key() == u"warning")) {
+      member.value() = text.first(cLongestMessage) + QStringLiteral("...");
+    }
+  }
+  return object;
+}
+
 QJsonObject wrapped(const MCP_Result& result) {
   const QJsonObject text{{QStringLiteral("type"), QStringLiteral("text")},
-                         {QStringLiteral("text"), QString::fromUtf8(compact(result.mObject))}};
+                         {QStringLiteral("text"), QString::fromUtf8(compact(withShortMessages(result)))}};
   return {{QStringLiteral("content"), QJsonArray{text}}, {QStringLiteral("isError"), result.mIsError}};
 }
 

@@ -104,16 +104,22 @@ void Small_House_Test::exchangeValues() {
   if (!link->isOnline()) { // the controller has started anew
     QCOMPARE(call(u"connect_runtime"_s).value("connected").toBool(), true);
   }
-  call(u"set_address_value"_s, R"({"main":3,"middle":1,"sub":1,"value":21.5})");
   const Group_Address address(3, 1, 1);
-  QTRY_VERIFY(!mRig.mServer.controller().values().value(address).isEmpty());
-  const QByteArray sent = mRig.mServer.controller().values().value(address);
-  QCOMPARE(call(u"get_address_value"_s, R"({"main":3,"middle":1,"sub":1})").value("value").toDouble(), 21.5);
-  // What a device sends is read as well.
+  const auto held = [this, &address] { return mRig.mServer.controller().values().value(address); };
+  const auto isRead = [this](double value) {
+    return call(u"get_address_value"_s, R"({"main":3,"middle":1,"sub":1})").value("value") == value;
+  };
+  const QByteArray first = held();
+  call(u"set_address_value"_s, R"({"main":3,"middle":1,"sub":1,"value":21.5})");
+  QTRY_VERIFY(held() != first);
+  QVERIFY(isRead(21.5));
+  const QByteArray second = held();
   call(u"set_address_value"_s, R"({"main":3,"middle":1,"sub":1,"value":4})");
-  QTRY_VERIFY(mRig.mServer.controller().values().value(address) != sent);
-  mRig.mServer.controller().writeValue(address, sent, 1, 1, 20);
-  QTRY_COMPARE(call(u"get_address_value"_s, R"({"main":3,"middle":1,"sub":1})").value("value").toDouble(), 21.5);
+  QTRY_VERIFY(held() != second);
+  QVERIFY(isRead(4));
+  // As if a device on the bus had sent it.
+  mRig.mServer.controller().writeValue(address, second, 1, 1, 20);
+  QTRY_VERIFY(isRead(21.5));
 
   call(u"set_play_mode"_s, R"({"enabled":true})");
   QVERIFY(mRig.mState.operatingMode());
@@ -135,9 +141,6 @@ void Small_House_Test::openAgain() {
 }
 
 void Small_House_Test::fromNothingToARunningController() {
-  if (mRig.mDispatcher.catalogue().tools().empty()) {
-    QSKIP("no tools are listed");
-  }
   using Step = void (Small_House_Test::*)();
   for (const Step step :
        {&Small_House_Test::beginProject, &Small_House_Test::defineAddresses, &Small_House_Test::drawLogic,

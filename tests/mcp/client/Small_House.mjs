@@ -24,7 +24,7 @@ const esf = [
   "Heizung.Soll.3/2/1\tSollwert Wohnen\tEIS 5 'Value' (2 Byte)\tLow\t",
 ].join('\n');
 
-const script = ['function OnInit()', 'end', '', 'function OnInputChanged(index)', '  SetOutput(1, 1)', 'end', ''].join('\n');
+const script = 'function onInputChanged()\n  sys_set_value("A1", sys_get_value("E1"), false)\nend\n';
 
 async function begin(assistant, studio, name) {
   const made = await assistant.call('new_project', {
@@ -41,7 +41,7 @@ async function begin(assistant, studio, name) {
 
 async function addresses(assistant) {
   await assistant.call('import_knx_addresses', { file_content: esf, format: 'esf' });
-  await assistant.call('create_address', { ...bell, comment: 'Klingel' });
+  await assistant.call('create_address', { ...bell, comment: 'Klingel', data_type: 1001 });
   assert.match(await assistant.failure('create_address', { ...bell, comment: 'noch eine' }), /1\/4\/1/);
   const found = await assistant.call('list_addresses', { filter: 'Küche' });
   assert.match(JSON.stringify(found), /Taster Küche.*Lampe Küche/);
@@ -106,7 +106,7 @@ async function readsHelp(assistant, block) {
   assert.ok(program.some((topic) => topic.topic === 'program/fb_lua_script'));
   const help = await assistant.call('get_help', { fb_guid: block });
   assert.match(JSON.stringify(help), /Treppenhaus/);
-  assert.match(JSON.stringify(await assistant.call('get_lua_api_reference')), /OnInit|Timer/);
+  assert.match(JSON.stringify(await assistant.call('get_lua_api_reference')), /sys_set_value.*onInputChanged|onInputChanged.*sys_set_value/);
 }
 
 async function toTheController(assistant) {
@@ -175,7 +175,7 @@ async function isInTheFile(assistant, studio, name) {
   const before = await everything(assistant);
   assert.deepEqual(before.pages.map((page) => [page.caption, page.block_count]), [['Erdgeschoss', 2], ['Klingel', 1]]);
   await assistant.call('save_project');
-  await assistant.call('new_project', { filename: studio.projectPath(`${name} leer`), connection_ip: studio.controller });
+  await assistant.call('new_project', { filename: studio.projectPath(`Leer ${name}`), connection_ip: studio.controller });
   await assistant.call('open_project', { filename: studio.projectPath(name) });
   assert.deepEqual(await everything(assistant), before);
 }
