@@ -18,8 +18,12 @@ namespace FB_Block_Links {
 /// The bound pins, inputs first, each with its binding and what else is bound to it.
 [[nodiscard]] QJsonArray boundPins(const ProjectDatabase& database, const Address_Usage& usage,
                                    const DB_FB_Control& block);
-/// Adds to a pin's object what else is bound to the same, with the count.
-void addOthers(QJsonObject& object, const ProjectDatabase& database, const Address_Usage& usage, const FB_Pin_Ref& pin);
+/// Uses that an answer lists in all: a block may have a thousand pins on one address. Each pin's count stays right.
+inline constexpr qsizetype cMostInAll = 1000;
+/// Adds to a pin's object what else is bound to the same, with the count. `room` is how many the answer has still room
+/// for; it shrinks.
+void addOthers(QJsonObject& object, const ProjectDatabase& database, const Address_Usage& usage, const FB_Pin_Ref& pin,
+               qsizetype& room);
 
 /// Pins of other blocks that share an internal variable with the block: those that an edit of it may release.
 [[nodiscard]] std::vector<FB_Pin_Ref> sharingVariables(const Address_Usage& usage, const DB_FB_Control& block);

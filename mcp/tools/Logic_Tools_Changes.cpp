@@ -188,6 +188,9 @@ MCP_Result setScript(MCP_Call& call) {
     return MCP_Result::of(edit);
   }
   const DB_FB_Control& after = *call.database().mFbPages.child(guid);
+  if (after.mParams.at(cScript).size() < call.text("code").remove(u'\r').size()) {
+    call.warn(QStringLiteral("Steuerzeichen im Code sind entfernt: ein Projekt kann sie nicht speichern."));
+  }
   QJsonObject object = FB_Json::block(after, FB_Json::Pins::Brief);
   object.insert(QStringLiteral("code_characters"), after.mParams.at(cScript).size());
   return MCP_Result::done(object);

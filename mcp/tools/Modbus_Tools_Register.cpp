@@ -246,6 +246,8 @@ QJsonObject Modbus_Tools_Register::entry(const DB_FB_Control& block, int index) 
 }
 
 QStringList Modbus_Tools_Register::lostBindings(const DB_FB_Control& before, const DB_FB_Control& after) {
+  // By key and name first: of several pins on one address the one that went is to be named.
+  QHash<std::pair<QUuid, QString>, int> keptPins;
   QHash<QUuid, int> kept;
   const auto walk = [](const DB_FB_Control& block, auto&& visit) {
     Pin_Walk pins(block);
@@ -257,12 +259,23 @@ QStringList Modbus_Tools_Register::lostBindings(const DB_FB_Control& before, con
       });
     }
   };
-  walk(after, [&kept](const DB_FB_Pin& pin) { ++kept[pin.mBinding.mKey]; });
-  QStringList lost;
+  walk(after, [&](const DB_FB_Pin& pin) {
+    ++keptPins[{pin.mBinding.mKey, pin.mLongName}];
+    ++kept[pin.mBinding.mKey];
+  });
+  std::vector<const DB_FB_Pin*> gone;
   walk(before, [&](const DB_FB_Pin& pin) {
-    if (--kept[pin.mBinding.mKey] < 0) {
-      lost.append(QStringLiteral("%1 (%2)").arg(pin.mLongName, textOf(pin.mBinding)));
+    if (--keptPins[{pin.mBinding.mKey, pin.mLongName}] < 0) {
+      gone.push_back(&pin);
+    } else {
+      --kept[pin.mBinding.mKey];
     }
   });
+  QStringList lost;
+  for (const DB_FB_Pin* const pin : gone) {
+    if (--kept[pin->mBinding.mKey] < 0) {
+      lost.append(QStringLiteral("%1 (%2)").arg(pin->mLongName, textOf(pin->mBinding)));
+    }
+  }
   return lost;
 }

@@ -215,6 +215,9 @@ void Logic_Tools_Test::edits_data() {
     return h.block(h.mScript).mParams[0] == "x = 1\ny = = 2" && h.block(h.mScript).mInputs.size() == 1 &&
            warns(answer, "Zeile 2");
   });
+  script("script with what a project cannot hold", {{"code", "-- \x02\x03"}}, [](House& h, const QJsonObject& answer) {
+    return h.block(h.mScript).mParams[0] == "-- " && warns(answer, "Steuerzeichen");
+  });
 
   row(
       "formula with a fault is stored", "update_fb",

@@ -146,6 +146,29 @@ private slots:
     QCOMPARE(dump(), mStart);
   }
 
+  void manyPinsOnOneAddress() {
+    const QJsonArray thousand = [] {
+      QJsonArray registers;
+      for (int i = 0; i < 1000; ++i) {
+        registers.append(QJsonObject{{u"address"_s, i}, {u"name"_s, u"R%1"_s.arg(i)}});
+      }
+      return registers;
+    }();
+    const QUuid light = mRig->addAddress({1, 2, 4}, u"Licht"_s)->mKey;
+    QVERIFY(!mRig->call(u"set_modbus_master_registers"_s, with({{u"registers"_s, thousand}})).contains(u"error"_s));
+    for (int i = 0; i < 1000; ++i) {
+      QVERIFY(FB_Page_Edits::bind(mRig->mSession, {mMaster, FB_Side::Output, 2 + i}, light));
+    }
+    QCOMPARE(mRig->call(u"update_modbus_master_register"_s, with({{u"index"_s, 5}, {u"function_code"_s, 6}}))
+                 .value(u"warning"_s)
+                 .toString(),
+             u"Verknuepfungen verloren (1): R5 (1/2/4)."_s);
+
+    const QJsonObject detail = mRig->call(u"get_fb_detail"_s, {{u"guid"_s, mMaster.toString()}});
+    QCOMPARE(detail.value(u"outputs"_s).toArray().last().toObject().value(u"also_bound_count"_s).toInt(), 998);
+    QVERIFY(QJsonDocument(detail).toJson(QJsonDocument::Compact).size() < 600'000);
+  }
+
   void refusesOtherBlocks() {
     const QString guid = mOther.toString();
     for (const char* const tool :
