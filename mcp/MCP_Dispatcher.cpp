@@ -169,8 +169,12 @@ MCP_Result MCP_Dispatcher::run(const QString& name, const QJsonObject& arguments
 }
 
 MCP_Result MCP_Dispatcher::runHandler(const MCP_Tool& tool, const QJsonObject& arguments) {
-  MCP_Call call(mStudio, mStudio.session(), arguments);
   const QStringList unknown = tool.unknownIn(arguments);
+  QJsonObject known = arguments;
+  for (const QString& name : unknown) {
+    known.remove(name); // a handler shared by several tools may know it
+  }
+  MCP_Call call(mStudio, mStudio.session(), known);
   if (!unknown.isEmpty()) {
     call.warn(unknownText(unknown));
   }

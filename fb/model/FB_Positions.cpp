@@ -30,8 +30,8 @@ Edit_Result FB_Positions::check(const QPointF& position) {
   return Edit_Result::refused(
       QCoreApplication::translate("FB_Page_Edits",
                                   "Die Position (%1; %2) ist nicht möglich, erlaubt sind %3 bis %4 Pixel.")
-          .arg(locale.toString(position.x()), locale.toString(position.y()), locale.toString(-cLimit, 'f', 0),
-               locale.toString(cLimit, 'f', 0)));
+          .arg(locale.toString(position.x(), 'f', 0), locale.toString(position.y(), 'f', 0),
+               locale.toString(-cLimit, 'f', 0), locale.toString(cLimit, 'f', 0)));
 }
 
 QPointF FB_Positions::clamped(const QPointF& position) {

@@ -37,22 +37,28 @@ void forBoundPins(const DB_FB_Control& block, Visit&& visit) {
 QJsonArray FB_Block_Links::boundPins(const ProjectDatabase& database, const Address_Usage& usage,
                                      const DB_FB_Control& block) {
   QJsonArray pins;
+  qsizetype room = cMostInAll;
   forBoundPins(block, [&](const FB_Pin_Ref& pin, const DB_Address_Binding& binding) {
     QJsonObject object = FB_Use_Json::pin(block, pin.mSide, pin.mIndex);
     object.insert(QStringLiteral("binding"), FB_Json::binding(binding));
-    addOthers(object, database, usage, pin);
+    addOthers(object, database, usage, pin, room);
     pins.append(object);
   });
   return pins;
 }
 
 void FB_Block_Links::addOthers(QJsonObject& object, const ProjectDatabase& database, const Address_Usage& usage,
-                               const FB_Pin_Ref& pin) {
+                               const FB_Pin_Ref& pin, qsizetype& room) {
   const DB_FB_Control* const block = database.mFbPages.child(pin.mBlock);
   const auto uses = usage.uses(pinAt(*block, pin).mBinding.mKey);
-  if (uses.size() > 1) {
-    object.insert(QStringLiteral("also_bound"), FB_Use_Json::others(database, uses, block->mPageGuid, {pin}));
-    object.insert(QStringLiteral("also_bound_count"), static_cast<qint64>(uses.size()) - 1);
+  if (uses.size() <= 1) {
+    return;
+  }
+  object.insert(QStringLiteral("also_bound_count"), static_cast<qint64>(uses.size()) - 1);
+  if (room > 0) {
+    const QJsonArray others = FB_Use_Json::others(database, uses, block->mPageGuid, {pin});
+    object.insert(QStringLiteral("also_bound"), others);
+    room -= others.size();
   }
 }
 
@@ -73,6 +79,20 @@ std::vector<FB_Pin_Ref> FB_Block_Links::sharingVariables(const Address_Usage& us
   return pins;
 }
 
+std::vector<FB_Pin_Ref> FB_Block_Links::sharingVariable(const ProjectDatabase& database,
+                                                        const DB_Address_Binding& binding) {
+  std::vector<FB_Pin_Ref> pins;
+  if (binding.mKind == Kind::Internal) {
+    const Address_Usage usage(database);
+    for (const Address_Use& use : usage.uses(binding.mKey)) {
+      if (FB_Use_Json::isPin(use)) {
+        pins.push_back(FB_Use_Json::pinOf(use));
+      }
+    }
+  }
+  return pins;
+}
+
 QJsonArray FB_Block_Links::released(const ProjectDatabase& database, const std::vector<FB_Pin_Ref>& pins) {
   QJsonArray array;
   for (const FB_Pin_Ref& pin : pins) {
@@ -82,6 +102,13 @@ QJsonArray FB_Block_Links::released(const ProjectDatabase& database, const std::
     }
   }
   return array;
+}
+
+void FB_Block_Links::addReleased(QJsonObject& object, const ProjectDatabase& database,
+                                 const std::vector<FB_Pin_Ref>& pins) {
+  if (const QJsonArray array = released(database, pins); !array.isEmpty()) {
+    object.insert(QStringLiteral("released"), array);
+  }
 }
 
 QJsonArray FB_Block_Links::elementsOf(const ProjectDatabase& database, const QUuid& block) {

@@ -70,20 +70,34 @@ void FB_Connection_List::addToOtherPages(const FB_Pin_Ref& pin) {
   const DB_FB_Control& block = *mDatabase.mFbPages.child(pin.mBlock);
   const DB_Address_Binding& binding = bindingOf(block, pin.mSide, pin.mIndex);
   const QJsonObject here = FB_Use_Json::pin(block, pin.mSide, pin.mIndex);
-  for (const Address_Use& use : mUsage.uses(binding.mKey)) {
-    const bool isOtherEnd =
-        FB_Use_Json::isPin(use) && use.mPageGuid != mPage.mGuid && FB_Use_Json::pinOf(use).mSide != pin.mSide;
-    if (!isOtherEnd) {
+  for (const Address_Use& use : elsewhere(binding.mKey)) {
+    if (FB_Use_Json::pinOf(use).mSide == pin.mSide) {
       continue;
+    }
+    if (mConnections.size() == cMost) {
+      mIsTruncated = true;
+      return;
     }
     const QJsonObject there = FB_Use_Json::use(mDatabase, use, mPage.mGuid);
     const bool isSource = pin.mSide == FB_Side::Output;
     append(mConnections,
            entry(QStringLiteral("other_page"), binding, isSource ? here : there, isSource ? there : here));
-    if (mIsTruncated) {
-      return;
+  }
+}
+
+/// Once for each binding: very many pins of a page may share one.
+const std::vector<Address_Use>& FB_Connection_List::elsewhere(const QUuid& key) {
+  const auto found = mElsewhere.constFind(key);
+  if (found != mElsewhere.cend()) {
+    return *found;
+  }
+  std::vector<Address_Use> uses;
+  for (const Address_Use& use : mUsage.uses(key)) {
+    if (FB_Use_Json::isPin(use) && use.mPageGuid != mPage.mGuid) {
+      uses.push_back(use);
     }
   }
+  return *mElsewhere.insert(key, uses);
 }
 
 void FB_Connection_List::append(QJsonArray& list, const QJsonObject& object) {

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "db/Address_Use.h"
 #include "fb/model/FB_Pin_Ref.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
+
+#include <vector>
 
 class Address_Usage;
 class DB_FB_Page;
@@ -28,11 +32,14 @@ private:
   void addWithin();
   void addPins(FB_Side side);
   void addToOtherPages(const FB_Pin_Ref& pin);
+  /// The pins of other pages that are bound to the same.
+  const std::vector<Address_Use>& elsewhere(const QUuid& key);
   void append(QJsonArray& list, const QJsonObject& object);
 
   const ProjectDatabase& mDatabase;
   const Address_Usage& mUsage;
   const DB_FB_Page& mPage;
+  QHash<QUuid, std::vector<Address_Use>> mElsewhere;
   QJsonArray mConnections;
   QJsonArray mExternal;
   bool mIsTruncated = false;

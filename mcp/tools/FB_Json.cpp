@@ -120,6 +120,14 @@ QJsonObject FB_Json::block(const DB_FB_Control& block, Pins detail) {
   return object;
 }
 
+void FB_Json::warnOfPlace(MCP_Call& call, const DB_FB_Page& page, const DB_FB_Control& block) {
+  if (!QRectF(0, 0, page.mWidth, page.mHeight).contains(FB_Geometry::rect(block))) {
+    call.warn(QStringLiteral("Der Baustein liegt nicht ganz auf der Seite (%1 x %2 Pixel).")
+                  .arg(page.mWidth)
+                  .arg(page.mHeight));
+  }
+}
+
 QJsonObject FB_Json::withParameters(const DB_FB_Control& block) {
   QJsonObject object = FB_Json::block(block, Pins::Full);
   object.insert(QStringLiteral("page_guid"), MCP_Lookup::text(block.mPageGuid));

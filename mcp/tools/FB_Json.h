@@ -9,6 +9,7 @@
 struct DB_Address_Binding;
 class DB_FB_Control;
 class DB_FB_Page;
+class MCP_Call;
 class ProjectDatabase;
 
 /// Logic pages, blocks and pins as tools answer them. Members that would be empty are left out.
@@ -36,6 +37,8 @@ enum class Pins {
 [[nodiscard]] QJsonObject head(const DB_FB_Control& block);
 /// With position, size (pixels of the unzoomed page) and pins.
 [[nodiscard]] QJsonObject block(const DB_FB_Control& block, Pins detail);
+/// When the block is not wholly on its page, where a user may not find it.
+void warnOfPlace(MCP_Call& call, const DB_FB_Page& page, const DB_FB_Control& block);
 /// With its parameters: what the next call needs.
 [[nodiscard]] QJsonObject withParameters(const DB_FB_Control& block);
 

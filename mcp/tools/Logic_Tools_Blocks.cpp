@@ -33,11 +33,7 @@ void warnOfNew(MCP_Call& call, const DB_FB_Page& page, const DB_FB_Control& bloc
     call.warn(QStringLiteral("Ein-/Ausgaenge und Parameter dieses Typs sind dem Studio nicht bekannt: der Baustein hat "
                              "hier keine und laesst sich nicht verbinden."));
   }
-  if (!QRectF(0, 0, page.mWidth, page.mHeight).contains(FB_Geometry::rect(block))) {
-    call.warn(QStringLiteral("Der Baustein liegt nicht ganz auf der Seite (%1 x %2 Pixel).")
-                  .arg(page.mWidth)
-                  .arg(page.mHeight));
-  }
+  FB_Json::warnOfPlace(call, page, block);
 }
 
 /// Gives the new block's pins addresses; how many came is told in `object`.
@@ -118,13 +114,14 @@ void addValue(QJsonObject& object, const MCP_Call& call, const DB_Address_Bindin
   }
 }
 
-QJsonArray detailedPins(const MCP_Call& call, const Address_Usage& usage, const DB_FB_Control& block, FB_Side side) {
+QJsonArray detailedPins(const MCP_Call& call, const Address_Usage& usage, const DB_FB_Control& block, FB_Side side,
+                        qsizetype& room) {
   QJsonArray array;
   int index = 0;
   for (const DB_FB_Pin& pin : FB_Pins::pins(block, side)) {
     QJsonObject object = FB_Json::pin(block, side, index, FB_Json::Pins::Full);
     if (pin.mBinding.mKind != Kind::None) {
-      FB_Block_Links::addOthers(object, call.database(), usage, {block.mGuid, side, index});
+      FB_Block_Links::addOthers(object, call.database(), usage, {block.mGuid, side, index}, room);
       addValue(object, call, pin.mBinding);
     }
     array.append(object);
@@ -157,8 +154,9 @@ MCP_Result blockDetail(MCP_Call& call) {
   object.insert(QStringLiteral("page"), call.database().mFbPages.page(block->mPageGuid)->mCaption);
   object.insert(QStringLiteral("name"), block->mName);
   object.insert(QStringLiteral("title"), block->mTitle);
-  object.insert(QStringLiteral("inputs"), detailedPins(call, usage, *block, FB_Side::Input));
-  object.insert(QStringLiteral("outputs"), detailedPins(call, usage, *block, FB_Side::Output));
+  qsizetype room = FB_Block_Links::cMostInAll;
+  object.insert(QStringLiteral("inputs"), detailedPins(call, usage, *block, FB_Side::Input, room));
+  object.insert(QStringLiteral("outputs"), detailedPins(call, usage, *block, FB_Side::Output, room));
   object.insert(QStringLiteral("execution"), execution(call, *block));
   if (!block->mModbusRegisters.empty()) {
     object.insert(QStringLiteral("modbus_register_count"), static_cast<qint64>(block->mModbusRegisters.size()));

@@ -140,6 +140,11 @@ Edit_Result setCaption(MCP_Call& call, const DB_FB_Control& block) {
              : Edit_Result::done();
 }
 
+bool isAnythingGiven(const MCP_Call& call) {
+  return !call.list("params").isEmpty() || call.has("x") || call.has("y") || call.has("comment") ||
+         call.has("comment_use_as_caption");
+}
+
 MCP_Result updateBlock(MCP_Call& call) {
   const auto block = MCP_Lookup::block(call, "guid");
   if (!block) {
@@ -156,7 +161,14 @@ MCP_Result updateBlock(MCP_Call& call) {
   if (!edit) {
     return MCP_Result::of(edit);
   }
-  return MCP_Result::done(FB_Json::withParameters(*call.database().mFbPages.child(guid)));
+  const DB_FB_Control& after = *call.database().mFbPages.child(guid);
+  if (!isAnythingGiven(call)) {
+    call.warn(QStringLiteral("Nichts angegeben, nichts geaendert."));
+  }
+  if (call.has("x") || call.has("y")) {
+    FB_Json::warnOfPlace(call, *call.database().mFbPages.page(after.mPageGuid), after);
+  }
+  return MCP_Result::done(FB_Json::withParameters(after));
 }
 
 MCP_Result setScript(MCP_Call& call) {
@@ -176,6 +188,9 @@ MCP_Result setScript(MCP_Call& call) {
     return MCP_Result::of(edit);
   }
   const DB_FB_Control& after = *call.database().mFbPages.child(guid);
+  if (after.mParams.at(cScript).size() < call.text("code").remove(u'\r').size()) {
+    call.warn(QStringLiteral("Steuerzeichen im Code sind entfernt: ein Projekt kann sie nicht speichern."));
+  }
   QJsonObject object = FB_Json::block(after, FB_Json::Pins::Brief);
   object.insert(QStringLiteral("code_characters"), after.mParams.at(cScript).size());
   return MCP_Result::done(object);

@@ -1,10 +1,12 @@
 #include "db/Address_Usage.h"
 #include "db/ProjectDatabase.h"
 #include "fb/model/FB_Connections.h"
+#include "fb/model/FB_Geometry.h"
 #include "fb/model/FB_Page_Edits.h"
 #include "fb/model/FB_Pin_Types.h"
 #include "fb/model/FB_Pins.h"
 #include "mcp/MCP_Lookup.h"
+#include "mcp/tools/FB_Block_Links.h"
 #include "mcp/tools/FB_Connection_List.h"
 #include "mcp/tools/FB_Json.h"
 #include "mcp/tools/FB_Use_Json.h"
@@ -18,6 +20,19 @@ using Kind = DB_Address_Binding::Kind;
 
 bool hasPin(const DB_FB_Control& block, FB_Side side, int index) {
   return index >= 0 && index < static_cast<int>(FB_Pins::pins(block, side).size());
+}
+
+/// Of an index that the block has no pin for: which it has.
+MCP_Result noPin(const QString& error, const DB_FB_Control& block, FB_Side side) {
+  const auto count = static_cast<qint64>(FB_Pins::pins(block, side).size());
+  const QString pins = side == FB_Side::Input ? QStringLiteral("Eingaenge") : QStringLiteral("Ausgaenge");
+  MCP_Result result = MCP_Result::failed(error);
+  result.mObject.insert(
+      QStringLiteral("hint"),
+      count == 0
+          ? QStringLiteral("Der Baustein \"%1\" hat keine %2.").arg(FB_Geometry::title(block), pins)
+          : QStringLiteral("%2 des Bausteins \"%1\": 0 bis %3.").arg(FB_Geometry::title(block), pins).arg(count - 1));
+  return result;
 }
 
 const DB_Address_Binding& bindingOf(const DB_FB_Control& block, const FB_Pin_Ref& pin) {
@@ -52,12 +67,12 @@ Ends endsOf(const MCP_Call& call) {
   const int output = call.integer("source_output_index");
   const int input = call.integer("target_input_index");
   if (!hasPin(*source, FB_Side::Output, output)) {
-    return failed(
-        MCP_Result::failed(QStringLiteral("Ausgangs-Index ausserhalb des gueltigen Bereichs: %1").arg(output)));
+    return failed(noPin(QStringLiteral("Ausgangs-Index ausserhalb des gueltigen Bereichs: %1").arg(output), *source,
+                        FB_Side::Output));
   }
   if (!hasPin(*target, FB_Side::Input, input)) {
-    return failed(
-        MCP_Result::failed(QStringLiteral("Eingangs-Index ausserhalb des gueltigen Bereichs: %1").arg(input)));
+    return failed(noPin(QStringLiteral("Eingangs-Index ausserhalb des gueltigen Bereichs: %1").arg(input), *target,
+                        FB_Side::Input));
   }
   return {source.mThing,
           target.mThing,
@@ -87,8 +102,12 @@ QStringList warningsFor(const Ends& ends) {
 QJsonObject connectionObject(MCP_Call& call, const Ends& ends) {
   const Address_Usage usage(call.database());
   const auto uses = usage.uses(ends.outputBinding().mKey);
-  const auto isOtherOutput = [&ends](const Address_Use& use) {
-    return use.mPlace == Address_Use::Place::Output && FB_Use_Json::pinOf(use) != ends.mOutput;
+  const auto isOther = [&ends](const Address_Use& use) {
+    return !FB_Use_Json::isPin(use) ||
+           (FB_Use_Json::pinOf(use) != ends.mOutput && FB_Use_Json::pinOf(use) != ends.mInput);
+  };
+  const auto isOtherOutput = [&isOther](const Address_Use& use) {
+    return use.mPlace == Address_Use::Place::Output && isOther(use);
   };
   if (std::ranges::any_of(uses, isOtherOutput)) {
     call.warn(QStringLiteral("Auf diese Verbindung schreiben mehrere Ausgaenge (also_bound)."));
@@ -99,7 +118,7 @@ QJsonObject connectionObject(MCP_Call& call, const Ends& ends) {
       {QStringLiteral("target"), FB_Use_Json::pin(*ends.mTarget, FB_Side::Input, ends.mInput.mIndex)},
       {QStringLiteral("binding"), FB_Json::binding(ends.outputBinding())},
       {QStringLiteral("also_bound"), FB_Use_Json::others(call.database(), uses, page, {ends.mOutput, ends.mInput})},
-      {QStringLiteral("also_bound_count"), static_cast<qint64>(uses.size()) - 2},
+      {QStringLiteral("also_bound_count"), static_cast<qint64>(std::ranges::count_if(uses, isOther))},
       {QStringLiteral("same_page"), page == ends.mTarget->mPageGuid}};
   if (page != ends.mTarget->mPageGuid) {
     object.insert(QStringLiteral("note"),
@@ -120,13 +139,16 @@ MCP_Result connectPins(MCP_Call& call) {
     return MCP_Result::done(object);
   }
   const QStringList warnings = warningsFor(ends);
+  const std::vector<FB_Pin_Ref> sharing = FB_Block_Links::sharingVariable(call.database(), ends.inputBinding());
   if (const Edit_Result edit = FB_Page_Edits::connectPins(call.session(), ends.mOutput, ends.mInput); !edit) {
     return MCP_Result::of(edit);
   }
   for (const QString& warning : warnings) {
     call.warn(warning);
   }
-  return MCP_Result::done(connectionObject(call, ends));
+  QJsonObject object = connectionObject(call, ends);
+  FB_Block_Links::addReleased(object, call.database(), sharing);
+  return MCP_Result::done(object);
 }
 
 /// All pins of the page that share the binding.
@@ -158,12 +180,17 @@ MCP_Result disconnectAll(MCP_Call& call, const DB_FB_Control& block, const FB_Pi
       list.append(FB_Use_Json::pin(*call.database().mFbPages.child(one.mBlock), one.mSide, one.mIndex));
     }
   }
+  std::vector<FB_Pin_Ref> elsewhere = FB_Block_Links::sharingVariable(call.database(), binding);
+  std::erase_if(elsewhere, [&](const FB_Pin_Ref& one) {
+    return call.database().mFbPages.child(one.mBlock)->mPageGuid == block.mPageGuid;
+  });
   if (const Edit_Result edit = FB_Page_Edits::unbind(call.session(), pins); !edit) {
     return MCP_Result::of(edit);
   }
   QJsonObject object{{QStringLiteral("count"), pins.size()},
                      {QStringLiteral("binding"), FB_Json::binding(binding)},
                      {QStringLiteral("disconnected"), list}};
+  FB_Block_Links::addReleased(object, call.database(), elsewhere);
   const Address_Usage usage(call.database());
   if (const auto uses = usage.uses(binding.mKey); !uses.empty()) {
     object.insert(QStringLiteral("still_bound"), FB_Use_Json::others(call.database(), uses, block.mPageGuid, {}));
@@ -180,9 +207,10 @@ MCP_Result disconnectPin(MCP_Call& call) {
   const FB_Pin_Ref pin{block->mGuid, call.integer("io_type") == 0 ? FB_Side::Input : FB_Side::Output,
                        call.integer("io_index")};
   if (!hasPin(*block, pin.mSide, pin.mIndex)) {
-    return MCP_Result::failed(QStringLiteral("IO-Index ausserhalb des gueltigen Bereichs: %1 (max %2)")
-                                  .arg(pin.mIndex)
-                                  .arg(static_cast<qint64>(FB_Pins::pins(*block, pin.mSide).size()) - 1));
+    return noPin(QStringLiteral("IO-Index ausserhalb des gueltigen Bereichs: %1 (max %2)")
+                     .arg(pin.mIndex)
+                     .arg(static_cast<qint64>(FB_Pins::pins(*block, pin.mSide).size()) - 1),
+                 *block, pin.mSide);
   }
   if (bindingOf(*block, pin).mKind == Kind::None) {
     return MCP_Result::done({{QStringLiteral("count"), 0},

@@ -212,7 +212,7 @@ MCP_Tool readingTool() {
                          "(Slave-ID, Protokoll, IP, Port, Timeout) und Register. Bei vielen Registern (z.B. >50) "
                          "Paginierung verwenden: offset=0, limit=50 -> naechster Aufruf mit offset=50 und so weiter, "
                          "bis total erreicht ist. Je Register stehen index, alle Felder und die Anschluesse (pins) mit "
-                         "ihrer Adresse oder Variablen dabei."),
+                         "io_type, io_index (fuer assign_fb_io_address und connect_fb_io) und Verknuepfung dabei."),
           {guid(), MCP_Parameter::integer("offset", "Index des ersten Registers (Vorgabe 0)").within(0, 1'000'000),
            MCP_Parameter::integer("limit", "Hoechstzahl der Register (1-1000, Vorgabe 50)").within(1, cMostLimit)},
           getConfig,

@@ -5,6 +5,7 @@
 #include "fb/model/FB_Pins.h"
 #include "fb/model/FB_Register_Pins.h"
 #include "fb/model/FB_Types.h"
+#include "mcp/tools/FB_Json.h"
 
 #include <QHash>
 #include <QUuid>
@@ -125,15 +126,11 @@ QString textOf(const DB_Address_Binding& binding) {
 }
 
 QJsonObject pinToJson(FB_Side side, size_t index, const DB_FB_Pin& pin) {
-  QJsonObject object{
-      {QStringLiteral("side"), side == FB_Side::Input ? QStringLiteral("input") : QStringLiteral("output")},
-      {QStringLiteral("index"), static_cast<qint64>(index)},
-      {QStringLiteral("name"), pin.mLongName}};
-  if (pin.mBinding.mKind == Kind::GroupAddress) {
-    object.insert(QStringLiteral("address"), textOf(pin.mBinding));
-    object.insert(QStringLiteral("address_name"), pin.mBinding.mName);
-  } else if (pin.mBinding.mKind == Kind::Internal) {
-    object.insert(QStringLiteral("variable"), pin.mBinding.mName);
+  QJsonObject object{{QStringLiteral("io_type"), side == FB_Side::Output ? 1 : 0},
+                     {QStringLiteral("io_index"), static_cast<qint64>(index)},
+                     {QStringLiteral("name"), pin.mLongName}};
+  if (pin.mBinding.mKind != Kind::None) {
+    object.insert(QStringLiteral("binding"), FB_Json::binding(pin.mBinding));
   }
   return object;
 }
@@ -212,6 +209,9 @@ MCP_Result Modbus_Tools_Register::take(const MCP_Call& arguments, DB_Modbus_Regi
   item.mActive = arguments.flag("active", item.mActive);
   item.mWriteMode = arguments.integer("write_mode", item.mWriteMode);
   item.mUpdateOnChange = arguments.flag("update_on_change", item.mUpdateOnChange);
+  if (arguments.has("factor") && item.mFactor == 0) {
+    return MCP_Result::failed(QStringLiteral("Parameter 'factor' darf nicht 0 sein"));
+  }
   for (const FB_Modbus_Fields::Fault& fault : FB_Modbus_Fields::faults(item)) {
     if (!fault.mIsRange) {
       warnings.append(fault.mText);
@@ -246,6 +246,8 @@ QJsonObject Modbus_Tools_Register::entry(const DB_FB_Control& block, int index) 
 }
 
 QStringList Modbus_Tools_Register::lostBindings(const DB_FB_Control& before, const DB_FB_Control& after) {
+  // By key and name first: of several pins on one address the one that went is to be named.
+  QHash<std::pair<QUuid, QString>, int> keptPins;
   QHash<QUuid, int> kept;
   const auto walk = [](const DB_FB_Control& block, auto&& visit) {
     Pin_Walk pins(block);
@@ -257,12 +259,23 @@ QStringList Modbus_Tools_Register::lostBindings(const DB_FB_Control& before, con
       });
     }
   };
-  walk(after, [&kept](const DB_FB_Pin& pin) { ++kept[pin.mBinding.mKey]; });
-  QStringList lost;
+  walk(after, [&](const DB_FB_Pin& pin) {
+    ++keptPins[{pin.mBinding.mKey, pin.mLongName}];
+    ++kept[pin.mBinding.mKey];
+  });
+  std::vector<const DB_FB_Pin*> gone;
   walk(before, [&](const DB_FB_Pin& pin) {
-    if (--kept[pin.mBinding.mKey] < 0) {
-      lost.append(QStringLiteral("%1 (%2)").arg(pin.mLongName, textOf(pin.mBinding)));
+    if (--keptPins[{pin.mBinding.mKey, pin.mLongName}] < 0) {
+      gone.push_back(&pin);
+    } else {
+      --kept[pin.mBinding.mKey];
     }
   });
+  QStringList lost;
+  for (const DB_FB_Pin* const pin : gone) {
+    if (--kept[pin->mBinding.mKey] < 0) {
+      lost.append(QStringLiteral("%1 (%2)").arg(pin->mLongName, textOf(pin->mBinding)));
+    }
+  }
   return lost;
 }

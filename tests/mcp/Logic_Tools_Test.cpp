@@ -182,6 +182,8 @@ void Logic_Tools_Test::edits_data() {
   update("position, one half", {{"x", 320}}, [](House& h, const QJsonObject& answer) {
     return h.block(h.mB).mX == 320 && h.block(h.mB).mY == 32 && answer["x"] == 320;
   });
+  update("position off the page", {{"x", -16}},
+         [](House&, const QJsonObject& answer) { return warns(answer, "nicht ganz auf der Seite"); });
   update("caption", {{"comment", "Flur"}}, [](House& h, const QJsonObject& answer) {
     return h.block(h.mB).mComment == "Flur" && h.block(h.mB).mCommentAsCaption && answer["caption"] == "Flur";
   });
@@ -212,6 +214,9 @@ void Logic_Tools_Test::edits_data() {
   script("script with a fault is stored", {{"code", "x = 1\ny = = 2"}}, [](House& h, const QJsonObject& answer) {
     return h.block(h.mScript).mParams[0] == "x = 1\ny = = 2" && h.block(h.mScript).mInputs.size() == 1 &&
            warns(answer, "Zeile 2");
+  });
+  script("script with what a project cannot hold", {{"code", "-- \x02\x03"}}, [](House& h, const QJsonObject& answer) {
+    return h.block(h.mScript).mParams[0] == "-- " && warns(answer, "Steuerzeichen");
   });
 
   row(
@@ -387,6 +392,8 @@ void Logic_Tools_Test::refusals() {
 
 void Logic_Tools_Test::types() {
   House house;
+  QCOMPARE(house.connectTo(house.mB, 2)["hint"], QJsonValue("Eingaenge des Bausteins \"Und\": 0 bis 1."));
+  QCOMPARE(house.connectTo(house.mComment, 0)["hint"], QJsonValue("Der Baustein \"Kommentar\" hat keine Eingaenge."));
   QVERIFY(house.errorOf("get_fb_type_info").contains("'type' fehlt"));
   QVERIFY(house.errorOf("get_fb_type_info", {{"type", 49}}).contains("list_fb_types"));
   QCOMPARE(house.call("get_fb_type_info", {{"type", cTrigger}})["type"], QJsonValue(cTrigger));
@@ -452,6 +459,16 @@ void Logic_Tools_Test::reading() {
   QCOMPARE(nothing["count"], QJsonValue(0));
   QCOMPARE(house.mSession.history().position(), steps);
 
+  // Two outputs, each with an input of its own: taking the one's input leaves its output without a reader.
+  house.call("connect_fb_io", {{"source_fb_guid", house.mScript},
+                               {"source_output_index", 0},
+                               {"target_fb_guid", house.mFormula},
+                               {"target_input_index", 0}});
+  const QJsonObject taken = house.connectTo(house.mFormula, 0);
+  QCOMPARE(taken["released"].toArray().at(0)["fb_guid"], QJsonValue(house.mScript));
+  QCOMPARE(taken["released"].toArray().size(), 1);
+  QVERIFY(warns(house.call("update_fb", {{"guid", house.mB}}), "nichts geaendert"));
+
   const QJsonObject gone = house.call("delete_function_block", {{"guid", house.mB}});
   QCOMPARE(gone["widgets"].toArray().size(), 1);
   QVERIFY(warns(gone, "1 Bedienelement"));
@@ -485,6 +502,16 @@ void Logic_Tools_Test::connectionList() {
   const QJsonObject cut = house.call("disconnect_fb_io", {{"fb_guid", house.mB}, {"io_type", 0}, {"io_index", 0}});
   QCOMPARE(cut["count"], QJsonValue(2));
   QCOMPARE(cut["still_bound"].toArray().at(0)["fb_guid"], QJsonValue(away));
+  QVERIFY(!cut.contains("released"));
+
+  // The only reader is cut: its output on the other page goes with it.
+  const QString reader = house.add(cAnd);
+  house.call(
+      "connect_fb_io",
+      {{"source_fb_guid", away}, {"source_output_index", 0}, {"target_fb_guid", reader}, {"target_input_index", 0}});
+  const QJsonObject last = house.call("disconnect_fb_io", {{"fb_guid", reader}, {"io_type", 0}, {"io_index", 0}});
+  QCOMPARE(last["released"].toArray().at(0)["fb_guid"], QJsonValue(away));
+  QVERIFY(!last.contains("still_bound"));
 }
 
 QTEST_GUILESS_MAIN(Logic_Tools_Test)

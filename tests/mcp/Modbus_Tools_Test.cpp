@@ -68,6 +68,8 @@ private slots:
             "datatype 'float32' gilt, abweichende Angaben ignoriert: word_count, signed."})");
     row("update", update, R"({"index":2,"name":"D","count":null})",
         R"({"index":2,"name":"D","count":2,"address":20,"datatype":"float32"})");
+    row("what is no parameter changes nothing", update, R"({"index":0,"name":"N","update_on_change":1})",
+        R"({"name":"N","update_on_change":0,"warning":"Unbekannte Parameter ignoriert: update_on_change."})");
     row("update the type", update, R"({"index":0,"datatype":"int64"})",
         R"({"datatype":"int64","word_count":4,"signed":1,"name":"A"})");
     row("loses a binding", update, R"({"index":0,"function_code":6})",
@@ -93,6 +95,7 @@ private slots:
     row("address missing", add, "{}", "Parameter 'address' fehlt");
     row("address too high", add, R"({"address":65536})",
         "Parameter 'address' ausserhalb des gueltigen Bereichs: 65536 (erlaubt 0 bis 65535)");
+    row("factor 0", add, R"({"address":1,"factor":0})", "Parameter 'factor' darf nicht 0 sein");
     row("no such type", add, R"({"address":1,"datatype":"real"})",
         "datatype 'real' unbekannt, erlaubt: bool, int16, uint16, int32, uint32, int64, uint64, float32, float64");
     row("no such parts", update, R"({"index":0,"word_count":3})",
@@ -143,6 +146,29 @@ private slots:
     QCOMPARE(dump(), mStart);
   }
 
+  void manyPinsOnOneAddress() {
+    const QJsonArray thousand = [] {
+      QJsonArray registers;
+      for (int i = 0; i < 1000; ++i) {
+        registers.append(QJsonObject{{u"address"_s, i}, {u"name"_s, u"R%1"_s.arg(i)}});
+      }
+      return registers;
+    }();
+    const QUuid light = mRig->addAddress({1, 2, 4}, u"Licht"_s)->mKey;
+    QVERIFY(!mRig->call(u"set_modbus_master_registers"_s, with({{u"registers"_s, thousand}})).contains(u"error"_s));
+    for (int i = 0; i < 1000; ++i) {
+      QVERIFY(FB_Page_Edits::bind(mRig->mSession, {mMaster, FB_Side::Output, 2 + i}, light));
+    }
+    QCOMPARE(mRig->call(u"update_modbus_master_register"_s, with({{u"index"_s, 5}, {u"function_code"_s, 6}}))
+                 .value(u"warning"_s)
+                 .toString(),
+             u"Verknuepfungen verloren (1): R5 (1/2/4)."_s);
+
+    const QJsonObject detail = mRig->call(u"get_fb_detail"_s, {{u"guid"_s, mMaster.toString()}});
+    QCOMPARE(detail.value(u"outputs"_s).toArray().last().toObject().value(u"also_bound_count"_s).toInt(), 998);
+    QVERIFY(QJsonDocument(detail).toJson(QJsonDocument::Compact).size() < 600'000);
+  }
+
   void refusesOtherBlocks() {
     const QString guid = mOther.toString();
     for (const char* const tool :
@@ -176,9 +202,10 @@ private slots:
       return QString::fromUtf8(
           QJsonDocument(registers.at(i).toObject().value(u"pins"_s).toArray()).toJson(QJsonDocument::Compact));
     };
-    QCOMPARE(pins(0), uR"([{"address":"1/2/3","address_name":"Leistung","index":2,"name":"A","side":"output"}])"_s);
-    QCOMPARE(pins(1), uR"([{"index":0,"name":"B","side":"input"}])"_s);
-    QCOMPARE(pins(2), uR"([{"index":3,"name":"C [1]","side":"output"},{"index":4,"name":"C [2]","side":"output"}])"_s);
+    QCOMPARE(pins(0), uR"([{"binding":{"address":"1/2/3","comment":"Leistung","kind":"address"},)"
+                      uR"("io_index":2,"io_type":1,"name":"A"}])"_s);
+    QCOMPARE(pins(1), uR"([{"io_index":0,"io_type":0,"name":"B"}])"_s);
+    QCOMPARE(pins(2), uR"([{"io_index":3,"io_type":1,"name":"C [1]"},{"io_index":4,"io_type":1,"name":"C [2]"}])"_s);
   }
 
 private:
