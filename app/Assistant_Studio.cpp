@@ -4,6 +4,7 @@
 #include "app/Project_Lifecycle.h"
 #include "app/Project_Write.h"
 #include "app/Window_Link.h"
+#include "base/File_Copy.h"
 #include "base/Session_State.h"
 #include "base/Version.h"
 #include "net/Main_Network_Client.h"
@@ -122,7 +123,7 @@ Edit_Result Assistant_Studio::saveProject() {
 
 Edit_Result Assistant_Studio::openProject(const QString& path) {
   if (mParts.mSession.isOpen()) {
-    if (QFileInfo(path) == QFileInfo(mParts.mSession.path())) {
+    if (File_Copy::isSamePath(path, mParts.mSession.path())) {
       return reopen();
     }
     if (const QString fault = faultOf(path); !fault.isEmpty()) {

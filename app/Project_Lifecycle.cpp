@@ -211,7 +211,7 @@ bool Project_Lifecycle::saveAs(const QString& path) {
 }
 
 bool Project_Lifecycle::saveCopy(const QString& path) {
-  if (QFileInfo(path) == QFileInfo(mSession.path())) {
+  if (File_Copy::isSamePath(path, mSession.path())) {
     return saveFile();
   }
   if (!isReplacingAccepted(path) || !isOverwritingAccepted(path)) {

@@ -2,6 +2,7 @@
 
 #include "base/Platform.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -62,4 +63,12 @@ bool File_Copy::isSame(const QString& one, const QString& other) {
     }
   }
   return true;
+}
+
+bool File_Copy::isSamePath(const QString& one, const QString& other) {
+  const QFileInfo first(one);
+  const QFileInfo second(other);
+  // Two files that are not there count as equal to the toolkit: neither has a canonical path.
+  return QDir::cleanPath(first.absoluteFilePath()) == QDir::cleanPath(second.absoluteFilePath()) ||
+         (first.exists() && second.exists() && first == second);
 }

@@ -16,4 +16,7 @@ namespace File_Copy {
 /// True when both can be read and hold the same bytes.
 [[nodiscard]] bool isSame(const QString& one, const QString& other);
 
+/// True when both are paths of one file. It need not be there.
+[[nodiscard]] bool isSamePath(const QString& one, const QString& other);
+
 } // namespace File_Copy

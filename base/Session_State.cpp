@@ -23,8 +23,7 @@ QString Session_State::operatingModeRefusal() {
 
 void Session_State::beginToolCall(qint64 nowMs) {
   mToolCallRunning = true;
-  mToolCallSeen = true;
-  mToolCallEndMs = nowMs;
+  mToolCallStartMs = nowMs;
   mSuppressedMessage.clear();
   emit toolCallRunningChanged(true);
 }
@@ -36,5 +35,7 @@ void Session_State::endToolCall(qint64 nowMs) {
 }
 
 bool Session_State::assistantActive(qint64 nowMs) const {
-  return mToolCallRunning || (mToolCallSeen && nowMs - mToolCallEndMs < cAssistantGraceMs);
+  const qint64 since = nowMs - mToolCallEndMs;
+  // Also false when the clock has been set back since.
+  return mToolCallRunning || (mToolCallEndMs > 0 && since >= 0 && since < cAssistantGraceMs);
 }

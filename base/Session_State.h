@@ -25,6 +25,10 @@ public:
   void beginToolCall(qint64 nowMs);
   void endToolCall(qint64 nowMs);
   [[nodiscard]] bool toolCallRunning() const { return mToolCallRunning; }
+  /// Of the running or last tool call; 0 before the first.
+  [[nodiscard]] qint64 toolCallStartMs() const { return mToolCallStartMs; }
+  /// Of the last tool call that has ended; 0 before the first.
+  [[nodiscard]] qint64 toolCallEndMs() const { return mToolCallEndMs; }
 
   /// The assistant counts as active during a tool call and for 15,000 ms after the end of the last one.
   [[nodiscard]] bool assistantActive(qint64 nowMs) const;
@@ -40,7 +44,7 @@ signals:
 private:
   bool mOperatingMode = false;
   bool mToolCallRunning = false;
-  bool mToolCallSeen = false;
+  qint64 mToolCallStartMs = 0;
   qint64 mToolCallEndMs = 0;
   QString mSuppressedMessage;
 };

@@ -74,14 +74,26 @@ void MCP_Connection::route() {
   } else if (opensStream()) {
     openStream();
   } else if (method == u"POST" && path == u"/mcp") {
-    // A tool may wait for the controller, which it could not while the link is being read.
-    mServer.studio().runOutsideReading(this, [this] { onMcp(); });
+    handle(&MCP_Connection::onMcp);
   } else if (method == u"POST" && path.startsWith(u"/messages")) {
-    mServer.studio().runOutsideReading(this, [this] { onMessages(); });
+    handle(&MCP_Connection::onMessages);
   } else {
     log(QStringLiteral("Unbekannter Pfad: %1 %2").arg(method, path));
     answer(cNotFound, R"({"error":"Not Found"})");
   }
+}
+
+/// A tool may wait for the controller, which it could not while the link is being read. A request that is whole is
+/// carried out also when its client does not stay for the answer.
+void MCP_Connection::handle(void (MCP_Connection::*handler)()) {
+  mIsHandling = true;
+  mServer.studio().runOutsideReading(this, [this, handler] {
+    (this->*handler)();
+    mIsHandling = false;
+    if (mIsClosed) {
+      deleteLater();
+    }
+  });
 }
 
 void MCP_Connection::openStream() {
@@ -131,14 +143,9 @@ void MCP_Connection::onMessages() {
 }
 
 std::optional<QByteArray> MCP_Connection::dispatch(const QJsonObject& request) {
-  mIsDispatching = true;
+  const bool wasClosed = mIsClosed;
   QByteArray response = mServer.dispatcher().answer(request);
-  mIsDispatching = false;
-  if (mIsClosedInDispatch) {
-    deleteLater();
-    return std::nullopt;
-  }
-  return response;
+  return mIsClosed == wasClosed ? std::optional(response) : std::nullopt;
 }
 
 void MCP_Connection::answer(int status, const QByteArray& body) {
@@ -157,9 +164,8 @@ void MCP_Connection::answer(int status, const QByteArray& body) {
 }
 
 void MCP_Connection::onDisconnected() {
-  if (mIsDispatching) {
-    mIsClosedInDispatch = true;
-  } else {
+  mIsClosed = true;
+  if (!mIsHandling) {
     deleteLater();
   }
 }

@@ -28,9 +28,10 @@ private:
   [[nodiscard]] bool needsBody() const;
   void route();
   void openStream();
+  void handle(void (MCP_Connection::*handler)());
   void onMcp();
   void onMessages();
-  /// The response, empty for a notification; none when the connection was closed meanwhile; it is to go then.
+  /// The response, empty for a notification; none when the connection was closed meanwhile.
   [[nodiscard]] std::optional<QByteArray> dispatch(const QJsonObject& request);
   void answer(int status, const QByteArray& body);
   void log(const QString& text) const;
@@ -38,8 +39,8 @@ private:
   MCP_Server& mServer;
   QTcpSocket* mSocket;
   Http_Request mRequest;
-  qsizetype mUnread = 0; ///< of a body that is answered before it has come
-  bool mIsTaken = false; ///< the request is whole and is being answered, or is answered
-  bool mIsDispatching = false;
-  bool mIsClosedInDispatch = false;
+  qsizetype mUnread = 0;    ///< of a body that is answered before it has come
+  bool mIsTaken = false;    ///< the request is whole and is being answered, or is answered
+  bool mIsHandling = false; ///< is or will be; it stays until that is over
+  bool mIsClosed = false;
 };

@@ -1,5 +1,6 @@
 #include "mcp/tools/Project_Tools.h"
 
+#include "base/File_Copy.h"
 #include "db/DB_Text.h"
 #include "mcp/MCP_Call.h"
 #include "mcp/MCP_Lookup.h"
@@ -127,7 +128,7 @@ MCP_Result saveProjectAs(MCP_Call& call) {
   if (const QString fault = Project_Tools_Path::faultOfTarget(path); !fault.isEmpty()) {
     return MCP_Result::failed(fault);
   }
-  const bool isSame = QFileInfo(path) == QFileInfo(call.session().path());
+  const bool isSame = File_Copy::isSamePath(path, call.session().path());
   if (QFileInfo::exists(path) && !isSame) {
     return MCP_Result::failed(QStringLiteral("Datei ist bereits vorhanden: %1").arg(path));
   }
@@ -146,7 +147,7 @@ QString faultOfNew(const MCP_Call& call, const QString& path) {
   if (!fault.isEmpty()) {
     return fault;
   }
-  if (call.session().isOpen() && QFileInfo(path) == QFileInfo(call.session().path())) {
+  if (call.session().isOpen() && File_Copy::isSamePath(path, call.session().path())) {
     return QStringLiteral("Das geoeffnete Projekt kann nicht durch ein neues ersetzt werden: %1").arg(path);
   }
   if (Working_Copy::stateOf(path) == Working_Copy::State::InUse) {

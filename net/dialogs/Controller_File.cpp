@@ -1,6 +1,7 @@
 #include "net/dialogs/Controller_File.h"
 
 #include "base/App_Settings.h"
+#include "base/File_Copy.h"
 #include "db/Project_Session.h"
 #include "db/Working_Copy.h"
 #include "net/Byte_Stream.h"
@@ -34,14 +35,14 @@ QString folderOf(const Controller_Access& access) {
 QString freePath(const Controller_Access& access, const QString& name, const QString& suffix) {
   const QDir folder(folderOf(access));
   const QString path = folder.filePath(name + suffix);
-  return access.mSession.isOpen() && QFileInfo(path) == QFileInfo(access.mSession.path())
+  return access.mSession.isOpen() && File_Copy::isSamePath(path, access.mSession.path())
              ? folder.filePath(tr("%1 (Steuerung)").arg(name) + suffix)
              : path;
 }
 
 /// What speaks against storing there (German); empty when nothing does.
 QString objection(const Controller_Access& access, const QFileInfo& file) {
-  if (access.mSession.isOpen() && file == QFileInfo(access.mSession.path())) {
+  if (access.mSession.isOpen() && File_Copy::isSamePath(file.filePath(), access.mSession.path())) {
     return tr("Das Projekt \"%1\" ist geöffnet und kann nicht ersetzt werden. Einen anderen Namen wählen.")
         .arg(file.fileName());
   }

@@ -342,6 +342,8 @@ const std::vector<Row>& rows() {
       {"save, the folder is gone", &Rig::folderGone, &Rig::save, {}, {cSaveFailed + u"No such file or directory"_s},
          false, cHaus},
       {"save as", &Rig::edited, &Rig::saveAs, {u"DIR/Neu"_s}, cSaveDialog, true, cNeu},
+      {"save as, of what was deleted on disk", &Rig::deletedOnDisk, &Rig::saveAs, {u"DIR/Neu"_s}, cSaveDialog, true,
+         cNeu},
       {"save as, same file", &Rig::changedOnDisk, &Rig::saveAs, {u"DIR/Haus"_s, cNein}, cSaveDialog + cChangedOnDisk,
          false, cHaus},
       {"save as over a file, kept", &Rig::both, &Rig::saveAs, {cOtherPath, cNein}, cSaveDialog + cReplaceOther, false,

@@ -16,6 +16,12 @@ private slots:
     state.endToolCall(cEnd);
     QVERIFY(!state.toolCallRunning());
     QVERIFY(state.assistantActive(cEnd + 14'999) && !state.assistantActive(cEnd + 15'000));
+    QVERIFY(!state.assistantActive(cEnd - 86'400'000)); // the clock has been set back
+    QCOMPARE(state.toolCallStartMs(), cNow);
+    QCOMPARE(state.toolCallEndMs(), cEnd);
+    state.beginToolCall(cEnd + 60'000);
+    QCOMPARE(state.toolCallStartMs(), cEnd + 60'000);
+    QCOMPARE(state.toolCallEndMs(), cEnd); // of the last one that has ended
   }
 };
 

@@ -86,6 +86,7 @@ private slots:
   void clientsThatVanishWhileAToolWaits();
   void aStreamClosedDuringItsCall();
   void aPostClosedDuringItsCall();
+  void whileTheLinkIsRead();
   void theServerGoesFirst();
   void outOfDescriptors();
   void logLines();
@@ -478,6 +479,37 @@ void MCP_Server_Test::aPostClosedDuringItsCall() {
     return stream.event();
   });
   QVERIFY2(event.contains("\"id\":2"), event); // of the first, nothing
+}
+
+/// What came meanwhile is carried out afterwards, also of clients that have gone by then.
+void MCP_Server_Test::whileTheLinkIsRead() {
+  const auto edit = [](const QByteArray& caption) {
+    return R"({"id":2,"method":"tools/call","params":{"name":"add_fb_page","arguments":{"caption":")" + caption +
+           R"("}}})";
+  };
+  mRig->mStudio.mIsReading = true;
+  const QList<QByteArray> told = Raw_Client::beside([&, this, port = mRig->port()] {
+    const Stream stream(port);
+    const Raw_Client stays(port);
+    stays.send(Raw_Client::post("/mcp", cInitialize));
+    stays.send("and more bytes");
+    std::vector<Raw_Client> gone;
+    for (const QByteArray& request : {Raw_Client::post("/mcp", edit("Eins")), Raw_Client::post("/mcp", "["),
+                                      Raw_Client::post(stream.path(), edit("Zwei"))}) {
+      gone.emplace_back(port).send(request);
+    }
+    gone[0].leave();
+    gone[1].leaveRudely();
+    gone[2].endSending();
+    const QByteArray quick = Server_Rig::exchange(port, "OPTIONS / HTTP/1.1\r\n\r\n");
+    QMetaObject::invokeMethod(
+        qApp, [this] { mRig->mStudio.endReading(); }, Qt::BlockingQueuedConnection);
+    return QList<QByteArray>{quick, stream.event(), stays.readAll()};
+  });
+  QCOMPARE(told.at(0), reply("204 No Content", ""));
+  QVERIFY(told.at(1).startsWith("event: message\r\n") && told.at(1).contains(R"("isError":false)"));
+  QVERIFY(told.at(2).contains(R"("protocolVersion":)"));
+  QCOMPARE(mRig->mSession.history().position(), size_t(2));
 }
 
 void MCP_Server_Test::theServerGoesFirst() {

@@ -160,6 +160,12 @@ private slots:
     QCOMPARE(rig.mSession.path(), rig.path(u"Zwei.zpro"_s));
     QVERIFY(QFile::exists(rig.path(u"Zwei.zpro"_s)));
     QVERIFY(!rig.call(u"save_project_as"_s, {{u"filename"_s, rig.path(u"Zwei"_s)}}).contains(u"error"_s)); // itself
+    // Files that are not there are not the same one.
+    QVERIFY(QFile::remove(rig.path(u"Zwei.zpro"_s)));
+    QCOMPARE(rig.call(u"save_project_as"_s, {{u"filename"_s, rig.path(u"Drei"_s)}})[u"filename"_s],
+             rig.path(u"Drei.zpro"_s));
+    QVERIFY(QFile::remove(rig.path(u"Drei.zpro"_s)));
+    QVERIFY(!rig.call(u"new_project"_s, {{u"filename"_s, rig.path(u"Vier"_s)}}).contains(u"error"_s));
   }
 
   void navigate() {

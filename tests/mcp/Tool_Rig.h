@@ -7,6 +7,10 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QPointer>
+
+#include <utility>
+#include <vector>
 
 /// A studio without window: a project session, and a link when the test gives it one.
 class Windowless_Studio : public MCP_Studio {
@@ -52,13 +56,30 @@ public:
   Edit_Result writeProject() override { return Edit_Result::refused(QStringLiteral("ohne Verbindung")); }
   [[nodiscard]] bool isWritingProject() const override { return false; }
   [[nodiscard]] bool isRecordingDialogOpen() const override { return mIsRecordingDialogOpen; }
-  void runOutsideReading(QObject* /*receiver*/, const std::function<void()>& what) override { what(); }
+  void runOutsideReading(QObject* receiver, const std::function<void()>& what) override {
+    mQueued.emplace_back(receiver, what);
+    endReading(mIsReading);
+  }
+  /// What has been put off runs, unless the link is being read on.
+  void endReading(bool isReading = false) {
+    mIsReading = isReading;
+    for (const auto& [receiver, what] : isReading ? Queue() : std::exchange(mQueued, {})) {
+      if (receiver) {
+        what();
+      }
+    }
+  }
 
   Project_Session& mSession;
   Controller_Link* mLink = nullptr;
   QUuid mShownPage;
   bool mHasWindow = true;
   bool mIsRecordingDialogOpen = false;
+  bool mIsReading = false; ///< the link
+
+private:
+  using Queue = std::vector<std::pair<QPointer<QObject>, std::function<void()>>>;
+  Queue mQueued;
 };
 
 /// Calls tools as an assistant does, on a project of its own.
