@@ -40,7 +40,7 @@ QJsonArray FB_Block_Links::boundPins(const ProjectDatabase& database, const Addr
   qsizetype room = cMostInAll;
   forBoundPins(block, [&](const FB_Pin_Ref& pin, const DB_Address_Binding& binding) {
     QJsonObject object = FB_Use_Json::pin(block, pin.mSide, pin.mIndex);
-    object.insert(QStringLiteral("binding"), FB_Json::binding(binding));
+    object.insert(QStringLiteral("binding"), FB_Json::binding(database.mAddresses, binding));
     addOthers(object, database, usage, pin, room);
     pins.append(object);
   });

@@ -11,10 +11,10 @@ namespace {
 
 using Kind = DB_Address_Binding::Kind;
 
-QJsonObject entry(const QString& kind, const DB_Address_Binding& binding, const QJsonObject& source,
-                  const QJsonObject& target) {
+QJsonObject entry(const Address_Tree& tree, const QString& kind, const DB_Address_Binding& binding,
+                  const QJsonObject& source, const QJsonObject& target) {
   return {{QStringLiteral("kind"), kind},
-          {QStringLiteral("binding"), FB_Json::binding(binding)},
+          {QStringLiteral("binding"), FB_Json::binding(tree, binding)},
           {QStringLiteral("source"), source},
           {QStringLiteral("target"), target}};
 }
@@ -41,8 +41,9 @@ void FB_Connection_List::addWithin() {
     const DB_FB_Control& target = mPage.mChildren.at(found.mTarget);
     const DB_Address_Binding& binding = bindingOf(source, FB_Side::Output, found.mOutput);
     const QString kind = binding.mKind == Kind::Internal ? QStringLiteral("internal") : QStringLiteral("address");
-    append(mConnections, entry(kind, binding, FB_Use_Json::pin(source, FB_Side::Output, found.mOutput),
-                               FB_Use_Json::pin(target, FB_Side::Input, found.mInput)));
+    append(mConnections,
+           entry(mDatabase.mAddresses, kind, binding, FB_Use_Json::pin(source, FB_Side::Output, found.mOutput),
+                 FB_Use_Json::pin(target, FB_Side::Input, found.mInput)));
     if (mIsTruncated) {
       return;
     }
@@ -58,7 +59,7 @@ void FB_Connection_List::addPins(FB_Side side) {
       }
       if (pin.mBinding.mKind == Kind::GroupAddress) {
         QJsonObject object = FB_Use_Json::pin(*block, side, index);
-        object.insert(QStringLiteral("binding"), FB_Json::binding(pin.mBinding));
+        object.insert(QStringLiteral("binding"), FB_Json::binding(mDatabase.mAddresses, pin.mBinding));
         append(mExternal, object);
       }
       ++index;
@@ -80,8 +81,8 @@ void FB_Connection_List::addToOtherPages(const FB_Pin_Ref& pin) {
     }
     const QJsonObject there = FB_Use_Json::use(mDatabase, use, mPage.mGuid);
     const bool isSource = pin.mSide == FB_Side::Output;
-    append(mConnections,
-           entry(QStringLiteral("other_page"), binding, isSource ? here : there, isSource ? there : here));
+    append(mConnections, entry(mDatabase.mAddresses, QStringLiteral("other_page"), binding, isSource ? here : there,
+                               isSource ? there : here));
   }
 }
 

@@ -23,13 +23,18 @@ void addText(QJsonObject& object, const QString& name, const QString& text) {
   }
 }
 
-QJsonArray pins(const DB_FB_Control& block, FB_Side side, FB_Json::Pins detail) {
+QJsonArray pins(const Address_Tree& tree, const DB_FB_Control& block, FB_Side side, FB_Json::Pins detail) {
   QJsonArray array;
   const auto count = static_cast<int>(FB_Pins::pins(block, side).size());
   for (int i = 0; i < count; ++i) {
-    array.append(FB_Json::pin(block, side, i, detail));
+    array.append(FB_Json::pin(tree, block, side, i, detail));
   }
   return array;
+}
+
+/// A binding goes by its key; one without, of an older project, by its number.
+bool isMissing(const Address_Tree& tree, const DB_Address_Binding& binding, const Group_Address& address) {
+  return binding.mKey.isNull() ? !tree.subGroup(address) : !tree.subGroup(binding.mKey);
 }
 
 } // namespace
@@ -38,7 +43,7 @@ QString FB_Json::typeHex(int type) {
   return QStringLiteral("0x%1").arg(type, cHexDigits, 16, QLatin1Char('0'));
 }
 
-QJsonObject FB_Json::binding(const DB_Address_Binding& binding) {
+QJsonObject FB_Json::binding(const Address_Tree& tree, const DB_Address_Binding& binding) {
   if (binding.mKind == Kind::None) {
     return {};
   }
@@ -50,6 +55,9 @@ QJsonObject FB_Json::binding(const DB_Address_Binding& binding) {
                      {QStringLiteral("address"), address.toString()}};
   addText(object, QStringLiteral("comment"), binding.mName);
   addText(object, QStringLiteral("dpt"), binding.mDpt.toString());
+  if (isMissing(tree, binding, address)) {
+    object.insert(QStringLiteral("missing"), true);
+  }
   return object;
 }
 
@@ -76,11 +84,11 @@ QJsonObject FB_Json::page(const ProjectDatabase& database, const DB_FB_Page& pag
   return object;
 }
 
-QJsonObject FB_Json::pin(const DB_FB_Control& block, FB_Side side, int index, Pins detail) {
+QJsonObject FB_Json::pin(const Address_Tree& tree, const DB_FB_Control& block, FB_Side side, int index, Pins detail) {
   const DB_FB_Pin& pin = FB_Pins::pins(block, side)[static_cast<size_t>(index)];
   QJsonObject object{{QStringLiteral("index"), index}, {QStringLiteral("name"), pin.mLongName}};
   if (pin.mBinding.mKind != Kind::None) {
-    object.insert(QStringLiteral("binding"), binding(pin.mBinding));
+    object.insert(QStringLiteral("binding"), binding(tree, pin.mBinding));
   }
   if (detail == Pins::Full) {
     addText(object, QStringLiteral("short_name"), pin.mShortName);
@@ -103,7 +111,7 @@ QJsonObject FB_Json::head(const DB_FB_Control& block) {
   return object;
 }
 
-QJsonObject FB_Json::block(const DB_FB_Control& block, Pins detail) {
+QJsonObject FB_Json::block(const Address_Tree& tree, const DB_FB_Control& block, Pins detail) {
   QJsonObject object = head(block);
   const QSizeF size = FB_Geometry::size(block);
   object.insert(QStringLiteral("x"), block.mX);
@@ -115,8 +123,8 @@ QJsonObject FB_Json::block(const DB_FB_Control& block, Pins detail) {
   if (block.mDisabled) {
     object.insert(QStringLiteral("disabled"), true);
   }
-  object.insert(QStringLiteral("inputs"), pins(block, FB_Side::Input, detail));
-  object.insert(QStringLiteral("outputs"), pins(block, FB_Side::Output, detail));
+  object.insert(QStringLiteral("inputs"), pins(tree, block, FB_Side::Input, detail));
+  object.insert(QStringLiteral("outputs"), pins(tree, block, FB_Side::Output, detail));
   return object;
 }
 
@@ -128,8 +136,8 @@ void FB_Json::warnOfPlace(MCP_Call& call, const DB_FB_Page& page, const DB_FB_Co
   }
 }
 
-QJsonObject FB_Json::withParameters(const DB_FB_Control& block) {
-  QJsonObject object = FB_Json::block(block, Pins::Full);
+QJsonObject FB_Json::withParameters(const Address_Tree& tree, const DB_FB_Control& block) {
+  QJsonObject object = FB_Json::block(tree, block, Pins::Full);
   object.insert(QStringLiteral("page_guid"), MCP_Lookup::text(block.mPageGuid));
   object.insert(QStringLiteral("parameters"), FB_Parameter_Json::ofBlock(block));
   return object;

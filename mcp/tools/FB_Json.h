@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QString>
 
+class Address_Tree;
 struct DB_Address_Binding;
 class DB_FB_Control;
 class DB_FB_Page;
@@ -19,8 +20,8 @@ namespace FB_Json {
 [[nodiscard]] QString typeHex(int type);
 
 /// What a pin is bound to: `kind` "internal" with the variable's name, or "address" with address, designation and type
-/// of data. Empty when it is bound to nothing.
-[[nodiscard]] QJsonObject binding(const DB_Address_Binding& binding);
+/// of data; `missing` tells that the project has this address no more. Empty when it is bound to nothing.
+[[nodiscard]] QJsonObject binding(const Address_Tree& tree, const DB_Address_Binding& binding);
 /// The same in a sentence: "1/2/3 Licht", "interne Variable \"Und Ausgang\"".
 [[nodiscard]] QString bindingText(const DB_Address_Binding& binding);
 
@@ -31,15 +32,16 @@ enum class Pins {
   Brief, ///< index, name and binding
   Full,  ///< also the short name, the usual type of data and what the pin is for
 };
-[[nodiscard]] QJsonObject pin(const DB_FB_Control& block, FB_Side side, int index, Pins detail);
+[[nodiscard]] QJsonObject pin(const Address_Tree& tree, const DB_FB_Control& block, FB_Side side, int index,
+                              Pins detail);
 
 /// GUID, type and what stands above the block.
 [[nodiscard]] QJsonObject head(const DB_FB_Control& block);
 /// With position, size (pixels of the unzoomed page) and pins.
-[[nodiscard]] QJsonObject block(const DB_FB_Control& block, Pins detail);
+[[nodiscard]] QJsonObject block(const Address_Tree& tree, const DB_FB_Control& block, Pins detail);
 /// When the block is not wholly on its page, where a user may not find it.
 void warnOfPlace(MCP_Call& call, const DB_FB_Page& page, const DB_FB_Control& block);
 /// With its parameters: what the next call needs.
-[[nodiscard]] QJsonObject withParameters(const DB_FB_Control& block);
+[[nodiscard]] QJsonObject withParameters(const Address_Tree& tree, const DB_FB_Control& block);
 
 } // namespace FB_Json

@@ -70,7 +70,7 @@ MCP_Result addBlock(MCP_Call& call) {
   }
   const DB_FB_Control& block = *call.database().mFbPages.child(made.mBlocks.first());
   warnOfNew(call, *page, block);
-  QJsonObject object = FB_Json::withParameters(block);
+  QJsonObject object = FB_Json::withParameters(call.database().mAddresses, block);
   for (auto member = generation.constBegin(); member != generation.constEnd(); ++member) {
     object.insert(member.key(), member.value());
   }
@@ -119,7 +119,7 @@ QJsonArray detailedPins(const MCP_Call& call, const Address_Usage& usage, const 
   QJsonArray array;
   int index = 0;
   for (const DB_FB_Pin& pin : FB_Pins::pins(block, side)) {
-    QJsonObject object = FB_Json::pin(block, side, index, FB_Json::Pins::Full);
+    QJsonObject object = FB_Json::pin(call.database().mAddresses, block, side, index, FB_Json::Pins::Full);
     if (pin.mBinding.mKind != Kind::None) {
       FB_Block_Links::addOthers(object, call.database(), usage, {block.mGuid, side, index}, room);
       addValue(object, call, pin.mBinding);
@@ -137,7 +137,7 @@ QJsonObject execution(const MCP_Call& call, const DB_FB_Control& block) {
                      {QStringLiteral("update_at_start"), block.mUpdateAtStart},
                      {QStringLiteral("update_cyclic"), block.mUpdateCyclic}};
   if (block.mDisableAddress.mKind != Kind::None) {
-    QJsonObject address = FB_Json::binding(block.mDisableAddress);
+    QJsonObject address = FB_Json::binding(call.database().mAddresses, block.mDisableAddress);
     addValue(address, call, block.mDisableAddress);
     object.insert(QStringLiteral("disable_address"), address);
   }
@@ -150,7 +150,7 @@ MCP_Result blockDetail(MCP_Call& call) {
     return block.mFailure;
   }
   const Address_Usage usage(call.database());
-  QJsonObject object = FB_Json::withParameters(*block);
+  QJsonObject object = FB_Json::withParameters(call.database().mAddresses, *block);
   object.insert(QStringLiteral("page"), call.database().mFbPages.page(block->mPageGuid)->mCaption);
   object.insert(QStringLiteral("name"), block->mName);
   object.insert(QStringLiteral("title"), block->mTitle);

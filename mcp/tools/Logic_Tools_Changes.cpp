@@ -168,7 +168,7 @@ MCP_Result updateBlock(MCP_Call& call) {
   if (call.has("x") || call.has("y")) {
     FB_Json::warnOfPlace(call, *call.database().mFbPages.page(after.mPageGuid), after);
   }
-  return MCP_Result::done(FB_Json::withParameters(after));
+  return MCP_Result::done(FB_Json::withParameters(call.database().mAddresses, after));
 }
 
 MCP_Result setScript(MCP_Call& call) {
@@ -191,7 +191,7 @@ MCP_Result setScript(MCP_Call& call) {
   if (after.mParams.at(cScript).size() < call.text("code").remove(u'\r').size()) {
     call.warn(QStringLiteral("Steuerzeichen im Code sind entfernt: ein Projekt kann sie nicht speichern."));
   }
-  QJsonObject object = FB_Json::block(after, FB_Json::Pins::Brief);
+  QJsonObject object = FB_Json::block(call.database().mAddresses, after, FB_Json::Pins::Brief);
   object.insert(QStringLiteral("code_characters"), after.mParams.at(cScript).size());
   return MCP_Result::done(object);
 }

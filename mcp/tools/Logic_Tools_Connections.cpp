@@ -116,7 +116,7 @@ QJsonObject connectionObject(MCP_Call& call, const Ends& ends) {
   QJsonObject object{
       {QStringLiteral("source"), FB_Use_Json::pin(*ends.mSource, FB_Side::Output, ends.mOutput.mIndex)},
       {QStringLiteral("target"), FB_Use_Json::pin(*ends.mTarget, FB_Side::Input, ends.mInput.mIndex)},
-      {QStringLiteral("binding"), FB_Json::binding(ends.outputBinding())},
+      {QStringLiteral("binding"), FB_Json::binding(call.database().mAddresses, ends.outputBinding())},
       {QStringLiteral("also_bound"), FB_Use_Json::others(call.database(), uses, page, {ends.mOutput, ends.mInput})},
       {QStringLiteral("also_bound_count"), static_cast<qint64>(std::ranges::count_if(uses, isOther))},
       {QStringLiteral("same_page"), page == ends.mTarget->mPageGuid}};
@@ -188,7 +188,7 @@ MCP_Result disconnectAll(MCP_Call& call, const DB_FB_Control& block, const FB_Pi
     return MCP_Result::of(edit);
   }
   QJsonObject object{{QStringLiteral("count"), pins.size()},
-                     {QStringLiteral("binding"), FB_Json::binding(binding)},
+                     {QStringLiteral("binding"), FB_Json::binding(call.database().mAddresses, binding)},
                      {QStringLiteral("disconnected"), list}};
   FB_Block_Links::addReleased(object, call.database(), elsewhere);
   const Address_Usage usage(call.database());

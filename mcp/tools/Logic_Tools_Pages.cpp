@@ -45,7 +45,7 @@ MCP_Result getPage(MCP_Call& call) {
   }
   QJsonArray blocks;
   for (const auto& block : page->mChildren) {
-    blocks.append(FB_Json::block(*block, FB_Json::Pins::Brief));
+    blocks.append(FB_Json::block(call.database().mAddresses, *block, FB_Json::Pins::Brief));
   }
   QJsonObject object = FB_Json::page(call.database(), *page);
   object.insert(QStringLiteral("function_blocks"), blocks);

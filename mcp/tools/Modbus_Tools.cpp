@@ -27,7 +27,7 @@ MCP_Result getConfig(MCP_Call& call) {
   const int offset = call.integer("offset");
   const int limit = call.integer("limit", Modbus_Tools_Register::cUsualLimit);
   const auto total = static_cast<int>(block->mModbusRegisters.size());
-  const QJsonArray registers = Modbus_Tools_Register::list(*block, offset, limit);
+  const QJsonArray registers = Modbus_Tools_Register::list(call.database().mAddresses, *block, offset, limit);
   QJsonObject answer = Modbus_Tools_Connection::config(*block);
   answer.insert(QStringLiteral("registers"), registers);
   answer.insert(QStringLiteral("offset"), offset);
@@ -131,7 +131,7 @@ MCP_Result setRegisters(MCP_Call& call) {
       return MCP_Result::failed(edit.mError);
     }
     constexpr int cLimit = Modbus_Tools_Register::cUsualLimit;
-    const QJsonArray list = Modbus_Tools_Register::list(*master(call), 0, cLimit);
+    const QJsonArray list = Modbus_Tools_Register::list(call.database().mAddresses, *master(call), 0, cLimit);
     QJsonObject answer{{QStringLiteral("registers"), list}, {QStringLiteral("count"), list.size()}};
     if (registers.size() > cLimit) {
       answer.insert(QStringLiteral("truncated"), true);
@@ -154,7 +154,8 @@ MCP_Result addRegister(MCP_Call& call) {
     }
     warnOf(call, warnings);
     const auto index = static_cast<int>(before.mModbusRegisters.size());
-    return MCP_Result::done({{QStringLiteral("register"), Modbus_Tools_Register::entry(*master(call), index)}});
+    return MCP_Result::done(
+        {{QStringLiteral("register"), Modbus_Tools_Register::entry(call.database().mAddresses, *master(call), index)}});
   });
 }
 
@@ -173,7 +174,8 @@ MCP_Result updateRegister(MCP_Call& call) {
       return MCP_Result::failed(edit.mError);
     }
     warnOf(call, warnings);
-    return MCP_Result::done({{QStringLiteral("register"), Modbus_Tools_Register::entry(*master(call), index)}});
+    return MCP_Result::done(
+        {{QStringLiteral("register"), Modbus_Tools_Register::entry(call.database().mAddresses, *master(call), index)}});
   });
 }
 
@@ -183,8 +185,9 @@ MCP_Result deleteRegister(MCP_Call& call) {
     if (MCP_Result fault = indexFault(index, before); !fault) {
       return fault;
     }
-    return MCP_Result::of(FB_Modbus_Edits::removeRegisters(call.session(), before.mGuid, {index}),
-                          {{QStringLiteral("deleted"), Modbus_Tools_Register::entry(before, index)}});
+    return MCP_Result::of(
+        FB_Modbus_Edits::removeRegisters(call.session(), before.mGuid, {index}),
+        {{QStringLiteral("deleted"), Modbus_Tools_Register::entry(call.database().mAddresses, before, index)}});
   });
 }
 

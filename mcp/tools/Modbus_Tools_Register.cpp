@@ -125,12 +125,12 @@ QString textOf(const DB_Address_Binding& binding) {
                                              : binding.mName;
 }
 
-QJsonObject pinToJson(FB_Side side, size_t index, const DB_FB_Pin& pin) {
+QJsonObject pinToJson(const Address_Tree& tree, FB_Side side, size_t index, const DB_FB_Pin& pin) {
   QJsonObject object{{QStringLiteral("io_type"), side == FB_Side::Output ? 1 : 0},
                      {QStringLiteral("io_index"), static_cast<qint64>(index)},
                      {QStringLiteral("name"), pin.mLongName}};
   if (pin.mBinding.mKind != Kind::None) {
-    object.insert(QStringLiteral("binding"), FB_Json::binding(pin.mBinding));
+    object.insert(QStringLiteral("binding"), FB_Json::binding(tree, pin.mBinding));
   }
   return object;
 }
@@ -220,7 +220,7 @@ MCP_Result Modbus_Tools_Register::take(const MCP_Call& arguments, DB_Modbus_Regi
   return result;
 }
 
-QJsonArray Modbus_Tools_Register::list(const DB_FB_Control& block, int offset, int limit) {
+QJsonArray Modbus_Tools_Register::list(const Address_Tree& tree, const DB_FB_Control& block, int offset, int limit) {
   QJsonArray entries;
   Pin_Walk walk(block);
   for (size_t i = 0; i < block.mModbusRegisters.size() && entries.size() < limit; ++i) {
@@ -229,7 +229,7 @@ QJsonArray Modbus_Tools_Register::list(const DB_FB_Control& block, int offset, i
     QJsonArray pins;
     walk.step(item, [&](FB_Side side, size_t index, const DB_FB_Pin& pin) {
       if (isWanted) {
-        pins.append(pinToJson(side, index, pin));
+        pins.append(pinToJson(tree, side, index, pin));
       }
     });
     if (isWanted) {
@@ -241,8 +241,8 @@ QJsonArray Modbus_Tools_Register::list(const DB_FB_Control& block, int offset, i
   return entries;
 }
 
-QJsonObject Modbus_Tools_Register::entry(const DB_FB_Control& block, int index) {
-  return list(block, index, 1).first().toObject();
+QJsonObject Modbus_Tools_Register::entry(const Address_Tree& tree, const DB_FB_Control& block, int index) {
+  return list(tree, block, index, 1).first().toObject();
 }
 
 QStringList Modbus_Tools_Register::lostBindings(const DB_FB_Control& before, const DB_FB_Control& after) {

@@ -24,8 +24,8 @@ inline constexpr int cUsualLimit = 50;
 [[nodiscard]] MCP_Result take(const MCP_Call& arguments, DB_Modbus_Register& item, QStringList& warnings);
 
 /// With index, the name of the data type, and the block's pins that belong to it. At most `limit` from `offset` on.
-[[nodiscard]] QJsonArray list(const DB_FB_Control& block, int offset, int limit);
-[[nodiscard]] QJsonObject entry(const DB_FB_Control& block, int index);
+[[nodiscard]] QJsonArray list(const Address_Tree& tree, const DB_FB_Control& block, int offset, int limit);
+[[nodiscard]] QJsonObject entry(const Address_Tree& tree, const DB_FB_Control& block, int index);
 
 /// "Leistung (1/2/3)": pins of registers that are bound in the first and whose binding the second no longer has.
 [[nodiscard]] QStringList lostBindings(const DB_FB_Control& before, const DB_FB_Control& after);

@@ -88,7 +88,22 @@ private slots:
   void types();
   void reading();
   void connectionList();
+  void aDeletedAddressIsMissing();
 };
+
+void Logic_Tools_Test::aDeletedAddressIsMissing() {
+  House house;
+  house.bindAddress(house.mB, 1);
+  const auto binding = [&] {
+    return house.call("get_fb_detail", {{"guid", house.mB}})["inputs"][1]["binding"].toObject();
+  };
+  QVERIFY(binding()["address"] == "1/2/3" && !binding().contains("missing"));
+  const QJsonObject address{{"main", 1}, {"middle", 2}, {"sub", 3}, {"comment", "Neu"}};
+  QVERIFY(house.errorOf("delete_address", address).isEmpty());
+  QVERIFY(binding()["missing"].toBool());
+  QVERIFY(house.errorOf("create_address", address).isEmpty()); // another one of the same number
+  QVERIFY(binding()["missing"].toBool());
+}
 
 void Logic_Tools_Test::edits_data() {
   QTest::addColumn<QString>("tool");
