@@ -36,6 +36,7 @@ struct DB_Modbus_Register {
   bool mUpdateOnChange = false;
 
   void fields(DB_Fields& fields);
+  friend bool operator==(const DB_Modbus_Register&, const DB_Modbus_Register&) = default;
 };
 
 /// A function block on a logic page.

@@ -51,17 +51,32 @@ FB_Modbus_Model::FB_Modbus_Model(Project_Session& session, const QUuid& block, Q
 void FB_Modbus_Model::refresh() {
   const DB_FB_Control* const record = std::as_const(mSession).database().mFbPages.child(mBlock);
   const Registers now = record ? record->mModbusRegisters : Registers();
-  const bool isAsLong = now.size() == mRegisters.size();
-  if (!isAsLong) {
-    beginResetModel();
+  // Only the rows that differ are touched, so that the selection and the cell in which somebody types stay with their
+  // register while an assistant works on others.
+  const auto [oldEnd, newEnd] = std::ranges::mismatch(mRegisters, now);
+  const auto first = static_cast<int>(oldEnd - mRegisters.begin());
+  const int behind = static_cast<int>(std::min(mRegisters.end() - oldEnd, now.end() - newEnd));
+  int same = 0; // at the end
+  while (same < behind && mRegisters[mRegisters.size() - 1 - same] == now[now.size() - 1 - same]) {
+    ++same;
+  }
+  const auto oldCount = static_cast<int>(mRegisters.size());
+  const auto newCount = static_cast<int>(now.size());
+  if (newCount < oldCount) {
+    beginRemoveRows({}, newCount - same, oldCount - same - 1);
+  } else if (newCount > oldCount) {
+    beginInsertRows({}, oldCount - same, newCount - same - 1);
   }
   mRegisters = now;
   mFaults.clear();
   std::ranges::transform(mRegisters, std::back_inserter(mFaults), &FB_Modbus_Fields::faults);
-  if (!isAsLong) {
-    endResetModel();
-  } else if (!mRegisters.empty()) {
-    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+  if (newCount < oldCount) {
+    endRemoveRows();
+  } else if (newCount > oldCount) {
+    endInsertRows();
+  }
+  if (first < newCount - same) {
+    emit dataChanged(index(first, 0), index(newCount - same - 1, columnCount() - 1));
   }
 }
 
@@ -162,6 +177,9 @@ QVariant FB_Modbus_Model::headerData(int section, Qt::Orientation orientation, i
 }
 
 Qt::ItemFlags FB_Modbus_Model::flags(const QModelIndex& index) const {
+  if (!index.isValid()) {
+    return Qt::NoItemFlags;
+  }
   const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
   return mIsReadOnly ? flags : flags | (isFlag(index) ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
 }
