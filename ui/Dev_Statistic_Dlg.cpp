@@ -10,11 +10,13 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -25,7 +27,9 @@ constexpr int cGroupGap = 12;
 constexpr int cReasonLines = 2;
 constexpr int cListFrame = 48; ///< what a drop-down list needs beside its text
 constexpr int cMostListWidth = 220;
-constexpr QSize cSize(1000, 440);
+constexpr int cNameWidth = 150;
+constexpr int cAddressWidth = 230;
+constexpr QSize cSize(1100, 440);
 
 } // namespace
 
@@ -62,7 +66,7 @@ Dev_Statistic_Dlg::Dev_Statistic_Dlg(Project_Session& session, QWidget* parent)
   layout->addLayout(row);
   layout->addWidget(mReason);
   layout->addWidget(buttons);
-  resize(cSize);
+  resize(cSize.boundedTo(screen()->availableSize()));
   follow();
   select(0);
   mTable->setFocus();
@@ -84,8 +88,11 @@ void Dev_Statistic_Dlg::makeTable() {
   QHeaderView& header = *mTable->header();
   header.setStretchLastSection(false);
   header.setSectionResizeMode(QHeaderView::ResizeToContents);
-  header.setSectionResizeMode(Model::cName, QHeaderView::Stretch);
-  header.setSectionResizeMode(Model::cAddress, QHeaderView::Stretch);
+  // Not what the others leave, which may be nothing: rather the table scrolls.
+  for (const auto& [column, width] : {std::pair(Model::cName, cNameWidth), std::pair(Model::cAddress, cAddressWidth)}) {
+    header.setSectionResizeMode(column, QHeaderView::Interactive);
+    header.resizeSection(column, width);
+  }
   for (const int column : {Model::cTrigger, Model::cController}) {
     int width = 0;
     for (const Model::Choice& choice : mModel->choices(column)) {

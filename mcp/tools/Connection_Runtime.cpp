@@ -110,6 +110,23 @@ MCP_Result disconnectNow(const MCP_Call& call) {
   return MCP_Result::done({{QStringLiteral("connected"), false}, {QStringLiteral("was_connected"), wasConnected}});
 }
 
+/// The link as it stands, with a warning when another connection is selected.
+MCP_Result alreadyConnected(MCP_Call& call, const DB_Connections::ITEM& used) {
+  QJsonObject object = told(used, true);
+  object.insert(QStringLiteral("already_connected"), true);
+  const DB_Connections& connections = call.database().mConnections;
+  if (connections.mSelected >= 0 && connections.mSelected < static_cast<int>(connections.mItems.size())) {
+    const DB_Connections::ITEM& selected = connections.mItems[static_cast<size_t>(connections.mSelected)];
+    if (selected.mKind != used.mKind || Connection_Runtime::target(selected) != Connection_Runtime::target(used)) {
+      call.warn(
+          QStringLiteral("Ausgewaehlt ist eine andere Verbindung: %1 (%2). Zu ihr erst mit connect: false trennen, "
+                         "dann erneut verbinden.")
+              .arg(selected.mName, Connection_Runtime::target(selected)));
+    }
+  }
+  return MCP_Result::done(object);
+}
+
 MCP_Result connectRuntimeNow(MCP_Call& call) {
   Controller_Link* const link = call.studio().link();
   const bool isBusy = link && (link->state() == State::Dialling || link->state() == State::LoggingOn || link->isLent());
@@ -121,9 +138,7 @@ MCP_Result connectRuntimeNow(MCP_Call& call) {
     return disconnectNow(call);
   }
   if (link && link->isOnline()) {
-    QJsonObject object = told(link->client().connection(), true);
-    object.insert(QStringLiteral("already_connected"), true);
-    return MCP_Result::done(object);
+    return alreadyConnected(call, link->client().connection());
   }
   const DB_Connections& connections = call.database().mConnections;
   if (connections.mSelected < 0 || connections.mSelected >= static_cast<int>(connections.mItems.size())) {
@@ -153,7 +168,9 @@ MCP_Tool Connection_Runtime::connectRuntime() {
               "Baut die Verbindung zur Runtime ueber die im Projekt hinterlegte Standardverbindung auf (entspricht "
               "Verbinden / F11, aber ohne Fortschrittsdialog) oder trennt sie. Wartet bis zu timeout_seconds auf das "
               "Ergebnis und meldet connected, connection, target und vpn; scheitert der Aufbau, steht in reason der "
-              "Grund, soweit er bekannt ist, und der Versuch ist beendet. Welche Verbindung benutzt wird, legt "
+              "Grund, soweit er bekannt ist, und der Versuch ist beendet. Eine Steuerung, die keine Verbindung "
+              "annimmt (sie startet gerade neu), wird in dieser Zeit alle 10 Sekunden neu angewaehlt. Welche "
+              "Verbindung benutzt wird, legt "
               "select_connection fest. Noetig vor allen Werkzeugen, die mit der laufenden Steuerung arbeiten."),
           {MCP_Parameter::flag("connect", "true = verbinden, false = trennen (Standard: true)"),
            MCP_Parameter::number("timeout_seconds", "Wartezeit in Sekunden, begrenzt auf 1 bis 60 (Standard: 10)")},

@@ -59,6 +59,14 @@ bool isInUse(const MCP_Call& call, const Item& item) {
          Connection_Runtime::target(used) == Connection_Runtime::target(item);
 }
 
+/// The link stands, but not with the selected connection as it is now.
+bool isElsewhere(const MCP_Call& call) {
+  const Controller_Link* const link = call.studio().link();
+  const DB_Connections& connections = call.database().mConnections;
+  return link && link->isOnline() && has(call, connections.mSelected) &&
+         !isInUse(call, connections.mItems[static_cast<size_t>(connections.mSelected)]);
+}
+
 void noteUse(QJsonObject& object, bool isUsed) {
   if (isUsed) {
     object.insert(
@@ -130,7 +138,9 @@ MCP_Result addConnection(MCP_Call& call) {
   }
   const int index = countOf(call.database().mConnections) - 1;
   warnOfName(call, index);
-  return MCP_Result::done(answer(call, index));
+  QJsonObject object = answer(call, index);
+  noteUse(object, call.database().mConnections.mSelected == index && isElsewhere(call));
+  return MCP_Result::done(object);
 }
 
 MCP_Result updateConnection(MCP_Call& call) {
@@ -153,7 +163,7 @@ MCP_Result updateConnection(MCP_Call& call) {
   }
   warnOfName(call, index);
   QJsonObject object = answer(call, index);
-  noteUse(object, isInUse(call, before));
+  noteUse(object, isInUse(call, before) || (call.flag("set_default") && isElsewhere(call)));
   return MCP_Result::done(object);
 }
 
@@ -208,16 +218,13 @@ MCP_Result selectConnection(MCP_Call& call) {
   if (MCP_Result found = chosen(call, index); !found) {
     return found;
   }
-  const Controller_Link* const link = call.studio().link();
-  const DB_Connections& connections = call.database().mConnections;
-  const bool isOther = link && link->isOnline() && !isInUse(call, connections.mItems[static_cast<size_t>(index)]);
-  if (index != connections.mSelected) {
+  if (index != call.database().mConnections.mSelected) {
     if (const Edit_Result selected = Connection_Edits::select(call.session(), index); !selected) {
       return MCP_Result::failed(selected.mError);
     }
   }
   QJsonObject object = answer(call, index);
-  noteUse(object, isOther);
+  noteUse(object, isElsewhere(call));
   return MCP_Result::done(object);
 }
 

@@ -25,6 +25,12 @@ QString missing() {
       .arg(House_Mode::cVariable);
 }
 
+QString wayToVariable() {
+  return QStringLiteral("Von Hand: create_address an einer freien Adresse mit comment '%1' und data_type 5010, dann "
+                        "write_project_to_controller.")
+      .arg(House_Mode::cVariable);
+}
+
 /// Value and mode, as far as they are known.
 void putValue(QJsonObject& object, const std::optional<double>& value) {
   if (!value) {
@@ -62,7 +68,8 @@ MCP_Result getPresenceMode(MCP_Call& call) {
   }
   return MCP_Result::done({{QStringLiteral("available"), false},
                            {QStringLiteral("connected"), isOnline(call)},
-                           {QStringLiteral("note"), missing()}});
+                           {QStringLiteral("note"), missing()},
+                           {QStringLiteral("hint"), wayToVariable()}});
 }
 
 struct Wanted {
@@ -111,7 +118,9 @@ MCP_Result setPresenceMode(MCP_Call& call) {
   }
   const auto address = House_Mode::address(call.database().mAddresses);
   if (!address) {
-    return MCP_Result::failed(missing());
+    MCP_Result failure = MCP_Result::failed(missing());
+    failure.mObject.insert(QStringLiteral("hint"), wayToVariable());
+    return failure;
   }
   const DB_Address_Sub_Group& group = *call.database().mAddresses.subGroup(*address);
   const QString number = QString::number(wanted.mValue);

@@ -8,6 +8,9 @@
 #include "net/Controller_Command.h"
 #include "net/Controller_Link.h"
 
+#include <QDeadlineTimer>
+
+#include <chrono>
 #include <optional>
 
 namespace {
@@ -69,10 +72,26 @@ MCP_Result getPlayMode(MCP_Call& call) {
   return MCP_Result::done(playMode(call));
 }
 
+/// What a write still brings over when its tool has answered.
+void awaitRestOfWrite(MCP_Studio& studio, const QDeadlineTimer& end) {
+  MCP_Wait wait(std::chrono::milliseconds(end.remainingTime()));
+  QObject::connect(&studio, &MCP_Studio::projectWriteEnded, &wait, &MCP_Wait::done);
+  if (studio.isWritingProject()) {
+    wait.run();
+  }
+}
+
 MCP_Result setPlayMode(MCP_Call& call) {
   MCP_Studio& studio = call.studio();
   const bool isWanted = call.flag("enabled", true);
-  MCP_Wait wait(cLongest);
+  const QDeadlineTimer end(cLongest);
+  if (isWanted) {
+    awaitRestOfWrite(studio, end);
+  }
+  if (!call.session().isOpen()) {
+    return MCP_Result::failed(QStringLiteral("Kein Projekt geoeffnet"));
+  }
+  MCP_Wait wait(std::chrono::milliseconds(end.remainingTime()));
   QString error;
   QObject::connect(&studio, &MCP_Studio::playSettled, &wait, [&](const QString& text) {
     error = text;
@@ -84,7 +103,7 @@ MCP_Result setPlayMode(MCP_Call& call) {
   if (studio.isPlayPending()) {
     wait.run();
   }
-  if (!error.isEmpty()) {
+  if (isWanted && !error.isEmpty()) { // one that is given up is as it was wanted
     return MCP_Result::failed(error);
   }
   if (isWanted && !isOnline(call)) {

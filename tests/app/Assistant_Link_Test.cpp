@@ -223,11 +223,25 @@ private slots:
     QVERIFY(rig.call(u"write_project_to_controller"_s).contains(u"project_generation"));
     QVERIFY(rig.mWindow.assistant().isWritingProject());
     QVERIFY(rig.errorOf(u"write_project_to_controller"_s).contains(u"bereits"_s));
-    QVERIFY(rig.errorOf(u"set_play_mode"_s).contains(u"anderer Vorgang"_s));
     QVERIFY(rig.errorOf(u"connect_runtime"_s, json(R"({"connect":false})")).contains(u"noch ein Vorgang"_s));
     QVERIFY(rig.mWindow.assistant().isWritingProject());
     rig.mProject.close();
     QTRY_VERIFY(!rig.mWindow.assistant().isWritingProject());
+    QCOMPARE(rig.mBoxes, 0);
+  }
+
+  void playWaitsForTheRestOfTheWrite() {
+    Window_Rig rig;
+    QVERIFY(rig.goOnline());
+    QVERIFY(rig.mServer.faults().add(u"mute=64"_s)); // all but the end
+    rig.mWindow.findChild<Project_Write*>()->setTimeout(500);
+    QVERIFY(rig.call(u"write_project_to_controller"_s).contains(u"project_generation"));
+    QCOMPARE(rig.call(u"set_play_mode"_s), json(R"({"enabled":true,"connected":true})"));
+    QVERIFY(!rig.mWindow.assistant().isWritingProject());
+
+    QVERIFY(rig.call(u"write_project_to_controller"_s).contains(u"project_generation"));
+    QTimer::singleShot(100, &rig.mWindow, [&] { rig.mProject.close(); });
+    QCOMPARE(rig.errorOf(u"set_play_mode"_s), u"Kein Projekt geoeffnet"_s);
     QCOMPARE(rig.mBoxes, 0);
   }
 
@@ -271,6 +285,17 @@ private slots:
     QVERIFY2(told.contains(error), qPrintable(told));
     QVERIFY(!Session_State::process().operatingMode());
     QTest::qWait(50);
+    QCOMPARE(rig.mBoxes, 0);
+  }
+
+  void offGivesUpAProgramOnItsWay() {
+    Window_Rig rig;
+    QVERIFY(rig.goOnline());
+    QVERIFY(rig.mServer.faults().add(u"mute=7004"_s));
+    rig.mWindow.onControlPlay();
+    QVERIFY(rig.mWindow.assistant().isPlayPending());
+    QCOMPARE(rig.call(u"set_play_mode"_s, json(R"({"enabled":false})")), json(R"({"enabled":false,"connected":true})"));
+    QVERIFY(!rig.mWindow.assistant().isPlayPending());
     QCOMPARE(rig.mBoxes, 0);
   }
 };

@@ -30,6 +30,7 @@ private slots:
   void waits();
   void whatTheUserDoesMeanwhile();
   void aChangeOfTheConnectionInUseIsNoted();
+  void anotherSelectionIsToldWhileConnected();
 };
 
 void Connection_Tools_Test::anEditIsOneStepThatUndoTakesBack_data() {
@@ -241,6 +242,20 @@ void Connection_Tools_Test::aChangeOfTheConnectionInUseIsNoted() {
   QVERIFY(rig.call(u"select_connection"_s, json(R"({"index":1})")).contains(u"note"));
   QVERIFY(rig.call(u"delete_connection"_s, json(R"({"index":0})")).contains(u"note"));
   QVERIFY(rig.mLink.isOnline());
+}
+
+void Connection_Tools_Test::anotherSelectionIsToldWhileConnected() {
+  Link_Rig rig;
+  QVERIFY(rig.goOnline());
+  QVERIFY(!rig.call(u"connect_runtime"_s).contains(u"warning"));
+  QVERIFY(!rig.call(u"add_connection"_s, json(R"({"ip":"10.0.0.2","set_default":false})")).contains(u"note"));
+  QVERIFY(rig.call(u"add_connection"_s, json(R"({"ip":"10.0.0.3","name":"Neue"})")).contains(u"note"));
+  const QJsonObject connected = rig.call(u"connect_runtime"_s);
+  QCOMPARE(connected.value(u"already_connected"), QJsonValue(true));
+  QVERIFY(connected.value(u"warning").toString().contains(u"Neue (10.0.0.3)"_s));
+  rig.call(u"select_connection"_s, json(R"({"index":0})"));
+  QVERIFY(!rig.call(u"connect_runtime"_s).contains(u"warning"));
+  QVERIFY(rig.call(u"update_connection"_s, json(R"({"index":1,"set_default":true})")).contains(u"note"));
 }
 
 QTEST_GUILESS_MAIN(Connection_Tools_Test)

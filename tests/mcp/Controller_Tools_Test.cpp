@@ -44,6 +44,7 @@ private slots:
   void debugLevel();
   void houseModeIsRefused_data();
   void houseModeIsRefused();
+  void theWayToAHouseModeLeadsThere();
   void houseModeTravels_data();
   void houseModeTravels();
   void playMode();
@@ -259,7 +260,21 @@ void Controller_Tools_Test::houseModeIsRefused() {
   Link_Rig rig;
   QVERIFY(!isOnline || rig.goOnline());
   QCOMPARE(rig.errorOf(u"set_presence_mode"_s, json(arguments.constData())), error);
-  QCOMPARE(rig.call(u"get_presence_mode"_s).value(u"available"), QJsonValue(false));
+  const QJsonObject present = rig.call(u"get_presence_mode"_s);
+  QCOMPARE(present.value(u"available"), QJsonValue(false));
+  QVERIFY(present.value(u"hint").toString().contains(u"create_address"_s));
+}
+
+void Controller_Tools_Test::theWayToAHouseModeLeadsThere() {
+  Link_Rig rig;
+  QVERIFY(rig.goOnline());
+  const QJsonObject mode = json(R"({"mode":"absent"})");
+  QVERIFY(rig.call(u"set_presence_mode"_s, mode)
+              .value(u"hint")
+              .toString()
+              .contains(u"comment 'Hausmodus' und data_type 5010"_s));
+  rig.call(u"create_address"_s, json(R"({"main":0,"middle":0,"sub":9,"comment":"Hausmodus","data_type":5010})"));
+  QCOMPARE(rig.call(u"set_presence_mode"_s, mode).value(u"address").toString(), u"0/0/9"_s);
 }
 
 void Controller_Tools_Test::houseModeTravels_data() {

@@ -170,6 +170,17 @@ private slots:
   }
 
   /// What an assistant does while the dialog is open.
+  void narrowWindowLeavesNameAndAddressReadable() {
+    mRig->mSession.database().mProject.mControllers = {{1, u"Erdgeschoss"_s, u"10.0.0.1"_s, true}};
+    Shown shown(*mRig);
+    shown.mDialog.resize(850, 480);
+    QTest::qWait(0);
+    for (const auto& [column, text] :
+         {std::pair(Model::cName, u"Leistung am Netz"_s), std::pair(Model::cAddress, u"1/0/2 Wohnzimmer Licht"_s)}) {
+      QVERIFY(shown.mTable->columnWidth(column) > shown.mTable->fontMetrics().horizontalAdvance(text));
+    }
+  }
+
   void projectChangesMeanwhile() {
     Shown shown(*mRig);
     shown.press(u'h');
