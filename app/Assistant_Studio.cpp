@@ -191,7 +191,7 @@ Edit_Result Assistant_Studio::writeProject() {
     return Edit_Result::refused(busy());
   }
   // The transfer saves it: what saving would ask is asked, and its default is to leave the file alone.
-  if (const Edit_Result mayBegin = run([this] { return mParts.mLifecycle.maySave(); }); !mayBegin) {
+  if (Edit_Result mayBegin = run([this] { return mParts.mLifecycle.maySave(); }); !mayBegin) {
     return mayBegin;
   }
   link.write().start();

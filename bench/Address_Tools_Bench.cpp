@@ -13,6 +13,7 @@ constexpr double cFilterLimit = 20; // ms
 void measure(Tool_Rig& rig, Bench_Table& table, const char* filter) {
   const QJsonObject arguments{{QStringLiteral("filter"), QString::fromUtf8(filter)}};
   std::vector<double> times;
+  times.reserve(cRuns);
   for (int run = 0; run < cRuns; ++run) {
     times.push_back(Bench_Table::milliseconds(
         [&] { (void)rig.mDispatcher.callTool(QStringLiteral("list_addresses"), arguments); }));

@@ -114,6 +114,7 @@ double timeOf(Server_Rig& rig, const QString& tool, const QJsonObject& arguments
     return std::numeric_limits<double>::quiet_NaN();
   }
   std::vector<double> times;
+  times.reserve(cRuns);
   for (int run = 0; run < cRuns; ++run) {
     times.push_back(Bench_Table::milliseconds([&] {
       static_cast<void>(rig.mDispatcher.answer(

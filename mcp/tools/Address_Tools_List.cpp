@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr qsizetype cMostAddresses = 1000;
+constexpr qsizetype cMostAddresses = 500;
 constexpr int cAll = -1;
 constexpr int cMostNumber = 65'535;
 
@@ -147,7 +147,7 @@ MCP_Tool Address_Tools::list() {
               "Gibt die KNX-Adresshierarchie (Hauptgruppen, Mittelgruppen, Untergruppen) zurueck. Bei grossen "
               "Projekten (viele Adressen) unbedingt Filter verwenden, um die Antwortgroesse zu begrenzen. filter: Nur "
               "Untergruppen ausgeben deren Bezeichnung (comment), Beschreibung (description) oder Adresse den Text "
-              "enthaelt. Hoechstens 1000 Untergruppen je Antwort: total nennt alle passenden, address_count die je "
+              "enthaelt. Hoechstens 500 Untergruppen je Antwort: total nennt alle passenden, address_count die je "
               "Mittelgruppe. data_type = Haupt*1000+Unter (9001 = 9.001), 0 = keiner. Die Schalter read_at_start, "
               "read_cyclic (sonst false), write und active (sonst true) stehen nur dabei, wenn sie abweichen."),
           {MCP_Parameter::text("filter", "Text ohne Gross-/Kleinschreibung; mehrere Woerter muessen alle vorkommen; "

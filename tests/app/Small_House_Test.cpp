@@ -18,7 +18,7 @@ private:
     if (!document.isObject()) {
       qFatal("no object: %s", arguments.constData());
     }
-    const QJsonObject answer = mRig.call(tool, document.object());
+    QJsonObject answer = mRig.call(tool, document.object());
     if (answer.contains("error")) {
       QTest::qFail(qPrintable(tool + u": "_s + answer.value("error").toString()), __FILE__, __LINE__);
     }

@@ -14,7 +14,7 @@ private slots:
   void rowsStayWithTheirRegister_data() {
     QTest::addColumn<Edit>("edit");
     QTest::addColumn<QString>("names"); // of the second register of A, B, C and of the third
-    QTest::addColumn<int>("changed");   // rows that are told as changed
+    QTest::addColumn<int>("changed");   // rows that are told as changed or new
     using namespace FB_Modbus_Edits;
     using FB_Modbus_Fields::Field;
     const auto row = [](const char* name, const char* names, int changed, const Edit& edit) {
@@ -26,8 +26,8 @@ private slots:
     row("one before removed", "B,C", 0, [](auto& s, auto& b) { return removeRegisters(s, b, {0}); });
     row("itself removed", ",C", 0, [](auto& s, auto& b) { return removeRegisters(s, b, {1}); });
     row("all removed", ",", 0, [](auto& s, auto& b) { return removeRegisters(s, b, {0, 1, 2}); });
-    row("one inserted before", "B,C", 0, [](auto& s, auto& b) { return insertRegisters(s, b, 0, {made("N", 9)}); });
-    row("between", "B,C", 0, [](auto& s, auto& b) { return insertRegisters(s, b, 2, {made("N", 9), made("M", 8)}); });
+    row("one inserted before", "B,C", 1, [](auto& s, auto& b) { return insertRegisters(s, b, 0, {made("N", 9)}); });
+    row("between", "B,C", 2, [](auto& s, auto& b) { return insertRegisters(s, b, 2, {made("N", 9), made("M", 8)}); });
     row("all others", "X,Y", 3, [](auto& s, auto& b) {
       return setRegisters(s, b, {made("W", 7), made("X", 8), made("Y", 9)});
     });
