@@ -64,11 +64,12 @@ Edit_Result addMiddleGroup(Project_Session& session, int main, int middle, const
 /// What `remove` would delete.
 struct Deletion {
   qsizetype mAddresses = 0;
-  qsizetype mUses = 0; ///< bindings to these addresses
+  qsizetype mUses = 0;       ///< bindings to these addresses
+  qsizetype mRecordings = 0; ///< recordings of them
 };
 [[nodiscard]] Deletion whatRemoves(Project_Session& session, const QList<QUuid>& keys, const Address_Usage& usage);
 
-/// Deletes them with everything below. Bindings keep their copy and point to nothing then.
+/// Deletes them with everything below. Bindings keep their copy and point to nothing then, as recordings do.
 Edit_Result remove(Project_Session& session, const QList<QUuid>& keys);
 
 /// Gives an address another number, also in another group, which is made when it is missing; a group is renumbered with

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QSet>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -179,6 +180,9 @@ Address_Edits::Deletion Address_Edits::whatRemoves(Project_Session& session, con
     deletion.mAddresses += tree.subGroup(key) ? 1 : 0;
     deletion.mUses += usage.count(key);
   }
+  const auto& recordings = session.database().mStatistic.mRecordings;
+  deletion.mRecordings = std::ranges::count_if(
+      recordings, [&known](const DB_Statistic::Recording& recording) { return known.contains(recording.mAddressKey); });
   return deletion;
 }
 

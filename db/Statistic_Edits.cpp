@@ -166,6 +166,17 @@ std::vector<Statistic_Edits::Fault> Statistic_Edits::faultsOf(const ProjectDatab
   return faults;
 }
 
+QList<int> Statistic_Edits::recordingsOf(const ProjectDatabase& database, const QUuid& address) {
+  QList<int> indexes;
+  const std::vector<Recording>& recordings = database.mStatistic.mRecordings;
+  for (int i = 0; i < static_cast<int>(recordings.size()); ++i) {
+    if (recordings[static_cast<size_t>(i)].mAddressKey == address) {
+      indexes.append(i);
+    }
+  }
+  return indexes;
+}
+
 Edit_Result Statistic_Edits::add(Project_Session& session, Recording recording) {
   if (Edit_Result fault = check(session.database(), recording, nullptr); !fault) {
     return fault;

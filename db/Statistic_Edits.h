@@ -44,6 +44,9 @@ struct Fault {
 /// Whether the project has a controller of that number; 0 is the main one and always there.
 [[nodiscard]] bool hasController(const ProjectDatabase& database, int number);
 
+/// Those that record the address of that key, in their order.
+[[nodiscard]] QList<int> recordingsOf(const ProjectDatabase& database, const QUuid& address);
+
 /// At the end of the list.
 Edit_Result add(Project_Session& session, Recording recording);
 /// What is wrong already may stay so.

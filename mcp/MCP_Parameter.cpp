@@ -131,7 +131,7 @@ QJsonObject MCP_Parameter::schema() const {
 bool MCP_Parameter::isOfType(const QJsonValue& value) const {
   switch (mType) {
   case Type::Text:
-    return value.isString();
+    return value.isString() || (mTakesFlag && value.isBool());
   case Type::Integer:
     return (value.isDouble() && value.toDouble() == std::trunc(value.toDouble())) || (mTakesFlag && value.isBool());
   case Type::Number:

@@ -29,7 +29,7 @@ public:
   [[nodiscard]] MCP_Parameter required() const;
   /// Both included.
   [[nodiscard]] MCP_Parameter within(double minimum, double maximum) const;
-  /// An integer that is called with true and false as well, for 1 and 0.
+  /// An integer that is called with true and false as well, for 1 and 0; a text that is called with them.
   [[nodiscard]] MCP_Parameter orFlag() const;
   /// Declared as an object, but is a list.
   [[nodiscard]] MCP_Parameter reallyList() const;

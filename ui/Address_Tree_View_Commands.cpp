@@ -167,7 +167,12 @@ void Address_Tree_View::onDelete() {
     question += u' ' + tr("Auf sie zeigen Verknüpfungen: %1. Diese bleiben und zeigen dann auf keine Adresse mehr.")
                            .arg(Decimal_Text::count(deletion.mUses));
   }
-  if ((hidden > 0 || deletion.mUses > 0) &&
+  if (deletion.mRecordings > 0) {
+    question +=
+        u' ' + tr("Sie werden aufgezeichnet, Aufzeichnungen: %1. Diese bleiben und haben dann keine Adresse mehr.")
+                   .arg(Decimal_Text::count(deletion.mRecordings));
+  }
+  if ((hidden > 0 || deletion.mUses > 0 || deletion.mRecordings > 0) &&
       !Message_Box::askYesNo(this, question + QStringLiteral("\n\n") + tr("Trotzdem löschen?"))) {
     return;
   }

@@ -1,6 +1,7 @@
 #include "db/Address_Edits.h"
 #include "db/Address_Usage.h"
 #include "db/ProjectDatabase.h"
+#include "db/Statistic_Edits.h"
 #include "fb/model/FB_Types.h"
 #include "mcp/MCP_Address_Json.h"
 #include "mcp/MCP_Call.h"
@@ -99,6 +100,23 @@ QJsonArray textsOf(const ProjectDatabase& database, const Address_Usage& usage, 
   return texts;
 }
 
+/// Those that record nothing any more when the address is gone.
+void addRecordings(MCP_Call& call, const QUuid& key, QJsonObject& object) {
+  QJsonArray recordings;
+  for (const int index : Statistic_Edits::recordingsOf(call.database(), key)) {
+    const DB_Statistic::Recording& recording = call.database().mStatistic.mRecordings[static_cast<size_t>(index)];
+    recordings.append(QJsonObject{{QStringLiteral("index"), index}, {QStringLiteral("name"), recording.mName}});
+  }
+  if (recordings.isEmpty()) {
+    return;
+  }
+  object.insert(QStringLiteral("recordings"), recordings);
+  call.warn(
+      QStringLiteral("Aufzeichnungen, deren Adresse es jetzt nicht mehr gibt: %1 (update_statistic_recording oder "
+                     "delete_statistic_recording).")
+          .arg(recordings.size()));
+}
+
 MCP_Result deleteAddress(MCP_Call& call) {
   const auto group = MCP_Lookup::groupAddress(call, call.arguments());
   if (!group) {
@@ -111,8 +129,9 @@ MCP_Result deleteAddress(MCP_Call& call) {
       {QStringLiteral("binding_count"), usage.count(key)}};
   if (usage.count(key) > 0) {
     object.insert(QStringLiteral("bindings"), textsOf(call.database(), usage, key));
-    call.warn(QStringLiteral("Verknuepfungen, die jetzt auf keine Adresse mehr zeigen: %1").arg(usage.count(key)));
+    call.warn(QStringLiteral("Verknuepfungen, die jetzt auf keine Adresse mehr zeigen: %1.").arg(usage.count(key)));
   }
+  addRecordings(call, key, object);
   return MCP_Result::of(Address_Edits::remove(call.session(), {key}), object);
 }
 

@@ -43,6 +43,9 @@ private:
   void refuse(const QString& fault) { mFault = mFault.isEmpty() ? fault : mFault; }
 
   bool yes(const char* name) {
+    if (mCall.value(name).isBool()) {
+      return mCall.flag(name);
+    }
     const QString word = mCall.text(name).trimmed().toLower();
     const bool isYes = QStringList{QStringLiteral("true"), QStringLiteral("1"), QStringLiteral("ja")}.contains(word);
     if (!isYes && !word.isEmpty() && word != u"false" && word != u"0" && word != u"nein") {
@@ -229,11 +232,14 @@ MCP_Tool Address_Tools::import() {
        MCP_Parameter::text("file_content", "Inhalt der Datei, statt file_path"),
        MCP_Parameter::text("format", "esf, xml oder csv. Standard: am Inhalt erkannt"),
        MCP_Parameter::text("keep_type",
-                           "Datentyp vorhandener Adressen behalten: true/1/ja oder false/0/nein (Standard)"),
+                           "Datentyp vorhandener Adressen behalten: true/1/ja oder false/0/nein (Standard)")
+           .orFlag(),
        MCP_Parameter::text(
            "keep_comment",
-           "Bezeichnung und Beschreibung des Vorhandenen behalten: true/1/ja oder false/0/nein (Standard)"),
-       MCP_Parameter::text("import_new_only", "Nur neue Adressen uebernehmen: true/1/ja oder false/0/nein (Standard)"),
+           "Bezeichnung und Beschreibung des Vorhandenen behalten: true/1/ja oder false/0/nein (Standard)")
+           .orFlag(),
+       MCP_Parameter::text("import_new_only", "Nur neue Adressen uebernehmen: true/1/ja oder false/0/nein (Standard)")
+           .orFlag(),
        MCP_Parameter::integer("connected_addresses",
                               "Verbundene Adressen einer ESF: 0 = nicht beachten (Standard), 1 = in die Beschreibung")
            .within(0, 1),

@@ -179,7 +179,18 @@ private slots:
     QCOMPARE(object[u"bindings"_s][0][u"fb_guid"_s].toString(), rig.mAnd.toString());
     QVERIFY(object[u"bindings"_s][0][u"text"_s].toString().contains(u"Eingang 1"_s));
     QVERIFY(object[u"warning"_s].toString().contains(u'1'));
+    QVERIFY(!object.contains(u"recordings"));
     QVERIFY(!rig.mSession.database().mAddresses.subGroup({1, 2, 3}));
+  }
+
+  void deletingTellsWhatIsRecordedNoMore() {
+    Address_Rig rig;
+    rig.call(u"add_statistic_recording"_s, json("{'address':'1/2/5'}"));
+    rig.call(u"add_statistic_recording"_s, json("{'address':'1/2/4','name':'Wohnen'}"));
+    const QJsonObject object = rig.call(u"delete_address"_s, json("{'main':1,'middle':2,'sub':4}"));
+    QCOMPARE(object[u"recordings"_s].toArray(), QJsonArray({json("{'index':1,'name':'Wohnen'}")}));
+    QVERIFY(object[u"warning"_s].toString().startsWith(u"Aufzeichnungen"_s));
+    QCOMPARE(rig.mSession.database().mStatistic.mRecordings.size(), size_t(2));
   }
 
   void batchBindsAll() {
@@ -430,9 +441,10 @@ void Address_Tools_Test::edits_data() {
       "5 Spalten.']}");
   row('{' + esf + ",'keep_type':'ja','keep_comment':'1','import_new_only':'FALSE'}", {}, "{'new':1,'conflicts':0}");
   row('{' + esf + ",'import_new_only':'true'}", {}, "{'new':1,'changed':0,'conflicts':0}");
+  row('{' + esf + ",'import_new_only':true,'keep_type':false}", {}, "{'new':1,'changed':0,'conflicts':0}");
   row('{' + esf + ",'keep_type':'vielleicht'}",
       u"keep_type ungueltig: vielleicht (erlaubt: true, 1, ja, false, 0, nein)"_s);
-  row('{' + esf + ",'keep_type':true}", cAnyError);
+  row('{' + esf + ",'keep_type':1}", cAnyError);
   row('{' + esf + ",'format':'pdf'}", u"format ungueltig: pdf (erlaubt: esf, xml, csv)"_s);
   row('{' + esf + ",'format':'xml'}", cAnyError);
   row('{' + esf + ",'connected_addresses':2}", cAnyError);

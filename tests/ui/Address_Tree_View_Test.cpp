@@ -211,6 +211,21 @@ private slots:
     }
   }
 
+  void deletingAsksWhenItIsRecorded() {
+    DB_Statistic::Recording recording;
+    recording.mAddressKey = tree().subGroup(Group_Address(1, 2, 4))->mKey;
+    mRig->mSession.database().mStatistic.mRecordings = {recording};
+    for (const Qt::Key answer : {Qt::Key_N, Qt::Key_J}) {
+      select({1, 2, 4});
+      QString question;
+      answerSoon(answer, question);
+      QTest::keyClick(mTree, Qt::Key_Delete);
+      QVERIFY2(question.contains(QStringLiteral("Aufzeichnungen: 1")), qPrintable(question));
+      QVERIFY2(!question.contains(QStringLiteral("Verknüpfungen")), qPrintable(question));
+      QCOMPARE(tree().subGroup(Group_Address(1, 2, 4)) == nullptr, answer == Qt::Key_J);
+    }
+  }
+
   void copyCutAndPaste() {
     select({1, 2, 3});
     QTest::keySequence(mTree, QKeySequence::Copy);
