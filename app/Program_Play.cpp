@@ -19,7 +19,7 @@ void Program_Play::toggle() {
   if (isRunning()) {
     cancel();
   } else if (state.operatingMode()) {
-    state.setOperatingMode(false);
+    leave();
   } else {
     mIsForced = mIsQuiet = false;
     enter();
@@ -33,7 +33,15 @@ void Program_Play::setOn(bool isOn, bool isForced) {
     enter();
   } else if (!isOn) {
     cancel();
-    mSession.state().setOperatingMode(false);
+    leave();
+  }
+}
+
+void Program_Play::leave() {
+  Session_State& state = mSession.state();
+  if (state.operatingMode()) {
+    state.setOperatingMode(false);
+    emit info(tr("Bedienmodus ausgeschaltet.")); // in the place of what was told of it
   }
 }
 

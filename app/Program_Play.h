@@ -44,6 +44,7 @@ signals:
 
 private:
   void enter();
+  void leave();
   void start();
   void tellFailure(const QString& text);
   void onFinished(Controller_Exchange::End end);

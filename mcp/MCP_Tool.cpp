@@ -25,7 +25,7 @@ QJsonObject MCP_Tool::toJson() const {
 
 QString MCP_Tool::faultOf(const QJsonObject& arguments) const {
   for (const MCP_Parameter& parameter : mParameters) {
-    const QString fault = parameter.faultOf(arguments.value(parameter.name()));
+    QString fault = parameter.faultOf(arguments.value(parameter.name()));
     if (!fault.isEmpty()) {
       return fault;
     }

@@ -162,13 +162,13 @@ MCP_Result assignBatch(MCP_Call& call) {
     return MCP_Result::failed(QStringLiteral("Parameter 'assignments' ist leer: mindestens eine Zuweisung angeben"));
   }
   std::vector<Assignment> assignments;
-  const MCP_Result checked = checkAll(entries.mEntries, *block, assignments);
+  MCP_Result checked = checkAll(entries.mEntries, *block, assignments);
   if (!checked) {
     return checked;
   }
   QJsonArray done;
   for (const Assignment& assignment : assignments) {
-    const MCP_Result result = assign(call, assignment);
+    MCP_Result result = assign(call, assignment);
     if (!result) {
       return result;
     }

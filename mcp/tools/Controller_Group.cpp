@@ -111,7 +111,7 @@ QString read(const QJsonValue& value, DB_Controller& controller) {
   }
   const QJsonObject object = value.toObject();
   for (const MCP_Parameter& member : members()) {
-    if (const QString fault = member.faultOf(object.value(member.name())); !fault.isEmpty()) {
+    if (QString fault = member.faultOf(object.value(member.name())); !fault.isEmpty()) {
       return fault;
     }
   }

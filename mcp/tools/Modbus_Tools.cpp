@@ -87,7 +87,7 @@ MCP_Result change(MCP_Call& call, Edit&& edit) {
     return block.mFailure;
   }
   const DB_FB_Control before = *block;
-  const MCP_Result result = edit(before);
+  MCP_Result result = edit(before);
   if (!result) {
     return result;
   }

@@ -15,9 +15,9 @@ constexpr qsizetype cTextLimit = 255;
 
 /// A member of the connection, and which parameter of the block it is.
 struct Setting {
-  const char* mName;
-  int mParameter;
-  const char* mDescription;
+  const char* mName = "";
+  int mParameter = 0;
+  const char* mDescription = "";
   bool mIsText = false;
 };
 

@@ -143,7 +143,7 @@ New_Project::Options optionsOf(const MCP_Call& call) {
 }
 
 QString faultOfNew(const MCP_Call& call, const QString& path) {
-  const QString fault = Project_Tools_Path::faultOfTarget(path);
+  QString fault = Project_Tools_Path::faultOfTarget(path);
   if (!fault.isEmpty()) {
     return fault;
   }

@@ -39,7 +39,7 @@ QString Project_Tools_Path::fault(const QString& path) {
 }
 
 QString Project_Tools_Path::faultOfTarget(const QString& path) {
-  const QString ofPath = fault(path);
+  QString ofPath = fault(path);
   if (!ofPath.isEmpty()) {
     return ofPath;
   }

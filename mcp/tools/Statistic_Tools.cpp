@@ -13,7 +13,6 @@
 namespace {
 
 using Recording = Statistic_Edits::Recording;
-using Statistic_Edits::Field;
 
 const std::vector<Recording>& recordingsOf(const MCP_Call& call) {
   return call.database().mStatistic.mRecordings;
@@ -179,7 +178,7 @@ MCP_Result takeTrigger(MCP_Call& call, Recording& recording) {
     recording.mTriggerTimeSecs = Statistic_Edits::cUsualSeconds;
   }
   recording.mTriggerValue = call.number("trigger_value", recording.mTriggerValue);
-  const MCP_Result result = takeInterval(call, recording);
+  MCP_Result result = takeInterval(call, recording);
   if (result) {
     warnOfIdle(call, recording);
   }
