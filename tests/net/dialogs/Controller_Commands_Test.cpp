@@ -278,11 +278,12 @@ private slots:
     Commands_Rig rig;
     rig.mSettings.setValue(Setting::AskBeforeWriteBootProject, setting);
     Session_State state;
+    constexpr qint64 then = 1'000'000;
     if (sinceToolCall >= 0) {
-      state.beginToolCall(0);
-      state.endToolCall(0);
+      state.beginToolCall(then);
+      state.endToolCall(then);
     }
-    QCOMPARE(Dev_Write_Persistent_Project_Dlg::mustAsk(rig.mSettings, state, sinceToolCall), isAsked);
+    QCOMPARE(Dev_Write_Persistent_Project_Dlg::mustAsk(rig.mSettings, state, then + sinceToolCall), isAsked);
   }
 
   void projectIsLoadedIntoAFile() {
