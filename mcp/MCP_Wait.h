@@ -15,6 +15,7 @@ class MCP_Wait : public QObject {
 public:
   explicit MCP_Wait(std::chrono::milliseconds most) {
     mTimer.setSingleShot(true);
+    mTimer.setTimerType(Qt::PreciseTimer); // never shorter than asked for
     connect(&mTimer, &QTimer::timeout, &mLoop, &QEventLoop::quit);
     mTimer.setInterval(most);
   }
