@@ -4,6 +4,7 @@
 #include "db/ProjectDatabase.h"
 #include "mcp/MCP_Call.h"
 #include "mcp/MCP_Lookup.h"
+#include "mcp/MCP_Members.h"
 
 #include <QHash>
 
@@ -81,45 +82,15 @@ MCP_Result getControllerList(MCP_Call& call) {
   return MCP_Result::done(object);
 }
 
-const std::vector<MCP_Parameter>& members() {
-  static const std::vector<MCP_Parameter> members = {
-      MCP_Parameter::integer("index", "Nummer der Steuerung, 1 bis 255, jede nur einmal")
-          .required()
-          .within(1, cHighestNumber),
-      MCP_Parameter::text("name", "Name der Steuerung").required(),
-      MCP_Parameter::text("address", "IP-Adresse oder Rechnername, bei Bedarf mit ':' und Port").required(),
-      MCP_Parameter::flag("is_main", "true bei genau einer Steuerung (Standard: false)")};
+const MCP_Members& members() {
+  static const MCP_Members members(
+      {MCP_Parameter::integer("index", "Nummer der Steuerung, 1 bis 255, jede nur einmal")
+           .required()
+           .within(1, cHighestNumber),
+       MCP_Parameter::text("name", "Name der Steuerung").required(),
+       MCP_Parameter::text("address", "IP-Adresse oder Rechnername, bei Bedarf mit ':' und Port").required(),
+       MCP_Parameter::flag("is_main", "true bei genau einer Steuerung (Standard: false)")});
   return members;
-}
-
-QJsonObject memberSchemas() {
-  QJsonObject schemas;
-  for (const MCP_Parameter& member : members()) {
-    schemas.insert(member.name(), member.schema());
-  }
-  return schemas;
-}
-
-QString inEntry(qsizetype row, const QString& fault) {
-  return QStringLiteral("controllers[%1]: %2").arg(row).arg(fault);
-}
-
-/// The controller that a member of the list tells; empty with what is wrong.
-QString read(const QJsonValue& value, DB_Controller& controller) {
-  if (!value.isObject()) {
-    return QStringLiteral("der Eintrag ist kein Objekt");
-  }
-  const QJsonObject object = value.toObject();
-  for (const MCP_Parameter& member : members()) {
-    if (QString fault = member.faultOf(object.value(member.name())); !fault.isEmpty()) {
-      return fault;
-    }
-  }
-  controller.mNumber = object.value(QStringLiteral("index")).toInt();
-  controller.mName = object.value(QStringLiteral("name")).toString();
-  controller.mAddress = object.value(QStringLiteral("address")).toString();
-  controller.mIsMain = object.value(QStringLiteral("is_main")).toBool();
-  return {};
 }
 
 MCP_Result setControllerList(MCP_Call& call) {
@@ -129,14 +100,17 @@ MCP_Result setControllerList(MCP_Call& call) {
                                   .arg(list.size())
                                   .arg(cHighestNumber));
   }
-  Controllers controllers(static_cast<size_t>(list.size()));
-  for (qsizetype row = 0; row < list.size(); ++row) {
-    if (const QString fault = read(list.at(row), controllers[static_cast<size_t>(row)]); !fault.isEmpty()) {
-      return MCP_Result::failed(inEntry(row, fault));
-    }
+  MCP_Members::Entries entries = members().of(call, "controllers");
+  if (!entries) {
+    return entries.mFailure;
+  }
+  Controllers controllers;
+  controllers.reserve(entries.mEntries.size());
+  for (const MCP_Call& entry : entries.mEntries) {
+    controllers.push_back({entry.integer("index"), entry.text("name"), entry.text("address"), entry.flag("is_main")});
   }
   if (const auto faults = Controller_Edits::faultsOf(controllers); !faults.empty()) {
-    return MCP_Result::failed(inEntry(faults.front().mRow, faults.front().mText));
+    return MCP_Result::failed(MCP_Members::place("controllers", faults.front().mRow) + faults.front().mText);
   }
   if (const Edit_Result set = Controller_Edits::setControllers(call.session(), std::move(controllers)); !set) {
     return MCP_Result::failed(set.mError);
@@ -170,8 +144,7 @@ std::vector<MCP_Tool> Controller_Group::all() {
            "ihre Zuordnung. Wirkt auf der Steuerung erst nach write_project_to_controller; die eigene Nummer "
            "bekommt jedes Geraet mit set_controller_index."),
        {MCP_Parameter::list("controllers", "Alle Steuerungen des Verbunds, hoechstens 255; leer = kein Verbund",
-                            memberSchemas(),
-                            {QStringLiteral("index"), QStringLiteral("name"), QStringLiteral("address")})
+                            members().properties(), members().required())
             .required()},
        setControllerList,
        QStringLiteral("Steuerungsliste ändern")},

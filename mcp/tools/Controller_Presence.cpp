@@ -10,10 +10,6 @@
 
 namespace {
 
-QString textOf(const Group_Address& address) {
-  return QStringLiteral("%1/%2/%3").arg(address.main()).arg(address.middle()).arg(address.sub());
-}
-
 bool isOnline(const MCP_Call& call) {
   const Value_Service* const service = call.session().valueService();
   return service && service->isOnline();
@@ -52,7 +48,7 @@ QJsonObject presence(MCP_Call& call, const Group_Address& address) {
   const DB_Address_Sub_Group& group = *call.database().mAddresses.subGroup(address);
   const Address_Value* const value = call.session().values().find(group.mKey);
   QJsonObject object{{QStringLiteral("available"), true},
-                     {QStringLiteral("address"), textOf(address)},
+                     {QStringLiteral("address"), address.toString()},
                      {QStringLiteral("comment"), group.mName},
                      {QStringLiteral("connected"), isOnline(call)}};
   putValue(object, value && value->mValue ? value->mValue->number() : std::nullopt);
@@ -132,14 +128,14 @@ MCP_Result setPresenceMode(MCP_Call& call) {
   if (!payload) {
     return MCP_Result::failed(QStringLiteral("Der Datentyp der Variable %1 (%2) kann den Wert %3 nicht halten: %4")
                                   .arg(House_Mode::cVariable)
-                                  .arg(textOf(*address), number, error));
+                                  .arg(address->toString(), number, error));
   }
   if (const Edit_Result sent = call.session().valueService()->send(group.mKey, *payload); !sent) {
     return MCP_Result::failed(sent.mError);
   }
   return MCP_Result::done({{QStringLiteral("value"), wanted.mValue},
                            {QStringLiteral("mode"), House_Mode::name(wanted.mValue)},
-                           {QStringLiteral("address"), textOf(*address)},
+                           {QStringLiteral("address"), address->toString()},
                            {QStringLiteral("comment"), group.mName}});
 }
 

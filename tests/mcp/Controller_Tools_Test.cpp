@@ -77,7 +77,7 @@ void Controller_Tools_Test::theListIsOneStep() {
 void Controller_Tools_Test::aListThatIsWrongNamesTheEntry_data() {
   QTest::addColumn<QByteArray>("second");
   QTest::addColumn<QString>("error");
-  QTest::newRow("no object") << QByteArray("null") << u"kein Objekt"_s;
+  QTest::newRow("no object") << QByteArray("null") << u"erwartet ein Objekt"_s;
   QTest::newRow("no name") << QByteArray(R"({"index":4,"address":"a"})") << u"Parameter 'name' fehlt"_s;
   QTest::newRow("number as text") << QByteArray(R"({"index":"4","name":"K","address":"a"})") << u"'index'"_s;
   QTest::newRow("huge") << QByteArray(R"({"index":1e99,"name":"K","address":"a"})") << u"'index'"_s;
